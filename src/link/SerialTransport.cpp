@@ -1,0 +1,112 @@
+#include "SerialTransport.h"
+
+#include <QElapsedTimer>
+
+namespace {
+// One character at 9600 baud 8N1 takes 10 bits: about 1.04 ms. Once a reply has started to
+// arrive, each further byte is allowed twice that.
+constexpr int kPerByteAllowanceMs = 2;
+} // namespace
+
+SerialTransport::SerialTransport() : m_port(std::make_unique<QSerialPort>()) {}
+
+SerialTransport::~SerialTransport()
+{
+    close();
+}
+
+bool SerialTransport::open(const QString &systemPort)
+{
+    close();
+    m_error.clear();
+    m_port->setPortName(systemPort);
+    if (!m_port->open(QIODevice::ReadWrite)) {
+        noteError();
+        return false;
+    }
+    const bool ok =
+        m_port->setBaudRate(QSerialPort::Baud9600) && m_port->setDataBits(QSerialPort::Data8) &&
+        m_port->setParity(QSerialPort::NoParity) && m_port->setStopBits(QSerialPort::OneStop) &&
+        m_port->setFlowControl(QSerialPort::NoFlowControl);
+    if (!ok) {
+        noteError();
+        m_port->close();
+        return false;
+    }
+    m_port->clear();
+    return true;
+}
+
+bool SerialTransport::isOpen() const
+{
+    return m_port->isOpen();
+}
+
+qint64 SerialTransport::write(const QByteArray &bytes)
+{
+    if (!m_port->isOpen())
+        return -1;
+    const qint64 n = m_port->write(bytes);
+    if (n < 0) {
+        noteError();
+        return -1;
+    }
+    // Blocking semantics, as the program has always had: the bytes leave before we go on.
+    while (m_port->bytesToWrite() > 0) {
+        if (!m_port->waitForBytesWritten(1000)) {
+            noteError();
+            return m_port->error() == QSerialPort::ResourceError ? -1 : n;
+        }
+    }
+    return n;
+}
+
+QByteArray SerialTransport::read(int count)
+{
+    QByteArray out;
+    if (!m_port->isOpen() || count <= 0)
+        return out;
+    QElapsedTimer clock;
+    clock.start();
+    const qint64 limit = m_readTimeout + qint64(count) * kPerByteAllowanceMs;
+    while (out.size() < count) {
+        if (m_port->bytesAvailable() > 0) {
+            out += m_port->read(count - out.size());
+            continue;
+        }
+        const qint64 left = limit - clock.elapsed();
+        if (left <= 0)
+            break;
+        if (!m_port->waitForReadyRead(int(left))) {
+            if (m_port->error() == QSerialPort::ResourceError) {
+                noteError();
+                m_port->close();
+                break;
+            }
+            if (m_port->bytesAvailable() == 0 && clock.elapsed() >= limit)
+                break;
+        }
+    }
+    return out;
+}
+
+void SerialTransport::purge()
+{
+    if (m_port->isOpen())
+        m_port->clear();
+}
+
+void SerialTransport::close()
+{
+    if (m_port && m_port->isOpen())
+        m_port->close();
+}
+
+void SerialTransport::noteError()
+{
+    if (m_port->error() == QSerialPort::ResourceError)
+        m_error = QStringLiteral("device gone: ") + m_port->errorString();
+    else
+        m_error = m_port->errorString();
+    m_port->clearError();
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Transport.h"
+
+#include <QSerialPort>
+#include <memory>
+
+// The serial port at 9600 baud, 8 data bits, no parity, one stop bit.
+class SerialTransport final : public Transport
+{
+public:
+    SerialTransport();
+    ~SerialTransport() override;
+    Q_DISABLE_COPY_MOVE(SerialTransport)
+
+    // Opens the system port (a name such as "ttyUSB0", "COM3" or a path such as "/dev/pts/3").
+    bool open(const QString &systemPort);
+
+    bool isOpen() const override;
+    qint64 write(const QByteArray &bytes) override;
+    QByteArray read(int count) override;
+    void purge() override;
+    void close() override;
+    int readTimeout() const override { return m_readTimeout; }
+    void setReadTimeout(int ms) override { m_readTimeout = ms; }
+    QString errorString() const override { return m_error; }
+
+    static constexpr int kDefaultReadTimeoutMs = 30;
+
+private:
+    void noteError();
+
+    std::unique_ptr<QSerialPort> m_port;
+    int m_readTimeout = kDefaultReadTimeoutMs;
+    QString m_error;
+};

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Commands.h"
+
+#include <QString>
+#include <array>
+
+class Transport;
+class UserPrompt;
+
+using ChannelBytes = std::array<quint8, kLongChannelRecord>;
+using SampleBytes = std::array<quint8, 7>;
+using ValueTableBytes = std::array<quint8, kValueSlice * kValueSlices>;
+
+// Called before every command frame with the port number; a mini-programmer that needs a
+// wake-up sequence says it here. A directly connected validator needs nothing.
+bool Preambule(Transport *transport, quint8 comPortNumber);
+
+// The link object: every exchange with the validator goes through SendCommand.
+class TMonnayeur final
+{
+public:
+    TMonnayeur(Transport *transport, UserPrompt *prompt, quint8 comPortNumber = 1);
+    Q_DISABLE_COPY_MOVE(TMonnayeur)
+
+    // One command exchange: command byte, count echo, data block, reply within 900 ms.
+    bool SendCommand(const quint8 *data, quint8 command, quint8 replyLength, quint8 dataLength,
+                     quint8 *reply, bool awaitReply, bool showMessage);
+    // One read of exactly count bytes within the port's per-read time-out.
+    bool ReadPort(int count, quint8 *buffer);
+
+    bool ReadSample(quint8 index, bool extended, SampleBytes &sample);
+    bool CheckPresence(bool showMessage);
+    bool ReadChannel(quint8 index, bool longForm, ChannelBytes &record);
+    bool WriteChannel(quint8 index, const ChannelBytes &record, bool longForm);
+    // Reads a fixed-size block (commands 2, 7, 8, 9, 10, 13, 15, 19, 21, 23) into out.
+    bool ReadBlock(quint8 command, quint8 *out);
+    // Writes a fixed-size block (commands 6, 12, 14, 18, 20, 22); true when accepted.
+    bool WriteBlock(quint8 command, const quint8 *data);
+    bool ReadValueTable(ValueTableBytes &table);
+    bool WriteValueTable(const ValueTableBytes &table);
+    bool ExecuteCommand(quint8 command);
+
+    // Short and long channel records.
+    static ChannelBytes widenRecord(const quint8 *shortRecord);
+    static std::array<quint8, kShortChannelRecord> narrowRecord(const ChannelBytes &record);
+
+    const QString &LastLinkError() const { return m_lastLinkError; }
+    // The shared link-good flag: cleared when a shown exchange fails.
+    bool linkGood() const { return m_linkGood; }
+    void setLinkGood(bool good) { m_linkGood = good; }
+    // The status byte of the last write (0 = accepted).
+    quint8 lastStatus() const { return m_lastStatus; }
+
+    Transport *transport() const { return m_transport; }
+    UserPrompt *prompt() const { return m_prompt; }
+    quint8 comPortNumber() const { return m_comPortNumber; }
+
+    // The reply window of one exchange, in milliseconds.
+    static constexpr int kReplyWindowMs = 900;
+
+private:
+    bool writeAccepted(quint8 command, const quint8 *data, quint8 dataLength);
+    void fail(const QString &text);
+
+    Transport *m_transport;
+    UserPrompt *m_prompt;
+    quint8 m_comPortNumber;
+    QString m_lastLinkError;
+    bool m_linkGood = true;
+    quint8 m_lastStatus = 0;
+};

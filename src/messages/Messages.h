@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// Every user-visible message of the program, in one table. The English text is the key that
+// Qt Linguist translates (context "Messages"); the texts are kept exactly as the program has
+// always shown them, spelling included.
+enum class Msg
+{
+    // link
+    InternalOrCommunicationError,
+    CommunicationError,
+    ReadingErrorFromValidator,
+    PortNotFree,
+    SelectPort,
+    ConnectValidator,
+    // reading and writing
+    ValidatorReadingInProgress,
+    SavingInProgress,
+    FinishedOperation,
+    FaultDuringSave,
+    OperationCancelled,
+    InvalidCodeTable,
+    IncorrectVersion,
+    SaveOnValidator,
+    ByMiniPgm,
+    NotAvailable,
+    // editor values
+    ValueBetween0And255,
+    ValueOverMaximum,
+    ValueUnderMinimum,
+    ValueOverMs,
+    WrongWayCounter,
+    ModifyingBase1,
+    ModifyingBase2,
+    MultiPulseIncompatible,
+    ImpossibleDisplacement,
+    // records
+    IdentificationMustBeFilled,
+    ExistOverwrite,
+    FileSaved,
+    ValidityNotGuaranteed,
+    // learning and calibration
+    SelectChannelNumber,
+    NumberOfCoinsLess,
+    ModifyAnotherChannel,
+    CalibrateAnotherChannel,
+    ValuesDirectlySaved,
+    MatchedChannelLoad,
+    NoMatchedData,
+    DoorOpen,
+    PrepareGoldenTokens,
+    PrepareSilverTokens,
+    InsertGoldenTokens,
+    InsertSilverTokens,
+    ReferenceChannelSaved,
+    ProgrammingError,
+    ChannelEmpty,
+    NoOverlapping,
+    // value tables
+    TableTransferred,
+    AllDataTransferred,
+    // shell
+    NextStart,
+    UpgradeOver,
+    OperationCancelledByOperator,
+    UpdatingPleaseWait,
+    DontStop,
+    PleaseConnectMiniProgrammer,
+    Count_
+};
+
+// The translated text of a message, with its %d and %s place holders filled in order from args.
+QString messageText(Msg id, const QStringList &args = {});
+
+// The untranslated English text (the Linguist source text).
+const char *messageSource(Msg id);
+
+// Fills the printf-style place holders %d, %s (and %%) of a text, in order, from args.
+QString fillPlaceholders(const QString &text, const QStringList &args);
