@@ -1,0 +1,116 @@
+#include "CliContext.h"
+
+#include "Messages.h"
+#include "PortChoice.h"
+#include "PortMap.h"
+#include "SerialTransport.h"
+#include "SimulatedLink.h"
+#include "TracingTransport.h"
+
+void CliPrompt::tell(const QString &text, Kind)
+{
+    m_told.append(text);
+    m_err << text << Qt::endl;
+}
+
+UserPrompt::Answer CliPrompt::ask(const QString &text, Kind, Buttons buttons)
+{
+    m_told.append(text);
+    Answer a = m_answer;
+    // Keep the answer within the buttons offered.
+    if (buttons == Buttons::OkCancel && (a == Answer::Yes || a == Answer::No))
+        a = a == Answer::Yes ? Answer::Ok : Answer::Cancel;
+    if ((buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel) &&
+        (a == Answer::Ok || a == Answer::Cancel))
+        a = a == Answer::Ok ? Answer::Yes : Answer::No;
+    m_err << text << Qt::endl;
+    return a;
+}
+
+CliContext::CliContext(const GlobalOptions &options, QTextStream &out, QTextStream &err,
+                       bool progressToTerminal)
+    : m_options(options), m_out(out), m_err(err), m_progress(progressToTerminal), m_prompt(err)
+{}
+
+CliContext::~CliContext()
+{
+    m_link.reset();
+    if (m_transport)
+        m_transport->close();
+}
+
+std::unique_ptr<Transport> CliContext::openTransport(int &comPortNumber)
+{
+    if (m_options.simulate) {
+        comPortNumber = 1;
+        return makeSimulatedTransport(quint8(m_options.simFamily));
+    }
+    if (!m_options.device.isEmpty()) {
+        comPortNumber = 1;
+        auto serial = std::make_unique<SerialTransport>();
+        if (!serial->open(m_options.device)) {
+            m_err << m_options.device << ": " << serial->errorString() << Qt::endl;
+            return nullptr;
+        }
+        return serial;
+    }
+    SerialPortOpener opener;
+    if (!m_options.port.isEmpty()) {
+        if (PortFromCommandLine({m_options.port}, comPortNumber)) {
+            m_err << "tarvik-cli: --port takes COM and one digit, such as COM4" << Qt::endl;
+            return nullptr;
+        }
+    } else {
+        const ProbeResult probe = FindValidatorPort(opener);
+        if (!probe.answered) {
+            m_err << "No validator answered on COM1 to COM9; name the port with --port or "
+                     "--device."
+                  << Qt::endl;
+            return nullptr;
+        }
+        comPortNumber = probe.comPortNumber;
+    }
+    auto transport = opener.ComInit(comPortNumber);
+    if (!transport)
+        m_prompt.tell(messageText(Msg::PortNotFree, {QString::number(comPortNumber)}),
+                      UserPrompt::Kind::Error);
+    return transport;
+}
+
+TMonnayeur *CliContext::openLink()
+{
+    if (m_link)
+        return m_link.get();
+    int comPortNumber = 1;
+    m_transport = openTransport(comPortNumber);
+    if (!m_transport)
+        return nullptr;
+    Transport *wire = m_transport.get();
+    if (!m_options.trace.isEmpty()) {
+        m_traceFile = std::make_unique<QFile>(m_options.trace);
+        if (!m_traceFile->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
+            m_err << m_options.trace << ": " << m_traceFile->errorString() << Qt::endl;
+            return nullptr;
+        }
+        m_traceStream = std::make_unique<QTextStream>(m_traceFile.get());
+        m_tracing = std::make_unique<TracingTransport>(wire, m_traceStream.get());
+        wire = m_tracing.get();
+    }
+    m_link = std::make_unique<TMonnayeur>(wire, &m_prompt, quint8(comPortNumber));
+    return m_link.get();
+}
+
+void CliContext::showProgress(const QString &label, int percent)
+{
+    if (!m_progress)
+        return;
+    m_err << '\r' << label << ' ' << percent << '%' << Qt::flush;
+    m_progressShown = true;
+}
+
+void CliContext::endProgress()
+{
+    if (m_progressShown)
+        m_err << Qt::endl;
+    m_progressShown = false;
+}

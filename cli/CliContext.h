@@ -1,0 +1,100 @@
+#pragma once
+
+#include "TMonnayeur.h"
+#include "Transport.h"
+#include "UserPrompt.h"
+
+#include <QFile>
+#include <QMap>
+#include <QStringList>
+#include <QTextStream>
+#include <functional>
+#include <memory>
+
+// Exit codes of tarvik-cli.
+inline constexpr int kExitOk = 0;
+inline constexpr int kExitFailed = 1;
+inline constexpr int kExitUsage = 2;
+
+// Messages go to stderr; questions are answered by the command's flags (the default answer),
+// since nobody sits at the terminal to click.
+class CliPrompt final : public UserPrompt
+{
+public:
+    explicit CliPrompt(QTextStream &err) : m_err(err) {}
+    void tell(const QString &text, Kind kind) override;
+    Answer ask(const QString &text, Kind kind, Buttons buttons) override;
+    void setAnswer(Answer a) { m_answer = a; }
+    const QStringList &told() const { return m_told; }
+
+private:
+    QTextStream &m_err;
+    Answer m_answer = Answer::Cancel;
+    QStringList m_told;
+};
+
+struct GlobalOptions
+{
+    QString device;
+    QString port; // COMn
+    bool simulate = false;
+    int simFamily = 0x13;
+    QString dataDir;
+    QString trace;
+};
+
+// What every command gets: the options, the streams, the prompt and, on request, the link.
+class CliContext
+{
+public:
+    CliContext(const GlobalOptions &options, QTextStream &out, QTextStream &err,
+               bool progressToTerminal);
+    ~CliContext();
+    Q_DISABLE_COPY_MOVE(CliContext)
+
+    const GlobalOptions &options() const { return m_options; }
+    QTextStream &out() { return m_out; }
+    QTextStream &err() { return m_err; }
+    CliPrompt &prompt() { return m_prompt; }
+    bool progressToTerminal() const { return m_progress; }
+
+    // Opens the link the options name (device, port, virtual validator, or the probe).
+    // On failure the reason has been printed and nullptr is returned.
+    TMonnayeur *openLink();
+    Transport *transport() const { return m_link ? m_link->transport() : nullptr; }
+
+    // Shows a gauge on stderr when it is a terminal.
+    void showProgress(const QString &label, int percent);
+    void endProgress();
+
+private:
+    std::unique_ptr<Transport> openTransport(int &comPortNumber);
+
+    GlobalOptions m_options;
+    QTextStream &m_out;
+    QTextStream &m_err;
+    bool m_progress;
+    CliPrompt m_prompt;
+    std::unique_ptr<Transport> m_transport;
+    std::unique_ptr<QFile> m_traceFile;
+    std::unique_ptr<QTextStream> m_traceStream;
+    std::unique_ptr<Transport> m_tracing;
+    std::unique_ptr<TMonnayeur> m_link;
+    bool m_progressShown = false;
+};
+
+struct CliCommand
+{
+    QString usage; // "read [-o FILE]"
+    QString help;
+    std::function<int(CliContext &, const QStringList &)> run;
+};
+using CliCommandTable = QMap<QString, CliCommand>;
+
+// Each group of commands registers itself here.
+void registerLinkCommands(CliCommandTable &table);
+
+// Runs tarvik-cli with the arguments after the program name.
+int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
+           bool progressToTerminal = false);
+QString cliUsage(const CliCommandTable &table);

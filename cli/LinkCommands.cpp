@@ -1,0 +1,82 @@
+#include "CliContext.h"
+#include "ConfigFile.h"
+#include "Messages.h"
+#include "PortChoice.h"
+#include "ReadSequence.h"
+
+namespace {
+
+int probeCommand(CliContext &cli, const QStringList &args)
+{
+    if (!args.isEmpty())
+        return kExitUsage;
+    const auto &o = cli.options();
+    if (o.simulate || !o.device.isEmpty() || !o.port.isEmpty()) {
+        // A named link is probed with the connect command alone.
+        TMonnayeur *link = cli.openLink();
+        if (!link || !link->CheckPresence(false)) {
+            cli.err() << "No validator answered." << Qt::endl;
+            return kExitFailed;
+        }
+        cli.out() << (o.port.isEmpty() ? QStringLiteral("COM1") : o.port.toUpper()) << Qt::endl;
+        return kExitOk;
+    }
+    SerialPortOpener opener;
+    const ProbeResult probe = FindValidatorPort(opener);
+    if (!probe.answered) {
+        cli.err() << "No validator answered on COM1 to COM9." << Qt::endl;
+        return kExitFailed;
+    }
+    cli.out() << "COM" << probe.comPortNumber << Qt::endl;
+    return kExitOk;
+}
+
+int readCommand(CliContext &cli, const QStringList &args)
+{
+    QString output;
+    for (int i = 0; i < args.size(); ++i) {
+        if ((args[i] == QLatin1String("-o") || args[i] == QLatin1String("--output")) &&
+            i + 1 < args.size())
+            output = args[++i];
+        else
+            return kExitUsage;
+    }
+    TMonnayeur *link = cli.openLink();
+    if (!link)
+        return kExitFailed;
+
+    ConfigImage image = ConfigImage::blank();
+    ReadObserver observer;
+    const QString label = messageText(Msg::ValidatorReadingInProgress);
+    observer.progress = [&](int gauge) { cli.showProgress(label, gauge); };
+    const ReadOutcome outcome = readValidator(*link, image, false, observer);
+    cli.endProgress();
+    if (outcome != ReadOutcome::Done)
+        return kExitFailed; // the link has printed the program's own message
+
+    if (output.isEmpty()) {
+        cli.out() << QString::fromUtf8(configToJson(image)) << Qt::flush;
+        return kExitOk;
+    }
+    QString error;
+    if (!saveConfigFile(output, image, &error)) {
+        cli.err() << error << Qt::endl;
+        return kExitFailed;
+    }
+    return kExitOk;
+}
+
+} // namespace
+
+void registerLinkCommands(CliCommandTable &table)
+{
+    table.insert(QStringLiteral("probe"),
+                 {QStringLiteral("probe"),
+                  QStringLiteral("probes COM1 to COM9 and prints the port that answered"),
+                  probeCommand});
+    table.insert(QStringLiteral("read"),
+                 {QStringLiteral("read [-o FILE]"),
+                  QStringLiteral("reads the whole validator into a configuration file "
+                                 "(stdout without -o)"),
+                  readCommand});
+}

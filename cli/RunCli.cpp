@@ -1,0 +1,100 @@
+#include "CliContext.h"
+
+namespace {
+
+// Splits the global options off the front and back of the command line.
+bool parseGlobal(QStringList &args, GlobalOptions &o, QString &error)
+{
+    QStringList rest;
+    for (int i = 0; i < args.size(); ++i) {
+        const QString a = args.at(i);
+        auto value = [&](QString &into) {
+            if (i + 1 >= args.size()) {
+                error = a + QStringLiteral(" needs a value");
+                return false;
+            }
+            into = args.at(++i);
+            return true;
+        };
+        if (a == QLatin1String("--device")) {
+            if (!value(o.device))
+                return false;
+        } else if (a == QLatin1String("--port")) {
+            if (!value(o.port))
+                return false;
+        } else if (a == QLatin1String("--data-dir")) {
+            if (!value(o.dataDir))
+                return false;
+        } else if (a == QLatin1String("--trace")) {
+            if (!value(o.trace))
+                return false;
+        } else if (a == QLatin1String("--simulate")) {
+            o.simulate = true;
+        } else if (a == QLatin1String("--sim-family")) {
+            QString text;
+            if (!value(text))
+                return false;
+            bool ok = false;
+            o.simFamily = text.toInt(&ok, 0);
+            if (!ok || o.simFamily < 0 || o.simFamily > 255) {
+                error = QStringLiteral("--sim-family takes a byte such as 0x13");
+                return false;
+            }
+            o.simulate = true;
+        } else {
+            rest.append(a);
+        }
+    }
+    const int sources = int(!o.device.isEmpty()) + int(!o.port.isEmpty()) + int(o.simulate);
+    if (sources > 1) {
+        error = QStringLiteral("--device, --port and --simulate exclude each other");
+        return false;
+    }
+    args = rest;
+    return true;
+}
+
+} // namespace
+
+QString cliUsage(const CliCommandTable &table)
+{
+    QString text = QStringLiteral(
+        "usage: tarvik-cli [--device PATH | --port COMn | --simulate [--sim-family BYTE]]\n"
+        "                  [--data-dir DIR] [--trace FILE] COMMAND [ARGS]\n\ncommands:\n");
+    for (auto it = table.cbegin(); it != table.cend(); ++it)
+        text += QStringLiteral("  %1\n      %2\n").arg(it->usage, it->help);
+    text += QStringLiteral("\nexit codes: 0 success, 1 the operation failed, 2 bad usage\n");
+    return text;
+}
+
+int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
+           bool progressToTerminal)
+{
+    CliCommandTable table;
+    registerLinkCommands(table);
+
+    QStringList args = arguments;
+    if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {
+        out << cliUsage(table);
+        return kExitOk;
+    }
+    GlobalOptions options;
+    QString error;
+    if (!parseGlobal(args, options, error)) {
+        err << "tarvik-cli: " << error << "\n\n" << cliUsage(table);
+        return kExitUsage;
+    }
+    if (args.isEmpty() || !table.contains(args.first())) {
+        err << (args.isEmpty() ? QStringLiteral("tarvik-cli: no command")
+                               : QStringLiteral("tarvik-cli: unknown command ") + args.first())
+            << "\n\n"
+            << cliUsage(table);
+        return kExitUsage;
+    }
+    const CliCommand command = table.value(args.takeFirst());
+    CliContext context(options, out, err, progressToTerminal);
+    const int code = command.run(context, args);
+    if (code == kExitUsage)
+        err << "usage: tarvik-cli " << command.usage << Qt::endl;
+    return code;
+}

@@ -1,0 +1,17 @@
+#include "CliContext.h"
+
+#include <QCoreApplication>
+#include <cstdio>
+#include <unistd.h>
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Brunfeld"));
+    QCoreApplication::setApplicationName(QStringLiteral("Tarvik"));
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    QStringList args = QCoreApplication::arguments();
+    args.removeFirst();
+    return runCli(args, out, err, isatty(STDERR_FILENO) != 0);
+}

@@ -1,0 +1,98 @@
+#include "PortChoice.h"
+
+#include "Messages.h"
+#include "PortMap.h"
+#include "SerialTransport.h"
+#include "TMonnayeur.h"
+#include "UserPrompt.h"
+
+bool SerialPortOpener::PortComFree(int n)
+{
+    const QString port = PortMap::systemPortFor(n);
+    if (port.isEmpty())
+        return false;
+    SerialTransport probe;
+    const bool free = probe.open(port);
+    probe.close();
+    return free;
+}
+
+std::unique_ptr<Transport> SerialPortOpener::ComInit(int n)
+{
+    const QString port = PortMap::systemPortFor(n);
+    if (port.isEmpty())
+        return nullptr;
+    auto transport = std::make_unique<SerialTransport>();
+    if (!transport->open(port))
+        return nullptr;
+    return transport;
+}
+
+void CloseCom(std::unique_ptr<Transport> &transport)
+{
+    if (transport)
+        transport->close();
+    transport.reset();
+}
+
+ProbeResult FindValidatorPort(PortOpener &opener)
+{
+    ProbeResult result;
+    SilentPrompt silent;
+    while (!result.answered && result.comPortNumber < 9) {
+        ++result.comPortNumber;
+        if (!opener.PortComFree(result.comPortNumber))
+            continue;
+        std::unique_ptr<Transport> transport = opener.ComInit(result.comPortNumber);
+        result.items.append(QStringLiteral("Com%1").arg(result.comPortNumber));
+        if (transport) {
+            TMonnayeur link(transport.get(), &silent, quint8(result.comPortNumber));
+            result.answered = link.CheckPresence(false);
+        }
+        CloseCom(transport);
+    }
+    return result;
+}
+
+bool PortFromCommandLine(const QStringList &arguments, int &comPortNumber)
+{
+    for (const QString &argument : arguments) {
+        const QString upper = argument.toUpper();
+        const qsizetype at = upper.indexOf(QLatin1String("COM"));
+        if (at < 0)
+            continue;
+        // Only the one character right after COM is read.
+        const QChar digit = at + 3 < upper.size() ? upper.at(at + 3) : QChar();
+        if (!digit.isDigit())
+            return true;
+        comPortNumber = digit.digitValue();
+        return false;
+    }
+    return true;
+}
+
+std::optional<OpenedLink> OpenValidatorLink(PortOpener &opener, const QStringList &arguments,
+                                            PortDialog *dialog, UserPrompt *prompt)
+{
+    const ProbeResult probe = FindValidatorPort(opener);
+    int port = probe.comPortNumber;
+    if (!probe.answered && PortFromCommandLine(arguments, port)) {
+        if (!dialog)
+            return std::nullopt;
+        const auto index = dialog->choosePort(probe.items, probe.items.isEmpty() ? -1 : 0);
+        if (!index)
+            return std::nullopt;
+        // The position in the list, not the number shown in the item.
+        port = *index + 1;
+    }
+    OpenedLink link;
+    link.comPortNumber = port;
+    link.transport = opener.ComInit(port);
+    if (!link.transport) {
+        if (prompt)
+            prompt->tell(messageText(Msg::PortNotFree, {QString::number(port)}),
+                         UserPrompt::Kind::Error);
+        return std::nullopt;
+    }
+    return link;
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QStringList>
+#include <memory>
+#include <optional>
+
+class Transport;
+class UserPrompt;
+
+// Opens ports by number; the serial implementation goes through the port map, tests use
+// virtual validators.
+class PortOpener
+{
+public:
+    virtual ~PortOpener() = default;
+    // PortComFree: COMn exists and is not in use.
+    virtual bool PortComFree(int n) = 0;
+    // ComInit: opens COMn at 9600 8N1; nullptr when it cannot (the handle -1).
+    virtual std::unique_ptr<Transport> ComInit(int n) = 0;
+};
+
+class SerialPortOpener final : public PortOpener
+{
+public:
+    bool PortComFree(int n) override;
+    std::unique_ptr<Transport> ComInit(int n) override;
+};
+
+void CloseCom(std::unique_ptr<Transport> &transport);
+
+// The port dialog: shows the probed items and returns the index of the item chosen with OK, or
+// nothing for Exit. (It shows "Select port !!!" itself while nothing is selected.)
+class PortDialog
+{
+public:
+    virtual ~PortDialog() = default;
+    virtual std::optional<int> choosePort(const QStringList &items, int selected) = 0;
+};
+
+struct ProbeResult
+{
+    bool answered = false;
+    int comPortNumber = 0; // the port that answered, or the last one tried
+    QStringList items;     // "Com1", "Com2", ... for every free port tried
+};
+
+// Probes COM1 to COM9 with the connect command, stopping at the first port that answers.
+ProbeResult FindValidatorPort(PortOpener &opener);
+
+// True when no parameter names a port; otherwise sets comPortNumber from the single character
+// after "COM" in the first parameter containing it (COM2 and /com2 give 2, COM12 gives 1).
+bool PortFromCommandLine(const QStringList &arguments, int &comPortNumber);
+
+struct OpenedLink
+{
+    std::unique_ptr<Transport> transport;
+    int comPortNumber = 0;
+};
+
+// Probe, then command line, then dialog; opens the chosen port. Nothing on Exit in the dialog
+// or when the port cannot be opened ("Comunication Port COM%d isn't free or Setting error.").
+std::optional<OpenedLink> OpenValidatorLink(PortOpener &opener, const QStringList &arguments,
+                                            PortDialog *dialog, UserPrompt *prompt);

@@ -1,0 +1,152 @@
+#include "PtyServer.h"
+
+#include "VirtualValidator.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <termios.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+// How often the loop looks at the stop flag while nothing happens.
+constexpr auto kIdleWait = std::chrono::milliseconds(100);
+// While no host holds the port the master reports errors; retry at this pace.
+constexpr auto kNoHostRetry = std::chrono::milliseconds(20);
+
+timespec toTimespec(std::chrono::nanoseconds d)
+{
+    if (d.count() < 0)
+        d = std::chrono::nanoseconds(0);
+    const auto s = std::chrono::duration_cast<std::chrono::seconds>(d);
+    return timespec{time_t(s.count()), long((d - s).count())};
+}
+} // namespace
+
+PtyServer::PtyServer(VirtualValidator *device, LineTiming *timing)
+    : m_device(device), m_timing(timing)
+{}
+
+PtyServer::~PtyServer()
+{
+    if (m_slave >= 0)
+        ::close(m_slave);
+    if (m_master >= 0)
+        ::close(m_master);
+}
+
+bool PtyServer::open(QString *error)
+{
+    auto failed = [&](const char *what) {
+        if (error)
+            *error = QStringLiteral("%1: %2").arg(QLatin1String(what),
+                                                  QString::fromLocal8Bit(std::strerror(errno)));
+        return false;
+    };
+    m_master = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
+    if (m_master < 0)
+        return failed("posix_openpt");
+    if (::grantpt(m_master) != 0 || ::unlockpt(m_master) != 0)
+        return failed("grantpt/unlockpt");
+    const char *name = ::ptsname(m_master);
+    if (!name)
+        return failed("ptsname");
+    m_slavePath = QString::fromLocal8Bit(name);
+
+    // Raw mode on the slave side: no echo, no line editing, every byte passes as it is.
+    m_slave = ::open(name, O_RDWR | O_NOCTTY | O_NONBLOCK);
+    if (m_slave < 0)
+        return failed("open slave");
+    termios tio{};
+    if (::tcgetattr(m_slave, &tio) != 0)
+        return failed("tcgetattr");
+    ::cfmakeraw(&tio);
+    ::cfsetispeed(&tio, B9600);
+    ::cfsetospeed(&tio, B9600);
+    if (::tcsetattr(m_slave, TCSANOW, &tio) != 0)
+        return failed("tcsetattr");
+    return true;
+}
+
+void PtyServer::serve(const volatile std::sig_atomic_t *stop)
+{
+    char buffer[512];
+    while (!*stop) {
+        sendDue();
+        auto wait = std::chrono::duration_cast<std::chrono::nanoseconds>(kIdleWait);
+        if (const auto next = m_timing->readyTime(1))
+            wait = std::min(wait, *next - LineTiming::Clock::now());
+        pollfd fd{m_master, POLLIN, 0};
+        const timespec timeout = toTimespec(wait);
+        const int ready = ::ppoll(&fd, 1, &timeout, nullptr);
+        if (ready < 0) {
+            if (errno == EINTR)
+                continue;
+            std::this_thread::sleep_for(kNoHostRetry);
+            continue;
+        }
+        if (ready == 0)
+            continue;
+        if (fd.revents & POLLIN) {
+            const ssize_t n = ::read(m_master, buffer, sizeof buffer);
+            if (n > 0) {
+                hostBytes(buffer, int(n));
+                continue;
+            }
+            if (n < 0 && (errno == EAGAIN || errno == EINTR))
+                continue;
+        }
+        // The host has closed its side (EIO, hang-up): wait for the next open.
+        m_timing->clear();
+        std::this_thread::sleep_for(kNoHostRetry);
+    }
+}
+
+void PtyServer::hostBytes(const char *bytes, int n)
+{
+    const auto now = LineTiming::Clock::now();
+    for (int i = 0; i < n; ++i) {
+        const auto heard = m_timing->hostByteArrives(now);
+        m_timing->schedule(heard, m_device->receive(QByteArray(1, bytes[i])));
+    }
+    report();
+    sendDue();
+}
+
+void PtyServer::sendDue()
+{
+    const QByteArray due = m_timing->take(LineTiming::Clock::now(), m_timing->waiting());
+    qsizetype done = 0;
+    while (done < due.size()) {
+        const ssize_t n = ::write(m_master, due.constData() + done, std::size_t(due.size() - done));
+        if (n > 0) {
+            done += n;
+        } else if (n < 0 && errno == EINTR) {
+            continue;
+        } else {
+            break; // nobody is listening: what is on the line is lost, as on a real cable
+        }
+    }
+}
+
+void PtyServer::report()
+{
+    if (!m_verbose) {
+        m_device->clearExchangeLog();
+        return;
+    }
+    for (const SimExchange &e : m_device->exchangeLog()) {
+        if (e.index >= 0)
+            std::fprintf(stderr, "tarvik-sim: command %d, index %d\n", e.command, e.index);
+        else
+            std::fprintf(stderr, "tarvik-sim: command %d\n", e.command);
+    }
+    m_device->clearExchangeLog();
+    if (m_device->miniProgrammer() && m_device->firmwareBlocks() != m_reportedBlocks) {
+        m_reportedBlocks = m_device->firmwareBlocks();
+        std::fprintf(stderr, "tarvik-sim: firmware block %d\n", m_reportedBlocks);
+    }
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "LineTiming.h"
+
+#include <QString>
+#include <csignal>
+
+class VirtualValidator;
+
+// Serves a virtual validator on a pseudo-terminal, so that the program (or any serial tool)
+// can open its slave side like a real port. The server keeps its own handle on the slave, so
+// a host closing and reopening the port never ends the service.
+class PtyServer final
+{
+public:
+    PtyServer(VirtualValidator *device, LineTiming *timing);
+    ~PtyServer();
+    Q_DISABLE_COPY_MOVE(PtyServer)
+
+    // Opens the pseudo-terminal in raw mode; on failure says why in *error.
+    bool open(QString *error);
+    // The path the host opens, such as /dev/pts/3.
+    const QString &slavePath() const { return m_slavePath; }
+    // Prints each exchange to stderr.
+    void setVerbose(bool on) { m_verbose = on; }
+
+    // Serves until *stop becomes non-zero (set from a signal handler).
+    void serve(const volatile std::sig_atomic_t *stop);
+
+private:
+    void hostBytes(const char *bytes, int n);
+    void sendDue();
+    void report();
+
+    VirtualValidator *m_device;
+    LineTiming *m_timing;
+    int m_master = -1;
+    int m_slave = -1;
+    QString m_slavePath;
+    bool m_verbose = false;
+    int m_reportedBlocks = 0;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "LineTiming.h"
+#include "Transport.h"
+
+class VirtualValidator;
+
+// An in-process port to a virtual validator that keeps real time: each read waits at most the
+// per-read time-out plus 2 ms per requested byte, as the serial port does, and returns what has
+// arrived by then (a partial read consumes its bytes).
+class SimTransport final : public Transport
+{
+public:
+    explicit SimTransport(VirtualValidator *device);
+    Q_DISABLE_COPY_MOVE(SimTransport)
+
+    VirtualValidator *device() const { return m_device; }
+    LineTiming &timing() { return m_timing; }
+    // Turn-around time between hearing a byte and answering it (1 ms by default).
+    void setLatencyMs(int ms) { m_timing.setLatencyMs(ms); }
+    // 9600 baud pacing, one byte every 1.0417 ms, in both directions.
+    void setPacing(bool on) { m_timing.setPacing(on); }
+
+    // Opens the port again after close().
+    void open() { m_open = true; }
+
+    bool isOpen() const override { return m_open; }
+    qint64 write(const QByteArray &bytes) override;
+    QByteArray read(int count) override;
+    void purge() override { m_timing.clear(); }
+    void close() override;
+    int readTimeout() const override { return m_readTimeout; }
+    void setReadTimeout(int ms) override { m_readTimeout = ms; }
+    QString errorString() const override { return {}; }
+
+    static constexpr int kDefaultReadTimeoutMs = 30;
+    static constexpr int kPerByteAllowanceMs = 2;
+
+private:
+    VirtualValidator *m_device;
+    LineTiming m_timing;
+    bool m_open = true;
+    int m_readTimeout = kDefaultReadTimeoutMs;
+};

@@ -1,0 +1,146 @@
+#include "PortChoice.h"
+#include "Messages.h"
+#include "RecordingPrompt.h"
+#include "Transport.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+namespace {
+
+// A port with or without a validator behind it: a validator echoes 0 to the connect command.
+class FakePort final : public Transport
+{
+public:
+    explicit FakePort(bool validator) : m_validator(validator) {}
+    bool isOpen() const override { return m_open; }
+    qint64 write(const QByteArray &bytes) override
+    {
+        if (m_validator && bytes == QByteArray(1, '\x01'))
+            m_pending += '\0';
+        return bytes.size();
+    }
+    QByteArray read(int count) override
+    {
+        const QByteArray out = m_pending.left(count);
+        m_pending.remove(0, out.size());
+        return out;
+    }
+    void purge() override { m_pending.clear(); }
+    void close() override { m_open = false; }
+    int readTimeout() const override { return 0; }
+    void setReadTimeout(int) override {}
+    QString errorString() const override { return {}; }
+
+private:
+    bool m_validator;
+    bool m_open = true;
+    QByteArray m_pending;
+};
+
+class FakeOpener final : public PortOpener
+{
+public:
+    std::set<int> free, validators, unopenable;
+    std::vector<int> opened;
+    bool PortComFree(int n) override { return free.count(n) > 0; }
+    std::unique_ptr<Transport> ComInit(int n) override
+    {
+        opened.push_back(n);
+        if (unopenable.count(n))
+            return nullptr;
+        return std::make_unique<FakePort>(validators.count(n) > 0);
+    }
+};
+
+class FakeDialog final : public PortDialog
+{
+public:
+    std::optional<int> answer;
+    int shown = 0;
+    QStringList items;
+    std::optional<int> choosePort(const QStringList &list, int) override
+    {
+        ++shown;
+        items = list;
+        return answer;
+    }
+};
+
+TEST(PortChoice, ProbeStopsAtFirstAnsweringPort)
+{
+    FakeOpener opener;
+    opener.free = {1, 2, 3, 4, 5};
+    opener.validators = {4, 5};
+    const ProbeResult probe = FindValidatorPort(opener);
+    EXPECT_TRUE(probe.answered);
+    EXPECT_EQ(probe.comPortNumber, 4);
+    EXPECT_EQ(probe.items, (QStringList{"Com1", "Com2", "Com3", "Com4"}));
+
+    FakeDialog dialog;
+    RecordingPrompt prompt;
+    const auto link = OpenValidatorLink(opener, {}, &dialog, &prompt);
+    ASSERT_TRUE(link);
+    EXPECT_EQ(link->comPortNumber, 4);
+    EXPECT_EQ(dialog.shown, 0);
+}
+
+TEST(PortChoice, ProbeNeverGoesAboveCom9)
+{
+    FakeOpener opener;
+    for (int n = 1; n <= 12; ++n)
+        opener.free.insert(n);
+    const ProbeResult probe = FindValidatorPort(opener);
+    EXPECT_FALSE(probe.answered);
+    EXPECT_EQ(probe.items.size(), 9);
+    EXPECT_EQ(probe.items.last(), QStringLiteral("Com9"));
+}
+
+TEST(PortChoice, CommandLineRules)
+{
+    int port = 0;
+    EXPECT_FALSE(PortFromCommandLine({"COM2"}, port));
+    EXPECT_EQ(port, 2);
+    EXPECT_FALSE(PortFromCommandLine({"-x", "/com7", "COM3"}, port));
+    EXPECT_EQ(port, 7);
+    EXPECT_FALSE(PortFromCommandLine({"COM12"}, port));
+    EXPECT_EQ(port, 1);
+    port = 0;
+    EXPECT_TRUE(PortFromCommandLine({"-x", "file"}, port));
+    EXPECT_EQ(port, 0);
+}
+
+TEST(PortChoice, CommandLineSkipsDialogAndDialogMapsByPosition)
+{
+    FakeOpener opener;
+    FakeDialog dialog;
+    RecordingPrompt prompt;
+    auto link = OpenValidatorLink(opener, {"COM7"}, &dialog, &prompt);
+    ASSERT_TRUE(link);
+    EXPECT_EQ(link->comPortNumber, 7);
+    EXPECT_EQ(dialog.shown, 0);
+
+    // COM1 busy, Com2 is the first item: choosing it gives port 1, as the program always did.
+    opener.free = {2, 3};
+    dialog.answer = 0;
+    link = OpenValidatorLink(opener, {}, &dialog, &prompt);
+    ASSERT_TRUE(link);
+    EXPECT_EQ(dialog.items, (QStringList{"Com2", "Com3"}));
+    EXPECT_EQ(link->comPortNumber, 1);
+
+    dialog.answer.reset(); // Exit
+    EXPECT_FALSE(OpenValidatorLink(opener, {}, &dialog, &prompt));
+}
+
+TEST(PortChoice, PortThatCannotOpenSaysSo)
+{
+    FakeOpener opener;
+    opener.unopenable = {7};
+    RecordingPrompt prompt;
+    EXPECT_FALSE(OpenValidatorLink(opener, {"COM7"}, nullptr, &prompt));
+    ASSERT_EQ(prompt.told().size(), 1);
+    EXPECT_EQ(prompt.told().first(),
+              QStringLiteral("Comunication Port COM7 isn't free or Setting error."));
+}
+
+} // namespace

@@ -1,0 +1,21 @@
+#include "Messages.h"
+
+#include <gtest/gtest.h>
+
+TEST(Messages, PlaceholdersFillInOrder)
+{
+    EXPECT_EQ(messageText(Msg::MultiPulseIncompatible, {"3", "7", "5"}),
+              QStringLiteral("The value of channels 3 and 7 is incompatible for the function "
+                             "multi-pulse (max 5 pulses)"));
+    EXPECT_EQ(messageText(Msg::ExistOverwrite, {"ABC"}), QStringLiteral("ABC exist! Overwrite ?"));
+    EXPECT_EQ(fillPlaceholders(QStringLiteral("100%% %d"), {"1"}), QStringLiteral("100% 1"));
+    // The texts stay exactly as the program has always shown them.
+    EXPECT_STREQ(messageSource(Msg::ReadingErrorFromValidator), "Reading Error fron validator");
+    EXPECT_STREQ(messageSource(Msg::ConnectValidator), "Connect validator ");
+}
+
+TEST(Messages, EveryEntryHasText)
+{
+    for (int i = 0; i < int(Msg::Count_); ++i)
+        EXPECT_NE(messageSource(Msg(i)), nullptr) << i;
+}
