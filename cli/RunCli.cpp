@@ -72,6 +72,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
 {
     CliCommandTable table;
     registerLinkCommands(table);
+    registerWriteCommands(table);
 
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {

@@ -69,6 +69,43 @@ constexpr std::array<const char *, static_cast<int>(Msg::Count_)> kTable = {
     QT_TRANSLATE_NOOP("Messages", "Updating... Please Wait !"),
     QT_TRANSLATE_NOOP("Messages", "Don't Stop or disconnect !!!"),
     QT_TRANSLATE_NOOP("Messages", "Please connect the mini-programer."),
+    QT_TRANSLATE_NOOP("Messages",
+                      "Channel %d of the validator differs from the one of this configuration: "
+                      "the windows may not suit this validator. Continue?"),
+    QT_TRANSLATE_NOOP("Messages",
+                      "The validator now holds a partly written configuration: nothing already "
+                      "written was undone. Write it again before use."),
+    QT_TRANSLATE_NOOP("Messages", "%s is missing"),
+    QT_TRANSLATE_NOOP("Messages", "%s cannot be opened: %s"),
+    QT_TRANSLATE_NOOP("Messages", "%s cannot be written: %s"),
+    QT_TRANSLATE_NOOP("Messages", "%s is not a dBase table of level 3, 4, 5 or 7"),
+    QT_TRANSLATE_NOOP("Messages",
+                      "%s has a damaged header: its header length, record length and field widths "
+                      "do not add up"),
+    QT_TRANSLATE_NOOP("Messages", "%s has a damaged header: field %s is not valid"),
+    QT_TRANSLATE_NOOP("Messages", "%s is truncated: it holds %s of its %s records"),
+    QT_TRANSLATE_NOOP("Messages", "%s has no field %s"),
+    QT_TRANSLATE_NOOP("Messages", "%s: field %s is of type %s where %s is expected"),
+    QT_TRANSLATE_NOOP("Messages", "%s is open in another program (%s); it is opened read-only"),
+    QT_TRANSLATE_NOOP("Messages", "%s cannot be changed: the file or its directory is read-only"),
+    QT_TRANSLATE_NOOP("Messages",
+                      "%s cannot be changed: its index tag %s (%s) is not one this program can "
+                      "keep up to date"),
+    QT_TRANSLATE_NOOP("Messages",
+                      "%s cannot be changed: its language driver %s sorts keys in an order "
+                      "this program cannot keep"),
+    QT_TRANSLATE_NOOP("Messages", "The value %s does not fit field %s of %s"),
+    QT_TRANSLATE_NOOP("Messages", "The index %s was not usable (%s) and has been rebuilt from %s"),
+    QT_TRANSLATE_NOOP("Messages", "The index %s is not usable (%s) and cannot be rebuilt now"),
+    QT_TRANSLATE_NOOP("Messages", "it is missing"),
+    QT_TRANSLATE_NOOP("Messages", "its header is damaged"),
+    QT_TRANSLATE_NOOP("Messages", "its pages are damaged"),
+    QT_TRANSLATE_NOOP("Messages", "its keys are out of order"),
+    QT_TRANSLATE_NOOP("Messages", "its entries do not match the records"),
+    QT_TRANSLATE_NOOP("Messages", "tag %s is missing or does not match its field"),
+    QT_TRANSLATE_NOOP("Messages", "its language driver differs from the table's"),
+    QT_TRANSLATE_NOOP("Messages", "The data directory %s has been created with empty tables"),
+    QT_TRANSLATE_NOOP("Messages", "Empty tables have been created in %s: %s"),
 };
 
 } // namespace

@@ -32,8 +32,10 @@ const CoinPreset &CoinGenerator::preset(CoinKind kind)
     return kPresets[std::size_t(std::clamp(int(kind), 0, kindCount() - 1))];
 }
 
-int CoinGenerator::scatter(int measurement)
+int CoinGenerator::scatter(CoinKind kind, int measurement)
 {
+    if (kind == CoinKind::ReferenceToken)
+        return 1;
     return kScatter[std::size_t(std::clamp(measurement, 0, 6))];
 }
 
@@ -51,7 +53,8 @@ SampleBytes CoinGenerator::sample(CoinKind kind, int offset)
 {
     SampleBytes out = typical(kind, offset);
     for (std::size_t i = 0; i < out.size(); ++i) {
-        std::uniform_int_distribution<int> spread(-kScatter[i], kScatter[i]);
+        const int most = scatter(kind, int(i));
+        std::uniform_int_distribution<int> spread(-most, most);
         out[i] = clampReading(out[i] + spread(m_rng));
     }
     return out;

@@ -39,8 +39,9 @@ public:
 
     static const CoinPreset &preset(CoinKind kind);
     static constexpr int kindCount() { return int(CoinKind::Count_); }
-    // The largest deviation of one reading from the typical value, per measurement.
-    static int scatter(int measurement);
+    // The largest deviation of one reading from the typical value, per measurement. Reference
+    // tokens are made to tight tolerances and scatter by one unit at most.
+    static int scatter(CoinKind kind, int measurement);
     // The typical reading on a validator whose sensors read `offset` units high or low.
     static SampleBytes typical(CoinKind kind, int offset);
 

@@ -135,16 +135,26 @@ void PtyServer::sendDue()
 void PtyServer::report()
 {
     if (!m_verbose) {
-        m_device->clearExchangeLog();
+        if (!m_device->exchangeInProgress())
+            m_device->clearExchangeLog(); // a long run keeps no history
         return;
     }
-    for (const SimExchange &e : m_device->exchangeLog()) {
-        if (e.index >= 0)
-            std::fprintf(stderr, "tarvik-sim: command %d, index %d\n", e.command, e.index);
+    // An exchange still waiting for its data block is printed once it has its index.
+    const QList<SimExchange> &log = m_device->exchangeLog();
+    const bool open = m_device->exchangeInProgress();
+    const int complete = int(log.size()) - (open ? 1 : 0);
+    for (int i = m_printedExchanges; i < complete; ++i) {
+        if (log[i].index >= 0)
+            std::fprintf(stderr, "tarvik-sim: command %d, index %d\n", log[i].command,
+                         log[i].index);
         else
-            std::fprintf(stderr, "tarvik-sim: command %d\n", e.command);
+            std::fprintf(stderr, "tarvik-sim: command %d\n", log[i].command);
     }
-    m_device->clearExchangeLog();
+    m_printedExchanges = complete;
+    if (!open) {
+        m_device->clearExchangeLog();
+        m_printedExchanges = 0;
+    }
     if (m_device->miniProgrammer() && m_device->firmwareBlocks() != m_reportedBlocks) {
         m_reportedBlocks = m_device->firmwareBlocks();
         std::fprintf(stderr, "tarvik-sim: firmware block %d\n", m_reportedBlocks);

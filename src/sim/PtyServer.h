@@ -38,5 +38,6 @@ private:
     int m_slave = -1;
     QString m_slavePath;
     bool m_verbose = false;
+    int m_printedExchanges = 0;
     int m_reportedBlocks = 0;
 };

@@ -125,7 +125,7 @@ ConfigImage VirtualValidator::factoryImage(quint8 familyByte, quint32 serial)
     const bool withAmplitude = image.longForm();
     std::array<int, 7> coinHalfWidth{};
     for (std::size_t m = 0; m < coinHalfWidth.size(); ++m)
-        coinHalfWidth[m] = CoinGenerator::scatter(int(m)) + kFactoryTolerance[m];
+        coinHalfWidth[m] = CoinGenerator::scatter(CoinKind::Euro100, int(m)) + kFactoryTolerance[m];
     for (std::size_t k = 0; k < kFactoryCoins.size(); ++k) {
         ChannelRecord &record = image.channels[k];
         setWindows(record, CoinGenerator::typical(kFactoryCoins[k].kind, offset), withAmplitude,
@@ -300,7 +300,8 @@ void VirtualValidator::finishExchange(QList<DeviceOutput> &out)
     case Cmd::ReadChannel:
     case Cmd::WriteValues:
     case Cmd::ReadValues:
-        m_log.last().index = quint8(m_data.at(0));
+        if (!m_log.isEmpty())
+            m_log.last().index = quint8(m_data.at(0));
         break;
     default:
         break;

@@ -55,6 +55,8 @@ public:
     // Every exchange answered since the last clear, in order.
     const QList<SimExchange> &exchangeLog() const { return m_log; }
     void clearExchangeLog() { m_log.clear(); }
+    // True while the device waits for the data block of the exchange logged last.
+    bool exchangeInProgress() const { return m_awaitingData; }
 
     // Coins waiting to be measured; command 0 stays silent while none is queued.
     void queueCoin(const SampleBytes &sample) { m_coins.push_back(sample); }

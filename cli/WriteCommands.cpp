@@ -1,0 +1,171 @@
+#include "CliContext.h"
+#include "ConfigFile.h"
+#include "FirmwareTransfer.h"
+#include "Messages.h"
+#include "WriteSequence.h"
+
+#include <QFile>
+
+namespace {
+
+bool loadImage(CliContext &cli, const QString &path, ConfigImage &image)
+{
+    QString error;
+    if (loadConfigFile(path, image, &error))
+        return true;
+    cli.err() << error << Qt::endl;
+    return false;
+}
+
+WriteObserver gaugeOnTerminal(CliContext &cli)
+{
+    WriteObserver observer;
+    observer.progress = [&cli](int gauge) {
+        cli.showProgress(messageText(Msg::SavingInProgress), gauge);
+    };
+    return observer;
+}
+
+int writeCommand(CliContext &cli, const QStringList &args)
+{
+    QString file;
+    FullWriteOptions options;
+    ConfigImage image;
+    quint32 serial = 0;
+    for (int i = 0; i < args.size(); ++i) {
+        if (args[i] == QLatin1String("--serial") && i + 1 < args.size()) {
+            bool ok = false;
+            serial = args[++i].toUInt(&ok);
+            if (!ok) {
+                cli.err() << "tarvik-cli: --serial takes a number from 0 to 4294967295" << Qt::endl;
+                return kExitUsage;
+            }
+            options.serialOverride = true;
+        } else if (file.isEmpty() && !args[i].startsWith(u'-')) {
+            file = args[i];
+        } else {
+            return kExitUsage;
+        }
+    }
+    if (file.isEmpty())
+        return kExitUsage;
+    if (!loadImage(cli, file, image))
+        return kExitFailed;
+    if (options.serialOverride)
+        image.setSerialNumber(serial);
+
+    TMonnayeur *link = cli.openLink();
+    if (!link)
+        return kExitFailed;
+    // Nobody answers a dialog here: the connect loop gives up after one try, and the warning
+    // about the last channel is printed while the write goes on.
+    cli.prompt().setAnswer(UserPrompt::Answer::Cancel);
+    options.lastChannelWarning = [&cli](const QString &warning) {
+        cli.err() << warning << Qt::endl;
+        return true;
+    };
+    const WriteOutcome outcome = fullWrite(*link, image, options, gaugeOnTerminal(cli));
+    cli.endProgress();
+    return outcome == WriteOutcome::Finished ? kExitOk : kExitFailed;
+}
+
+int cloneCommand(CliContext &cli, const QStringList &args)
+{
+    QString file;
+    CloneGroups groups;
+    for (int i = 0; i < args.size(); ++i) {
+        if (args[i] == QLatin1String("--groups") && i + 1 < args.size()) {
+            groups = CloneGroups{false, false, false, false, false};
+            const QStringList names = args[++i].split(u',', Qt::SkipEmptyParts);
+            for (const QString &name : names) {
+                if (name == QLatin1String("channels"))
+                    groups.channels = true;
+                else if (name == QLatin1String("values"))
+                    groups.values = true;
+                else if (name == QLatin1String("prices"))
+                    groups.prices = true;
+                else if (name == QLatin1String("config"))
+                    groups.config = true;
+                else if (name == QLatin1String("enable"))
+                    groups.enable = true;
+                else {
+                    cli.err() << "tarvik-cli: unknown group " << name << Qt::endl;
+                    return kExitUsage;
+                }
+            }
+            if (!groups.any()) {
+                cli.err() << "tarvik-cli: choose at least one group" << Qt::endl;
+                return kExitUsage;
+            }
+        } else if (file.isEmpty() && !args[i].startsWith(u'-')) {
+            file = args[i];
+        } else {
+            return kExitUsage;
+        }
+    }
+    if (file.isEmpty())
+        return kExitUsage;
+    ConfigImage image;
+    if (!loadImage(cli, file, image))
+        return kExitFailed;
+    TMonnayeur *link = cli.openLink();
+    if (!link)
+        return kExitFailed;
+    cli.prompt().setAnswer(UserPrompt::Answer::Cancel);
+    const WriteOutcome outcome = cloneWrite(*link, image, groups, gaugeOnTerminal(cli));
+    cli.endProgress();
+    return outcome == WriteOutcome::Finished ? kExitOk : kExitFailed;
+}
+
+int firmwareCommand(CliContext &cli, const QStringList &args)
+{
+    if (args.size() != 1 || args.first().startsWith(u'-'))
+        return kExitUsage;
+    // The whole file is read before anything is sent.
+    QFile file(args.first());
+    if (!file.open(QIODevice::ReadOnly)) {
+        cli.err() << args.first() << ": " << file.errorString() << Qt::endl;
+        return kExitFailed;
+    }
+    const QByteArray firmware = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        cli.err() << args.first() << ": " << file.errorString() << Qt::endl;
+        return kExitFailed;
+    }
+    // The mini-programmer is waiting for the file: no connect command goes first.
+    if (!cli.openLink())
+        return kExitFailed;
+    FirmwareTransfer transfer(cli.transport());
+    transfer.progress = [&cli](qint64 sent, qint64 total) {
+        if (sent % FirmwareTransfer::kBlockSize == 0 || sent == total)
+            cli.showProgress(QStringLiteral("%1 / %2 bytes").arg(sent).arg(total),
+                             int(sent * 100 / std::max<qint64>(total, 1)));
+    };
+    const auto result = transfer.FormTransfert(firmware);
+    cli.endProgress();
+    if (result == FirmwareTransfer::Result::UpgradeOver) {
+        cli.out() << messageText(Msg::UpgradeOver) << Qt::endl;
+        return kExitOk;
+    }
+    cli.err() << messageText(Msg::OperationCancelledByOperator) << Qt::endl;
+    return kExitFailed;
+}
+
+} // namespace
+
+void registerWriteCommands(CliCommandTable &table)
+{
+    table.insert(QStringLiteral("write"),
+                 {QStringLiteral("write FILE [--serial N]"),
+                  QStringLiteral("writes the whole configuration in FILE to the validator"),
+                  writeCommand});
+    table.insert(QStringLiteral("clone"),
+                 {QStringLiteral("clone FILE [--groups channels,values,prices,config,enable]"),
+                  QStringLiteral("copies the chosen groups of FILE onto another validator of the "
+                                 "same family"),
+                  cloneCommand});
+    table.insert(QStringLiteral("firmware"),
+                 {QStringLiteral("firmware FILE"),
+                  QStringLiteral("streams an S-record firmware file to the mini-programmer"),
+                  firmwareCommand});
+}

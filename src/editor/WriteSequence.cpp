@@ -1,0 +1,287 @@
+#include "WriteSequence.h"
+
+#include "Commands.h"
+#include "Encodings.h"
+#include "Messages.h"
+#include "ReadSequence.h"
+#include "UserPrompt.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+void tell(TMonnayeur &link, Msg id, UserPrompt::Kind kind = UserPrompt::Kind::Information)
+{
+    if (link.prompt())
+        link.prompt()->tell(messageText(id), kind);
+}
+
+// Connect loop: "Connect validator " until the validator answers or Cancel.
+bool connectLoop(TMonnayeur &link)
+{
+    while (!link.CheckPresence(false)) {
+        UserPrompt *prompt = link.prompt();
+        const auto answer =
+            prompt ? prompt->ask(messageText(Msg::ConnectValidator), UserPrompt::Kind::Information,
+                                 UserPrompt::Buttons::OkCancel)
+                   : UserPrompt::Answer::Cancel;
+        if (answer != UserPrompt::Answer::Ok)
+            return false;
+    }
+    return true;
+}
+
+WriteOutcome finish(TMonnayeur &link, int gauge)
+{
+    if (gauge == 100) {
+        tell(link, Msg::FinishedOperation);
+        return WriteOutcome::Finished;
+    }
+    tell(link, Msg::FaultDuringSave, UserPrompt::Kind::Error);
+    // Nothing already written is rolled back: say so plainly.
+    tell(link, Msg::WriteIncomplete, UserPrompt::Kind::Warning);
+    return WriteOutcome::Fault;
+}
+
+class Gauge
+{
+public:
+    explicit Gauge(const WriteObserver &observer) : m_observer(observer) {}
+    void set(int value)
+    {
+        m_value = std::min(value, 100); // held at its maximum
+        if (m_observer.progress)
+            m_observer.progress(m_value);
+    }
+    void add(int units) { set(m_value + units); }
+    int value() const { return m_value; }
+
+private:
+    const WriteObserver &m_observer;
+    int m_value = 0;
+};
+
+ChannelBytes recordBytes(const ChannelRecord &record)
+{
+    ChannelBytes bytes;
+    std::copy_n(record.begin(), bytes.size(), bytes.begin());
+    return bytes;
+}
+
+} // namespace
+
+int writeGaugeAfterChannel(int i)
+{
+    return roundHalfEven((i + 1) * 1.55);
+}
+
+WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &options,
+                       const WriteObserver &observer)
+{
+    bool cancelled = !connectLoop(link);
+
+    // The validator's last channel (its reference) against the image's.
+    if (!cancelled) {
+        const int last = image.channelCount() - 1;
+        ChannelBytes theirs;
+        if (link.ReadChannel(quint8(last), image.longForm(), theirs) &&
+            theirs != recordBytes(image.channels[std::size_t(last)])) {
+            const QString warning =
+                messageText(Msg::LastChannelDiffers, {QString::number(last + 1)});
+            bool goOn = true;
+            if (options.lastChannelWarning)
+                goOn = options.lastChannelWarning(warning);
+            else if (link.prompt())
+                goOn = link.prompt()->ask(warning, UserPrompt::Kind::Warning,
+                                          UserPrompt::Buttons::OkCancel) == UserPrompt::Answer::Ok;
+            cancelled = !goOn;
+        }
+    }
+    if (cancelled) {
+        tell(link, Msg::OperationCancelled);
+        return WriteOutcome::Cancelled;
+    }
+
+    if (options.codeTableCheck) {
+        const bool bad = std::any_of(image.prices.begin() + 2, image.prices.begin() + 5,
+                                     [](quint8 b) { return b == 0 || b == 255; });
+        if (bad)
+            tell(link, Msg::InvalidCodeTable, UserPrompt::Kind::Warning); // a warning only
+    }
+
+    Gauge gauge(observer);
+    gauge.set(0);
+    link.setLinkGood(true);
+
+    const int count = image.channelCount();
+    for (int i = 0; i < count && link.linkGood(); ++i) {
+        if (link.WriteChannel(quint8(i), recordBytes(image.channels[std::size_t(i)]),
+                              image.longForm()))
+            gauge.set(writeGaugeAfterChannel(i));
+    }
+    // 25 x 1.55 rounds to 39, and 39 + 54 = 93, where 60 channels end.
+    if (image.isLight())
+        gauge.add(54);
+
+    const Word2 today = EncodeDate16(options.today);
+    image.ident[0] = today[0];
+    image.ident[1] = today[1];
+
+    // Each step is skipped once the link has failed; the figure is what it adds on success.
+    Block6 ownBlock{};
+    bool ownBlockRead = false;
+    auto ran = [&](bool ok, int units) {
+        if (ok)
+            gauge.add(units);
+    };
+    if (link.linkGood())
+        ownBlockRead = link.ReadBlock(Cmd::ReadBlock2, ownBlock.data());
+    if (link.linkGood())
+        ran(link.WriteBlock(Cmd::WriteOptions, image.options.data()), 1);
+    if (link.linkGood()) {
+        ValueTableBytes values;
+        std::copy(image.values.begin(), image.values.end(), values.begin());
+        ran(link.WriteValueTable(values), 1);
+    }
+    if (link.linkGood())
+        ran(link.WriteBlock(Cmd::WritePrices, image.prices.data()), 1);
+    if (link.linkGood())
+        ran(link.WriteBlock(Cmd::WriteEnable, image.enable.data()), 1);
+    if (link.linkGood()) {
+        // The counters only travel when the option word says so; the step counts either way.
+        if (image.options[1] & 0x20)
+            ran(link.WriteBlock(Cmd::WriteCounters, image.counters.data()), 1);
+        else
+            gauge.add(1);
+    }
+    if (link.linkGood()) {
+        if (!options.serialOverride) {
+            // A validator keeps its own serial number and production date.
+            IdentRecord theirs{};
+            if (link.ReadBlock(Cmd::ReadIdent, theirs.data())) {
+                std::copy(theirs.begin() + 2, theirs.end(), image.ident.begin() + 2);
+                gauge.add(2);
+            }
+        } else {
+            options.serialOverride = false;
+        }
+    }
+    if (link.linkGood())
+        ran(link.WriteBlock(Cmd::WriteIdent, image.ident.data()), 1);
+    if (link.linkGood() && ownBlockRead)
+        ran(link.WriteBlock(Cmd::WriteBlock13, ownBlock.data()), 1);
+
+    return finish(link, gauge.value());
+}
+
+ChannelBytes correctedRecord(const quint8 *record, const quint8 *imageReference,
+                             const quint8 *targetReference)
+{
+    ChannelBytes out;
+    const bool empty = std::all_of(record, record + 14, [](quint8 b) { return b == 255; });
+    if (empty) {
+        out.fill(255);
+        return out;
+    }
+    for (int w = 0; w < 7; ++w) {
+        const int hi = 2 * w;
+        const int lo = hi + 1;
+        double factor = 1.0;
+        const bool set = imageReference[hi] != 255 && imageReference[lo] != 255 &&
+                         targetReference[hi] != 255 && targetReference[lo] != 255;
+        const double ours = (imageReference[hi] + imageReference[lo]) / 2.0;
+        const double theirs = (targetReference[hi] + targetReference[lo]) / 2.0;
+        if (set && ours > 0)
+            factor = theirs / ours;
+        for (int b : {hi, lo}) {
+            if (record[b] == 255) {
+                out[std::size_t(b)] = 255;
+                continue;
+            }
+            const long scaled = std::lround(record[b] * factor);
+            out[std::size_t(b)] = quint8(std::clamp(scaled, 0L, 254L));
+        }
+    }
+    out[14] = record[14];
+    return out;
+}
+
+WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneGroups &groups,
+                        const WriteObserver &observer)
+{
+    if (!connectLoop(link)) {
+        tell(link, Msg::OperationCancelled);
+        return WriteOutcome::Cancelled;
+    }
+    link.setLinkGood(true);
+    IdentRecord targetIdent{};
+    VersionBlock targetVersion{};
+    if (!link.ReadBlock(Cmd::ReadIdent, targetIdent.data()) ||
+        !link.ReadBlock(Cmd::ReadVersion, targetVersion.data()))
+        return finish(link, 0);
+    if (targetVersion[0] != image.version[0] || targetVersion[1] != image.version[1]) {
+        tell(link, Msg::IncorrectVersion, UserPrompt::Kind::Error);
+        return WriteOutcome::IncorrectVersion;
+    }
+    if (!groups.any())
+        return WriteOutcome::NoGroup;
+
+    // The gauge counts the steps that succeeded out of the steps this clone runs: one per
+    // channel when the channels group is chosen, one for the validator's own block, one per
+    // chosen block group. It reaches 100 exactly when every step succeeded, whatever the groups.
+    const int count = image.channelCount();
+    const int steps = (groups.channels ? count : 0) + 1 + int(groups.config) + int(groups.values) +
+                      int(groups.prices) + int(groups.enable);
+    int done = 0;
+    Gauge gauge(observer);
+    gauge.set(0);
+    auto succeeded = [&](bool ok) {
+        if (!ok)
+            return;
+        ++done;
+        gauge.set(done * 100 / steps);
+    };
+
+    if (groups.channels && link.linkGood()) {
+        const int ref = image.referenceChannel();
+        ChannelBytes targetRef;
+        if (link.ReadChannel(quint8(ref), image.longForm(), targetRef)) {
+            const quint8 *imageRef = image.channels[std::size_t(ref)].data();
+            for (int i = 0; i < count && link.linkGood(); ++i) {
+                // The reference channel stays the target's own.
+                const ChannelBytes record =
+                    i == ref ? targetRef
+                             : correctedRecord(image.channels[std::size_t(i)].data(), imageRef,
+                                               targetRef.data());
+                succeeded(link.WriteChannel(quint8(i), record, image.longForm()));
+            }
+        }
+    }
+    // The target keeps its own block: what command 2 gives goes back with command 12.
+    if (link.linkGood()) {
+        Block6 own{};
+        if (link.ReadBlock(Cmd::ReadBlock2, own.data()) && link.linkGood())
+            succeeded(link.WriteBlock(Cmd::WriteBlock13, own.data()));
+    }
+    if (groups.config && link.linkGood()) {
+        // Bits 4, 5 and 6 of the second byte are the target's own (outlet, erasable, counting).
+        OptionWord theirs{};
+        if (link.ReadBlock(Cmd::ReadOptions, theirs.data())) {
+            OptionWord word = image.options;
+            word[1] = quint8((word[1] & ~0x70) | (theirs[1] & 0x70));
+            succeeded(link.WriteBlock(Cmd::WriteOptions, word.data()));
+        }
+    }
+    if (groups.values && link.linkGood()) {
+        ValueTableBytes values;
+        std::copy(image.values.begin(), image.values.end(), values.begin());
+        succeeded(link.WriteValueTable(values));
+    }
+    if (groups.prices && link.linkGood())
+        succeeded(link.WriteBlock(Cmd::WritePrices, image.prices.data()));
+    if (groups.enable && link.linkGood())
+        succeeded(link.WriteBlock(Cmd::WriteEnable, image.enable.data()));
+
+    return finish(link, gauge.value());
+}

@@ -1,0 +1,208 @@
+// tarvik-sim: a virtual validator on a pseudo-terminal. The first line on stdout is the path of
+// the port to open; the device is served until SIGTERM or SIGINT.
+
+#include "ConfigFile.h"
+#include "LineTiming.h"
+#include "PtyServer.h"
+#include "VirtualValidator.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFile>
+#include <csignal>
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+volatile std::sig_atomic_t g_stop = 0;
+
+void onStopSignal(int)
+{
+    g_stop = 1;
+}
+
+void installStopHandlers()
+{
+    struct sigaction action = {};
+    action.sa_handler = onStopSignal;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = 0; // no restart: a waiting poll returns at once
+    sigaction(SIGTERM, &action, nullptr);
+    sigaction(SIGINT, &action, nullptr);
+}
+
+int fail(const QString &text)
+{
+    std::fprintf(stderr, "tarvik-sim: %s\n", qPrintable(text));
+    return 2;
+}
+
+// A number in decimal or with a 0x prefix, at most max.
+std::optional<quint32> number(const QString &text, quint32 max)
+{
+    bool ok = false;
+    const qulonglong v = text.trimmed().toULongLong(&ok, 0);
+    if (!ok || v > max)
+        return std::nullopt;
+    return quint32(v);
+}
+
+// "A:B" with both parts numbers; B optional when bMax is given a default.
+std::optional<std::pair<quint32, quint32>> pair(const QString &text, quint32 aMax, quint32 bMax,
+                                                std::optional<quint32> bDefault = {})
+{
+    const QStringList parts = text.split(u':');
+    if (parts.size() > 2 || (parts.size() == 1 && !bDefault))
+        return std::nullopt;
+    const auto a = number(parts[0], aMax);
+    const auto b = parts.size() == 2 ? number(parts[1], bMax) : bDefault;
+    if (!a || !b)
+        return std::nullopt;
+    return std::make_pair(*a, *b);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("tarvik-sim"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Virtual coin validator on a pseudo-terminal. Prints the port path as the "
+                       "first line and serves until SIGTERM or SIGINT."));
+    parser.addHelpOption();
+    const QCommandLineOption family({QStringLiteral("family")},
+                                    QStringLiteral("Firmware family byte (default 0x13)."),
+                                    QStringLiteral("byte"), QStringLiteral("0x13"));
+    const QCommandLineOption serial({QStringLiteral("serial")},
+                                    QStringLiteral("Serial number (default 1001)."),
+                                    QStringLiteral("n"), QStringLiteral("1001"));
+    const QCommandLineOption load({QStringLiteral("load")},
+                                  QStringLiteral("Memory from a configuration file."),
+                                  QStringLiteral("file"));
+    const QCommandLineOption save(
+        {QStringLiteral("save")},
+        QStringLiteral("Save the memory to a configuration file on exit."), QStringLiteral("file"));
+    const QCommandLineOption pace({QStringLiteral("pace")},
+                                  QStringLiteral("Send at 9600 baud (1.04 ms per byte)."));
+    const QCommandLineOption latency({QStringLiteral("latency")},
+                                     QStringLiteral("Turn-around time in ms (default 1)."),
+                                     QStringLiteral("ms"), QStringLiteral("1"));
+    const QCommandLineOption doorOpen({QStringLiteral("door-open")},
+                                      QStringLiteral("Start with the door open."));
+    const QCommandLineOption mini(
+        {QStringLiteral("mini-programmer")},
+        QStringLiteral("Receive a firmware file as the mini-programmer."));
+    const QCommandLineOption stopAfter(
+        {QStringLiteral("stop-after-block")},
+        QStringLiteral("Stop the firmware transfer after block N (55 AA, 55 A5)."),
+        QStringLiteral("n"));
+    const QCommandLineOption silentAck({QStringLiteral("silent-ack")},
+                                       QStringLiteral("Say nothing after a firmware block."));
+    const QCommandLineOption firmwareOut({QStringLiteral("firmware-out")},
+                                         QStringLiteral("Write the received firmware on exit."),
+                                         QStringLiteral("file"));
+    const QCommandLineOption wrongEcho({QStringLiteral("wrong-echo")},
+                                       QStringLiteral("Echo a wrong count for command CMD."),
+                                       QStringLiteral("cmd"));
+    const QCommandLineOption refuse(
+        {QStringLiteral("refuse")},
+        QStringLiteral("Refuse writes of CMD (only its N-th with CMD:N)."),
+        QStringLiteral("cmd[:n]"));
+    const QCommandLineOption delay({QStringLiteral("delay")},
+                                   QStringLiteral("Delay the reply of CMD by MS milliseconds."),
+                                   QStringLiteral("cmd:ms"));
+    const QCommandLineOption silentAfter({QStringLiteral("silent-after")},
+                                         QStringLiteral("Go silent after N exchanges."),
+                                         QStringLiteral("n"));
+    const QCommandLineOption quiet({QStringLiteral("quiet")},
+                                   QStringLiteral("Do not print exchanges to stderr."));
+    parser.addOptions({family, serial, load, save, pace, latency, doorOpen, mini, stopAfter,
+                       silentAck, firmwareOut, wrongEcho, refuse, delay, silentAfter, quiet});
+    parser.process(app);
+
+    const auto familyByte = number(parser.value(family), 0xFF);
+    if (!familyByte)
+        return fail(QStringLiteral("--family needs a byte, such as 0x13 or 19"));
+    const auto serialNumber = number(parser.value(serial), 0xFFFFFFFFu);
+    if (!serialNumber)
+        return fail(QStringLiteral("--serial needs a number from 0 to 4294967295"));
+    const auto latencyMs = number(parser.value(latency), 10000);
+    if (!latencyMs)
+        return fail(QStringLiteral("--latency needs milliseconds from 0 to 10000"));
+
+    VirtualValidator device(quint8(*familyByte), *serialNumber);
+    if (parser.isSet(load)) {
+        ConfigImage image;
+        QString error;
+        if (!loadConfigFile(parser.value(load), image, &error))
+            return fail(QStringLiteral("cannot load %1: %2").arg(parser.value(load), error));
+        device.setMemory(image);
+    }
+    device.setDoorOpen(parser.isSet(doorOpen));
+
+    for (const QString &v : parser.values(wrongEcho)) {
+        const auto cmd = number(v, 255);
+        if (!cmd)
+            return fail(QStringLiteral("--wrong-echo needs a command code, not \"%1\"").arg(v));
+        device.setWrongEcho(quint8(*cmd));
+    }
+    for (const QString &v : parser.values(refuse)) {
+        const auto p = pair(v, 255, 1000000, 0);
+        if (!p)
+            return fail(QStringLiteral("--refuse needs CMD or CMD:N, not \"%1\"").arg(v));
+        device.setRefusal(quint8(p->first), int(p->second));
+    }
+    for (const QString &v : parser.values(delay)) {
+        const auto p = pair(v, 255, 600000);
+        if (!p)
+            return fail(QStringLiteral("--delay needs CMD:MS, not \"%1\"").arg(v));
+        device.setReplyDelay(quint8(p->first), int(p->second));
+    }
+    if (parser.isSet(silentAfter)) {
+        const auto n = number(parser.value(silentAfter), 1000000000);
+        if (!n)
+            return fail(QStringLiteral("--silent-after needs a number of exchanges"));
+        device.setSilentAfter(int(*n));
+    }
+    if (parser.isSet(mini)) {
+        device.setMiniProgrammer(true);
+        if (parser.isSet(silentAck))
+            device.setFirmwareAck(VirtualValidator::FirmwareAck::Silent);
+        if (parser.isSet(stopAfter)) {
+            const auto n = number(parser.value(stopAfter), 1000000000);
+            if (!n || *n == 0)
+                return fail(QStringLiteral("--stop-after-block needs a block number from 1"));
+            device.setStopAfterBlock(int(*n));
+        }
+    }
+
+    LineTiming timing;
+    timing.setPacing(parser.isSet(pace));
+    timing.setLatencyMs(int(*latencyMs));
+
+    PtyServer server(&device, &timing);
+    server.setVerbose(!parser.isSet(quiet));
+    QString error;
+    if (!server.open(&error))
+        return fail(QStringLiteral("cannot open a pseudo-terminal: %1").arg(error));
+
+    installStopHandlers();
+    std::printf("%s\n", qPrintable(server.slavePath()));
+    std::fflush(stdout);
+    server.serve(&g_stop);
+
+    int status = 0;
+    if (parser.isSet(save) && !saveConfigFile(parser.value(save), device.memory(), &error))
+        status = fail(QStringLiteral("cannot save %1: %2").arg(parser.value(save), error));
+    if (parser.isSet(firmwareOut)) {
+        QFile out(parser.value(firmwareOut));
+        if (!out.open(QIODevice::WriteOnly) || out.write(device.firmwareBytes()) < 0)
+            status = fail(QStringLiteral("cannot write %1: %2")
+                              .arg(parser.value(firmwareOut), out.errorString()));
+    }
+    return status;
+}
