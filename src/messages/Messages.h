@@ -96,6 +96,8 @@ enum class Msg
     IndexReasonLanguage,
     RecordsDirectoryCreated,
     RecordsTablesCreated,
+    SettingsUnreadable,
+    FileNotReadable,
     Count_
 };
 

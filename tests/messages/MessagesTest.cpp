@@ -1,5 +1,6 @@
 #include "Messages.h"
 
+#include <QSet>
 #include <gtest/gtest.h>
 
 TEST(Messages, PlaceholdersFillInOrder)
@@ -12,10 +13,16 @@ TEST(Messages, PlaceholdersFillInOrder)
     // The texts stay exactly as the program has always shown them.
     EXPECT_STREQ(messageSource(Msg::ReadingErrorFromValidator), "Reading Error fron validator");
     EXPECT_STREQ(messageSource(Msg::ConnectValidator), "Connect validator ");
+    EXPECT_STREQ(messageSource(Msg::UpgradeOver), "Upgrade over...");
 }
 
-TEST(Messages, EveryEntryHasText)
+TEST(Messages, EveryIdHasItsOwnText)
 {
-    for (int i = 0; i < int(Msg::Count_); ++i)
-        EXPECT_NE(messageSource(Msg(i)), nullptr) << i;
+    QSet<QString> texts;
+    for (int i = 0; i < int(Msg::Count_); ++i) {
+        const QString text = QString::fromUtf8(messageSource(Msg(i)));
+        EXPECT_FALSE(text.isEmpty()) << "message " << i << " has no text";
+        EXPECT_FALSE(texts.contains(text)) << "two messages share " << text.toStdString();
+        texts.insert(text);
+    }
 }

@@ -1,0 +1,207 @@
+// tarvik-cli: its command-line rules in-process, and whole runs against tarvik-sim over a
+// pseudo-terminal.
+#include "CliContext.h"
+#include "ConfigFile.h"
+#include "SimProcess.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct InProcess
+{
+    int code = -1;
+    QString out, err;
+};
+
+InProcess cli(const QStringList &args)
+{
+    InProcess r;
+    QTextStream out(&r.out);
+    QTextStream err(&r.err);
+    r.code = runCli(args, out, err);
+    return r;
+}
+
+class Cli : public ::testing::Test
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        static int argc = 1;
+        static char name[] = "cli_tests";
+        static char *argv[] = {name, nullptr};
+        if (!QCoreApplication::instance())
+            new QCoreApplication(argc, argv);
+    }
+    QTemporaryDir dir;
+};
+
+TEST_F(Cli, UsageErrorsExitWithTwo)
+{
+    EXPECT_EQ(cli({}).code, kExitUsage);
+    EXPECT_EQ(cli({"frobnicate"}).code, kExitUsage);
+    EXPECT_EQ(cli({"--device"}).code, kExitUsage);
+    EXPECT_EQ(cli({"--simulate", "--port", "COM3", "read"}).code, kExitUsage);
+    EXPECT_EQ(cli({"--simulate", "read", "extra"}).code, kExitUsage);
+    EXPECT_EQ(cli({"--simulate", "clone", "f.json", "--groups", "prices,nonsense"}).code,
+              kExitUsage);
+    EXPECT_EQ(cli({"--simulate", "write", "f.json", "--serial", "12x"}).code, kExitUsage);
+    const InProcess help = cli({"--help"});
+    EXPECT_EQ(help.code, kExitOk);
+    EXPECT_TRUE(help.out.contains("read [-o FILE]"));
+}
+
+TEST_F(Cli, ReadsTheVirtualValidatorInProcess)
+{
+    const QString file = dir.filePath("v.json");
+    const InProcess r = cli({"--sim-family", "0x31", "read", "-o", file});
+    ASSERT_EQ(r.code, kExitOk) << qPrintable(r.err);
+    ConfigImage image;
+    QString error;
+    ASSERT_TRUE(loadConfigFile(file, image, &error)) << qPrintable(error);
+    EXPECT_EQ(image.channelCount(), 25);
+
+    const InProcess toStdout = cli({"--simulate", "read"});
+    EXPECT_EQ(toStdout.code, kExitOk);
+    EXPECT_TRUE(toStdout.out.contains("\"format\": \"tarvik-config\""));
+}
+
+TEST_F(Cli, BadFilesFailBeforeAnythingIsSent)
+{
+    const QString bad = dir.filePath("bad.json");
+    QFile f(bad);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("{\"format\": \"tarvik-config\", \"formatVersion\": 1}");
+    f.close();
+    const QString trace = dir.filePath("trace.txt");
+    for (const char *command : {"write", "clone"}) {
+        const InProcess r = cli({"--simulate", "--trace", trace, command, bad});
+        EXPECT_EQ(r.code, kExitFailed);
+        EXPECT_TRUE(r.err.contains("blocks: missing")) << qPrintable(r.err);
+    }
+    const InProcess missing = cli({"--simulate", "firmware", dir.filePath("none.s19")});
+    EXPECT_EQ(missing.code, kExitFailed);
+    EXPECT_TRUE(missing.err.contains("none.s19"));
+    EXPECT_FALSE(QFile::exists(trace)); // the port was never opened
+}
+
+class Families : public Cli, public ::testing::WithParamInterface<const char *>
+{};
+
+TEST_P(Families, ReadOverAPseudoTerminal)
+{
+    SimProcess sim({"--family", GetParam(), "--serial", "4321"});
+    ASSERT_FALSE(sim.path().isEmpty());
+    const QString file = dir.filePath("read.json");
+    const QString trace = dir.filePath("trace.txt");
+    const CliRun run = runTarvikCli({"--device", sim.path(), "--trace", trace, "read", "-o", file});
+    ASSERT_EQ(run.exitCode, 0) << qPrintable(run.err);
+    ConfigImage image;
+    QString error;
+    ASSERT_TRUE(loadConfigFile(file, image, &error)) << qPrintable(error);
+    EXPECT_EQ(image.familyByte(), QString(GetParam()).toUInt(nullptr, 0));
+    EXPECT_EQ(image.serialNumber(), 4321u);
+    QFile traced(trace);
+    ASSERT_TRUE(traced.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(traced.readAll());
+    EXPECT_TRUE(text.contains("cmd   10  sent 0a")) << qPrintable(text.left(400));
+}
+
+INSTANTIATE_TEST_SUITE_P(AllFamilies, Families, ::testing::Values("0x02", "0x13", "0x21", "0x31"));
+
+TEST_F(Cli, ReadWriteReadBackBetweenTwoValidators)
+{
+    const QString first = dir.filePath("first.json");
+    const QString saved = dir.filePath("second-memory.json");
+    const QString back = dir.filePath("back.json");
+    {
+        SimProcess a({"--family", "0x13", "--serial", "1001"});
+        ASSERT_EQ(runTarvikCli({"--device", a.path(), "read", "-o", first}).exitCode, 0);
+    }
+    SimProcess b({"--family", "0x13", "--serial", "1001", "--save", saved});
+    const CliRun write = runTarvikCli({"--device", b.path(), "write", first});
+    ASSERT_EQ(write.exitCode, 0) << qPrintable(write.err);
+    EXPECT_TRUE(write.err.contains("Finished operation!"));
+    ASSERT_EQ(runTarvikCli({"--device", b.path(), "read", "-o", back}).exitCode, 0);
+
+    ConfigImage written, reread;
+    QString error;
+    ASSERT_TRUE(loadConfigFile(first, written, &error));
+    ASSERT_TRUE(loadConfigFile(back, reread, &error));
+    EXPECT_EQ(reread.channels, written.channels);
+    EXPECT_EQ(reread.values, written.values);
+    EXPECT_EQ(reread.prices, written.prices);
+    EXPECT_EQ(reread.options, written.options);
+    EXPECT_EQ(reread.enable, written.enable);
+    EXPECT_EQ(reread.serialNumber(), written.serialNumber());
+    EXPECT_NE(reread.ident[0], 0xFF); // programmed today, no longer "By Mini-Pgm"
+}
+
+TEST_F(Cli, DeviceThatStopsAnsweringFailsQuicklyAndWritesNoFile)
+{
+    SimProcess sim({"--family", "0x13", "--silent-after", "20"});
+    const QString file = dir.filePath("never.json");
+    QElapsedTimer clock;
+    clock.start();
+    const CliRun read = runTarvikCli({"--device", sim.path(), "read", "-o", file});
+    EXPECT_EQ(read.exitCode, 1);
+    EXPECT_TRUE(read.err.contains("Internal or Comunication Error")) << qPrintable(read.err);
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_LT(clock.elapsed(), 10000);
+
+    const CliRun none = runTarvikCli({"--device", dir.filePath("no-such-tty"), "read"});
+    EXPECT_EQ(none.exitCode, 1);
+    EXPECT_TRUE(none.err.contains("no-such-tty"));
+}
+
+TEST_F(Cli, CablePulledDuringWrite)
+{
+    const QString image = dir.filePath("image.json");
+    ASSERT_EQ(cli({"--simulate", "read", "-o", image}).code, kExitOk);
+    SimProcess sim({"--family", "0x13", "--silent-after", "30"});
+    QElapsedTimer clock;
+    clock.start();
+    const CliRun write = runTarvikCli({"--device", sim.path(), "write", image});
+    EXPECT_EQ(write.exitCode, 1);
+    EXPECT_TRUE(write.err.contains("Fault during save operation !")) << qPrintable(write.err);
+    EXPECT_TRUE(write.err.contains("partly written"));
+    EXPECT_LT(clock.elapsed(), 10000);
+}
+
+TEST_F(Cli, FirmwareStreamsTheFileAsStored)
+{
+    QByteArray firmware;
+    for (int line = 0; line < 40; ++line)
+        firmware += QStringLiteral("S113%1000102030405060708090A0B0C0D0E0F7C\r\n")
+                        .arg(line * 16, 4, 16, QLatin1Char('0'))
+                        .toUpper()
+                        .toLatin1();
+    const QString file = dir.filePath("fw.s19");
+    QFile f(file);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(firmware);
+    f.close();
+
+    const QString received = dir.filePath("received.bin");
+    {
+        SimProcess mini({"--mini-programmer", "--firmware-out", received});
+        const CliRun run = runTarvikCli({"--device", mini.path(), "firmware", file});
+        EXPECT_EQ(run.exitCode, 0) << qPrintable(run.err);
+        EXPECT_TRUE(run.out.contains("Upgrade over..."));
+    }
+    QFile got(received);
+    ASSERT_TRUE(got.open(QIODevice::ReadOnly));
+    EXPECT_EQ(got.readAll(), firmware);
+
+    SimProcess stopping({"--mini-programmer", "--stop-after-block", "3"});
+    const CliRun stopped = runTarvikCli({"--device", stopping.path(), "firmware", file});
+    EXPECT_EQ(stopped.exitCode, 1);
+    EXPECT_TRUE(stopped.err.contains("Operation cancelled by operator"));
+}
+
+} // namespace
