@@ -2,6 +2,10 @@
 
 #include <QElapsedTimer>
 
+#ifdef Q_OS_UNIX
+#include <termios.h>
+#endif
+
 namespace {
 // One character at 9600 baud 8N1 takes 10 bits: about 1.04 ms. Once a reply has started to
 // arrive, each further byte is allowed twice that.
@@ -51,13 +55,17 @@ qint64 SerialTransport::write(const QByteArray &bytes)
         noteError();
         return -1;
     }
-    // Blocking semantics, as the program has always had: the bytes leave before we go on.
+    // Blocking semantics, as the program has always had: the bytes have left the port before
+    // we go on, so that a reply window starts when the line is free.
     while (m_port->bytesToWrite() > 0) {
         if (!m_port->waitForBytesWritten(1000)) {
             noteError();
             return m_port->error() == QSerialPort::ResourceError ? -1 : n;
         }
     }
+#ifdef Q_OS_UNIX
+    tcdrain(int(m_port->handle()));
+#endif
     return n;
 }
 
