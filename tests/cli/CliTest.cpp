@@ -173,6 +173,26 @@ TEST_F(Cli, CablePulledDuringWrite)
     EXPECT_LT(clock.elapsed(), 10000);
 }
 
+TEST_F(Cli, ProbeFindsTheValidatorThroughThePortMap)
+{
+    SimProcess sim({"--family", "0x21"});
+    QStringList map;
+    for (int n = 1; n <= 9; ++n)
+        map << QStringLiteral("COM%1=%2").arg(n).arg(n == 4 ? sim.path() : dir.filePath("none"));
+    const CliRun probe = runTarvikCli({"probe"}, 60000, map.join(','));
+    EXPECT_EQ(probe.exitCode, 0) << qPrintable(probe.err);
+    EXPECT_EQ(probe.out.trimmed(), "COM4");
+    const CliRun read = runTarvikCli({"--port", "COM4", "read"}, 60000, map.join(','));
+    EXPECT_EQ(read.exitCode, 0) << qPrintable(read.err);
+
+    map[3] = QStringLiteral("COM4=") + dir.filePath("none");
+    const CliRun nobody = runTarvikCli({"probe"}, 60000, map.join(','));
+    EXPECT_EQ(nobody.exitCode, 1);
+    const CliRun busy = runTarvikCli({"--port", "COM4", "read"}, 60000, map.join(','));
+    EXPECT_EQ(busy.exitCode, 1);
+    EXPECT_TRUE(busy.err.contains("Comunication Port COM4 isn't free or Setting error."));
+}
+
 TEST_F(Cli, FirmwareStreamsTheFileAsStored)
 {
     QByteArray firmware;

@@ -44,9 +44,15 @@ struct CliRun
 };
 
 // Runs the built tarvik-cli as its own process.
-inline CliRun runTarvikCli(const QStringList &arguments, int timeoutMs = 60000)
+inline CliRun runTarvikCli(const QStringList &arguments, int timeoutMs = 60000,
+                           const QString &portMap = {})
 {
     QProcess cli;
+    if (!portMap.isEmpty()) {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("TARVIK_PORTS"), portMap);
+        cli.setProcessEnvironment(env);
+    }
     cli.start(QStringLiteral(TARVIK_CLI_PATH), arguments);
     CliRun run;
     if (!cli.waitForFinished(timeoutMs)) {
