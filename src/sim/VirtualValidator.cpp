@@ -94,8 +94,8 @@ ConfigImage VirtualValidator::factoryImage(quint8 familyByte, quint32 serial)
     ConfigImage image = ConfigImage::blank();
     image.version = {familyByte, 0x20, quint8(0x10 + serial % 16)};
 
-    // Programmed at the factory through the mini-programmer (255, 0); made on a weekday
-    // somewhere in 2003-2004 that follows from the serial.
+    // Programmed at the factory through the mini-programmer (255, 0); made on a day in
+    // 2003-2004 that follows from the serial.
     image.ident[0] = 0xFF;
     image.ident[1] = 0x00;
     const Word2 made = EncodeDate16(QDate(2003, 1, 6).addDays(qint64(serial % 700)));

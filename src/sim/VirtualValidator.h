@@ -29,6 +29,12 @@ struct SimExchange
 // The device side of the command protocol over a full memory image, as a pure state machine:
 // bytes from the host go in, bytes for the host come out, no clock involved. It also plays the
 // mini-programmer receiving a firmware file.
+//
+// Each known command is answered with the count echo, then the device takes exactly that many
+// data bytes and replies: reads return their block, writes store it and answer status 0. A
+// channel index past the model's channel count (25 on the Light model) or a value slice past 4
+// is refused with status 1 on a write and read back as a record of 255s. Unknown commands, and
+// command 0 while no coin is waiting, get no answer at all.
 class VirtualValidator final
 {
 public:
