@@ -1,18 +1,125 @@
+#include "AppOptions.h"
+#include "ConsolePrompt.h"
+#include "DataDirectory.h"
+#include "DevicePortOpener.h"
+#include "EditorStandIn.h"
+#include "EffectSoundPlayer.h"
+#include "Languages.h"
+#include "MessageBoxPrompt.h"
+#include "Screenshot.h"
+#include "Settings.h"
+#include "SimulatorPanel.h"
+#include "TCommunication.h"
+#include "TDBModule.h"
+#include "TFormMain.h"
+#include "VirtualValidator.h"
+
 #include <QApplication>
-#include <QLabel>
-#include <QMainWindow>
 #include <QTimer>
+#include <cstdio>
+
+namespace {
+
+// The stand-in editor, closed by itself once its read has ended (unattended runs); with a
+// file name it first grabs the windows into it.
+void showEditorUnattended(ValidatorLink &link, QWidget *mainWindow, QWidget *panel,
+                          const QString &screenshot)
+{
+    if (!link.monnayeur())
+        return;
+    EditorStandIn editor(*link.monnayeur(), link.comPortNumber(), mainWindow);
+    editor.setWindowModality(Qt::WindowModal);
+    QObject::connect(
+        &editor, &EditorStandIn::readFinished, &editor,
+        [&] {
+            if (!screenshot.isEmpty() && !saveScreenshot({mainWindow, &editor, panel}, screenshot))
+                std::fprintf(stderr, "tarvik: cannot write %s\n", qPrintable(screenshot));
+            editor.accept();
+        },
+        Qt::QueuedConnection);
+    editor.exec();
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Brunfeld"));
     QApplication::setApplicationName(QStringLiteral("Tarvik"));
-    QMainWindow window;
-    window.setWindowTitle(QStringLiteral("Tarvik"));
-    window.setCentralWidget(new QLabel(QStringLiteral("Tarvik"), &window));
-    window.show();
-    if (QApplication::arguments().contains(QLatin1String("--smoke")))
+    QApplication::setApplicationVersion(QStringLiteral(TARVIK_VERSION));
+
+    const AppOptions options = AppOptions::parse(QApplication::arguments());
+    if (!options.error.isEmpty()) {
+        std::fprintf(stderr, "%s", qPrintable(options.error));
+        return 2;
+    }
+
+    MessageBoxPrompt prompt;
+    ConsolePrompt console;
+    if (options.unattended())
+        MessageBoxPrompt::divertTo(&console);
+
+    Settings settings;
+    LanguageSwitcher languages;
+    EffectSoundPlayer sounds;
+
+    VirtualValidator device;
+    SimulatedLinkSource simulated(&device);
+    SerialPortOpener serialPorts;
+    DevicePortOpener devicePort(options.device);
+    TCommunication portDialog(&prompt);
+    ProbingLinkSource probing(options.device.isEmpty() ? static_cast<PortOpener *>(&serialPorts)
+                                                       : &devicePort,
+                              options.portArguments, &portDialog, &prompt);
+
+    std::unique_ptr<SimulatorPanel> panel;
+    if (options.useVirtualValidator() && !options.smoke)
+        panel = std::make_unique<SimulatorPanel>(&device);
+
+    ShellContext context;
+    context.settings = &settings;
+    context.languages = &languages;
+    context.sounds = &sounds;
+    context.prompt = &prompt;
+    context.createDataModule = [&prompt]() -> std::shared_ptr<void> {
+        // Tables that cannot be opened have been reported; the program goes on without them.
+        auto module = std::make_shared<TDBModule>();
+        module->open(DataDirectory::resolve(), &prompt);
+        return module;
+    };
+    context.linkSource =
+        options.useVirtualValidator() ? static_cast<LinkSource *>(&simulated) : &probing;
+    if (options.unattended()) {
+        context.showEditor = [&](ValidatorLink &link, QWidget *mainWindow) {
+            showEditorUnattended(link, mainWindow, panel.get(), options.screenshot);
+        };
+    }
+
+    TFormMain window(context);
+    QObject::connect(&window, &TFormMain::formClosed, &app, &QCoreApplication::quit,
+                     Qt::QueuedConnection);
+    // The bench panel sits beside the main window once it shows.
+    if (panel) {
+        QObject::connect(&window, &TFormMain::linkOpened, panel.get(), [&] {
+            if (panel->isVisible())
+                return;
+            panel->adjustSize();
+            panel->move(window.frameGeometry().topRight() + QPoint(12, 0));
+            panel->show();
+        });
+    }
+    if (options.reportStartup) {
+        QObject::connect(&window, &TFormMain::linkOpened, &window, [] {
+            std::printf("tarvik: main window shown with the link open\n");
+            std::fflush(stdout);
+        });
+    }
+
+    if (!window.FormCreate())
+        return 1;
+    if (options.unattended()) {
         QTimer::singleShot(0, &window, &QWidget::close);
+    }
     return app.exec();
 }

@@ -1,4 +1,5 @@
 #include "CliContext.h"
+#include "Encodings.h"
 
 #include <QCoreApplication>
 #include <cstdio>
@@ -9,6 +10,7 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Brunfeld"));
     QCoreApplication::setApplicationName(QStringLiteral("Tarvik"));
+    setEncodingSettings(EncodingSettings::fromSystemLocale());
     QTextStream out(stdout);
     QTextStream err(stderr);
     QStringList args = QCoreApplication::arguments();

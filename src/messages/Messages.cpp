@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 
-
 namespace {
 
 struct Entry
@@ -155,6 +154,12 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages", "The data directory %s has been created with empty tables")},
     {Msg::RecordsTablesCreated,
      QT_TRANSLATE_NOOP("Messages", "Empty tables have been created in %s: %s")},
+    {Msg::RecordsNotStored, QT_TRANSLATE_NOOP("Messages", "No validator %s is stored")},
+    {Msg::RecordsChangedElsewhere,
+     QT_TRANSLATE_NOOP("Messages",
+                       "%s was changed by another program; open it again before changing it")},
+    {Msg::RecordsCannotCreateDirectory,
+     QT_TRANSLATE_NOOP("Messages", "The data directory %s cannot be created")},
     {Msg::SettingsUnreadable,
      QT_TRANSLATE_NOOP("Messages", "The settings could not be read; the defaults are used until a "
                                    "setting is changed.")},

@@ -96,6 +96,9 @@ enum class Msg
     IndexReasonLanguage,
     RecordsDirectoryCreated,
     RecordsTablesCreated,
+    RecordsNotStored,
+    RecordsChangedElsewhere,
+    RecordsCannotCreateDirectory,
     SettingsUnreadable,
     FileNotReadable,
     Count_

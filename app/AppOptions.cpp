@@ -1,0 +1,55 @@
+#include "AppOptions.h"
+
+AppOptions AppOptions::parse(const QStringList &arguments)
+{
+    AppOptions options;
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        const QString &argument = arguments.at(i);
+        auto nextValue = [&](QString &target) {
+            if (i + 1 >= arguments.size())
+                options.error = QStringLiteral("%1 needs a value").arg(argument);
+            else
+                target = arguments.at(++i);
+        };
+        if (argument == u"--simulate")
+            options.simulate = true;
+        else if (argument == u"--smoke")
+            options.smoke = true;
+        else if (argument == u"--report-startup")
+            options.reportStartup = true;
+        else if (argument == u"--screenshot")
+            nextValue(options.screenshot);
+        else if (argument == u"--device")
+            nextValue(options.device);
+        else if (argument == u"--help" || argument == u"-h")
+            options.error = usage();
+        else if (argument.startsWith(u"--"))
+            options.error = QStringLiteral("unknown option %1\n").arg(argument) + usage();
+        else
+            options.portArguments.append(argument);
+    }
+    return options;
+}
+
+bool AppOptions::useVirtualValidator() const
+{
+    if (simulate || !screenshot.isEmpty())
+        return true;
+    // An unattended start without a port never probes: it would wait on the port dialog.
+    const bool portNamed =
+        !device.isEmpty() ||
+        portArguments.filter(QStringLiteral("COM"), Qt::CaseInsensitive).size() > 0;
+    return smoke && !portNamed;
+}
+
+QString AppOptions::usage()
+{
+    return QStringLiteral(
+        "usage: tarvik [COMn] [--device PATH] [--simulate] [--smoke] [--screenshot FILE]\n"
+        "  COMn             the port to use when no validator answers the probe\n"
+        "  --device PATH    a system serial port standing as COM1\n"
+        "  --simulate       the in-process virtual validator, with its bench panel\n"
+        "  --smoke          start, show the main window and end at once\n"
+        "  --screenshot F   run against the virtual validator and save the windows as F\n"
+        "  --report-startup say on stdout when the main window shows with the link open\n");
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// The command line of the tarvik program.
+struct AppOptions
+{
+    bool simulate = false;      // --simulate: the in-process virtual validator, with its panel
+    bool smoke = false;         // --smoke: start, show the main window, close at once
+    bool reportStartup = false; // --report-startup: say on stdout when the link is open
+    QString screenshot;         // --screenshot FILE: grab the windows into FILE and end
+    QString device;             // --device PATH: this system port stands as COM1
+    QStringList portArguments;  // the other arguments; one may name the port (COM4)
+    QString error;              // not empty: bad usage
+
+    static AppOptions parse(const QStringList &arguments);
+    static QString usage();
+    // No one at the screen: messages go to the error stream and nothing waits for a click.
+    bool unattended() const { return smoke || !screenshot.isEmpty(); }
+    bool useVirtualValidator() const;
+};

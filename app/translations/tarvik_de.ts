@@ -1,0 +1,621 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>EditorStandIn</name>
+    <message>
+        <source>Validator</source>
+        <translation>Münzprüfer</translation>
+    </message>
+    <message>
+        <source>Port :</source>
+        <translation>Anschluss :</translation>
+    </message>
+    <message>
+        <source>Firmware family :</source>
+        <translation>Firmware-Familie :</translation>
+    </message>
+    <message>
+        <source>Serial number :</source>
+        <translation>Seriennummer :</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Internal or Comunication Error</source>
+        <translation>Interner Fehler oder Kommunikationsfehler</translation>
+    </message>
+    <message>
+        <source>Comunication Error !</source>
+        <translation>Kommunikationsfehler !</translation>
+    </message>
+    <message>
+        <source>Reading Error fron validator</source>
+        <translation>Lesefehler vom Münzprüfer</translation>
+    </message>
+    <message>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <translation>Der Kommunikationsanschluss COM%d ist nicht frei oder falsch eingestellt.</translation>
+    </message>
+    <message>
+        <source>Select port !!!</source>
+        <translation>Bitte einen Anschluss wählen !!!</translation>
+    </message>
+    <message>
+        <source>Connect validator </source>
+        <translation>Münzprüfer anschließen </translation>
+    </message>
+    <message>
+        <source>Validator reading in progress....</source>
+        <translation>Münzprüfer wird gelesen....</translation>
+    </message>
+    <message>
+        <source>Saving in progress.....</source>
+        <translation>Speichern läuft.....</translation>
+    </message>
+    <message>
+        <source>Finished operation!</source>
+        <translation>Vorgang abgeschlossen!</translation>
+    </message>
+    <message>
+        <source>Fault during save operation !</source>
+        <translation>Fehler beim Speichern !</translation>
+    </message>
+    <message>
+        <source>Operation cancelled</source>
+        <translation>Vorgang abgebrochen</translation>
+    </message>
+    <message>
+        <source>Invalid code table !</source>
+        <translation>Ungültige Codetabelle !</translation>
+    </message>
+    <message>
+        <source>Incorrect version of validator</source>
+        <translation>Falsche Version des Münzprüfers</translation>
+    </message>
+    <message>
+        <source>Save on validator?</source>
+        <translation>Im Münzprüfer speichern?</translation>
+    </message>
+    <message>
+        <source>By Mini-Pgm</source>
+        <translation>Durch Mini-Pgm</translation>
+    </message>
+    <message>
+        <source>#NA</source>
+        <translation>#NV</translation>
+    </message>
+    <message>
+        <source>Value must be between 0 and 255</source>
+        <translation>Der Wert muss zwischen 0 und 255 liegen</translation>
+    </message>
+    <message>
+        <source>Value over the maximum, it will be correct</source>
+        <translation>Wert über dem Maximum, er wird korrigiert</translation>
+    </message>
+    <message>
+        <source>Value under the minimum, it will be correct.</source>
+        <translation>Wert unter dem Minimum, er wird korrigiert.</translation>
+    </message>
+    <message>
+        <source>Value over %d ms, it will be adjusted!</source>
+        <translation>Wert über %d ms, er wird angepasst!</translation>
+    </message>
+    <message>
+        <source>Wrong way! Please the counter must be desactived if the base value is clear</source>
+        <translation>Falsch! Der Zähler muss deaktiviert sein, wenn der Basiswert leer ist</translation>
+    </message>
+    <message>
+        <source>Modifing this value will take effect on channels from 1 to 30 !</source>
+        <translation>Eine Änderung dieses Wertes wirkt sich auf die Kanäle 1 bis 30 aus !</translation>
+    </message>
+    <message>
+        <source>Modifing this value will take effect on channels from 31 to 60 !</source>
+        <translation>Eine Änderung dieses Wertes wirkt sich auf die Kanäle 31 bis 60 aus !</translation>
+    </message>
+    <message>
+        <source>The value of channels %d and %d is incompatible for the function multi-pulse (max %d pulses)</source>
+        <translation>Der Wert der Kanäle %d und %d ist mit der Mehrfachimpuls-Funktion nicht vereinbar (höchstens %d Impulse)</translation>
+    </message>
+    <message>
+        <source>Impossible displacement, the channel of origin and the one of destination coincides</source>
+        <translation>Verschieben unmöglich, Ursprungs- und Zielkanal sind identisch</translation>
+    </message>
+    <message>
+        <source>Identification field must be filled</source>
+        <translation>Das Feld Kennung muss ausgefüllt sein</translation>
+    </message>
+    <message>
+        <source>%s exist! Overwrite ?</source>
+        <translation>%s existiert! Überschreiben ?</translation>
+    </message>
+    <message>
+        <source>File %s saved</source>
+        <translation>Datei %s gespeichert</translation>
+    </message>
+    <message>
+        <source>The validity of data of this validator is not guaranteed by BRUNFELDGroup!</source>
+        <translation>Die Gültigkeit der Daten dieses Münzprüfers wird von BRUNFELDGroup nicht garantiert!</translation>
+    </message>
+    <message>
+        <source>Select number of channel !</source>
+        <translation>Bitte die Kanalnummer wählen !</translation>
+    </message>
+    <message>
+        <source>Number of coins is less than %d. Proceed?</source>
+        <translation>Die Anzahl der Münzen ist kleiner als %d. Fortfahren?</translation>
+    </message>
+    <message>
+        <source>Modify another channel ?</source>
+        <translation>Einen anderen Kanal ändern ?</translation>
+    </message>
+    <message>
+        <source>Calibrate another channel ?</source>
+        <translation>Einen anderen Kanal kalibrieren ?</translation>
+    </message>
+    <message>
+        <source>Values directly saved into validator</source>
+        <translation>Werte direkt im Münzprüfer gespeichert</translation>
+    </message>
+    <message>
+        <source>The value matchs the channel %d. Load it ?</source>
+        <translation>Der Wert entspricht Kanal %d. Laden ?</translation>
+    </message>
+    <message>
+        <source>No matched data !</source>
+        <translation>Keine passenden Daten !</translation>
+    </message>
+    <message>
+        <source>Door open, no data will be transfered ;</source>
+        <translation>Tür offen, es werden keine Daten übertragen ;</translation>
+    </message>
+    <message>
+        <source>Prepare the golden tokens.</source>
+        <translation>Die goldenen Jetons bereitlegen.</translation>
+    </message>
+    <message>
+        <source>Prepare the silver tokens.</source>
+        <translation>Die silbernen Jetons bereitlegen.</translation>
+    </message>
+    <message>
+        <source>Insert the golden tokens. (5 pieces)</source>
+        <translation>Die goldenen Jetons einwerfen. (5 Stück)</translation>
+    </message>
+    <message>
+        <source>Insert the silver tokens. (5 pieces)</source>
+        <translation>Die silbernen Jetons einwerfen. (5 Stück)</translation>
+    </message>
+    <message>
+        <source>Reference Channel saved !</source>
+        <translation>Referenzkanal gespeichert !</translation>
+    </message>
+    <message>
+        <source>Programming Error !</source>
+        <translation>Programmierfehler !</translation>
+    </message>
+    <message>
+        <source>Channel %d is empty! No data to control.</source>
+        <translation>Kanal %d ist leer! Keine Daten zu prüfen.</translation>
+    </message>
+    <message>
+        <source>No overlapping !</source>
+        <translation>Keine Überschneidung !</translation>
+    </message>
+    <message>
+        <source>Table of values transferred in the validator!</source>
+        <translation>Wertetabelle in den Münzprüfer übertragen!</translation>
+    </message>
+    <message>
+        <source>All data transfered !</source>
+        <translation>Alle Daten übertragen !</translation>
+    </message>
+    <message>
+        <source>This option will be activated to the next starting of the program</source>
+        <translation>Diese Option wird beim nächsten Programmstart wirksam</translation>
+    </message>
+    <message>
+        <source>Upgrade over...</source>
+        <translation>Aktualisierung beendet...</translation>
+    </message>
+    <message>
+        <source>Operation cancelled by operator</source>
+        <translation>Vorgang vom Bediener abgebrochen</translation>
+    </message>
+    <message>
+        <source>Updating... Please Wait !</source>
+        <translation>Aktualisierung... Bitte warten !</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Stop or disconnect !!!</source>
+        <translation>Nicht abbrechen oder trennen !!!</translation>
+    </message>
+    <message>
+        <source>Please connect the mini-programer.</source>
+        <translation>Bitte den Mini-Programmer anschließen.</translation>
+    </message>
+    <message>
+        <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
+        <translation>Kanal %d des Münzprüfers weicht von dem dieser Konfiguration ab: Die Fenster passen möglicherweise nicht zu diesem Münzprüfer. Fortfahren?</translation>
+    </message>
+    <message>
+        <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
+        <translation>Der Münzprüfer enthält jetzt eine teilweise geschriebene Konfiguration: Bereits Geschriebenes wurde nicht rückgängig gemacht. Vor dem Einsatz erneut schreiben.</translation>
+    </message>
+    <message>
+        <source>%s is missing</source>
+        <translation>%s fehlt</translation>
+    </message>
+    <message>
+        <source>%s cannot be opened: %s</source>
+        <translation>%s kann nicht geöffnet werden: %s</translation>
+    </message>
+    <message>
+        <source>%s cannot be written: %s</source>
+        <translation>%s kann nicht geschrieben werden: %s</translation>
+    </message>
+    <message>
+        <source>%s is not a dBase table of level 3, 4, 5 or 7</source>
+        <translation>%s ist keine dBase-Tabelle der Stufe 3, 4, 5 oder 7</translation>
+    </message>
+    <message>
+        <source>%s has a damaged header: its header length, record length and field widths do not add up</source>
+        <translation>%s hat einen beschädigten Kopf: Kopflänge, Satzlänge und Feldbreiten passen nicht zusammen</translation>
+    </message>
+    <message>
+        <source>%s has a damaged header: field %s is not valid</source>
+        <translation>%s hat einen beschädigten Kopf: Feld %s ist ungültig</translation>
+    </message>
+    <message>
+        <source>%s is truncated: it holds %s of its %s records</source>
+        <translation>%s ist abgeschnitten: es enthält %s von seinen %s Sätzen</translation>
+    </message>
+    <message>
+        <source>%s has no field %s</source>
+        <translation>%s hat kein Feld %s</translation>
+    </message>
+    <message>
+        <source>%s: field %s is of type %s where %s is expected</source>
+        <translation>%s: Feld %s hat den Typ %s, erwartet wird %s</translation>
+    </message>
+    <message>
+        <source>%s is open in another program (%s); it is opened read-only</source>
+        <translation>%s ist in einem anderen Programm geöffnet (%s); es wird schreibgeschützt geöffnet</translation>
+    </message>
+    <message>
+        <source>%s cannot be changed: the file or its directory is read-only</source>
+        <translation>%s kann nicht geändert werden: Die Datei oder ihr Verzeichnis ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>%s cannot be changed: its index tag %s (%s) is not one this program can keep up to date</source>
+        <translation>%s kann nicht geändert werden: Sein Indexschlüssel %s (%s) kann von diesem Programm nicht aktuell gehalten werden</translation>
+    </message>
+    <message>
+        <source>%s cannot be changed: its language driver %s sorts keys in an order this program cannot keep</source>
+        <translation>%s kann nicht geändert werden: Sein Sprachtreiber %s sortiert Schlüssel in einer Reihenfolge, die dieses Programm nicht einhalten kann</translation>
+    </message>
+    <message>
+        <source>The value %s does not fit field %s of %s</source>
+        <translation>Der Wert %s passt nicht in das Feld %s von %s</translation>
+    </message>
+    <message>
+        <source>The index %s was not usable (%s) and has been rebuilt from %s</source>
+        <translation>Der Index %s war nicht verwendbar (%s) und wurde aus %s neu aufgebaut</translation>
+    </message>
+    <message>
+        <source>The index %s is not usable (%s) and cannot be rebuilt now</source>
+        <translation>Der Index %s ist nicht verwendbar (%s) und kann jetzt nicht neu aufgebaut werden</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>er fehlt</translation>
+    </message>
+    <message>
+        <source>its header is damaged</source>
+        <translation>sein Kopf ist beschädigt</translation>
+    </message>
+    <message>
+        <source>its pages are damaged</source>
+        <translation>seine Seiten sind beschädigt</translation>
+    </message>
+    <message>
+        <source>its keys are out of order</source>
+        <translation>seine Schlüssel sind nicht in Reihenfolge</translation>
+    </message>
+    <message>
+        <source>its entries do not match the records</source>
+        <translation>seine Einträge passen nicht zu den Sätzen</translation>
+    </message>
+    <message>
+        <source>tag %s is missing or does not match its field</source>
+        <translation>Schlüssel %s fehlt oder passt nicht zu seinem Feld</translation>
+    </message>
+    <message>
+        <source>its language driver differs from the table&apos;s</source>
+        <translation>sein Sprachtreiber weicht von dem der Tabelle ab</translation>
+    </message>
+    <message>
+        <source>The data directory %s has been created with empty tables</source>
+        <translation>Das Datenverzeichnis %s wurde mit leeren Tabellen angelegt</translation>
+    </message>
+    <message>
+        <source>Empty tables have been created in %s: %s</source>
+        <translation>In %s wurden leere Tabellen angelegt: %s</translation>
+    </message>
+    <message>
+        <source>No validator %s is stored</source>
+        <translation>Kein Münzprüfer %s gespeichert</translation>
+    </message>
+    <message>
+        <source>The settings could not be read; the defaults are used until a setting is changed.</source>
+        <translation>Die Einstellungen konnten nicht gelesen werden; bis zur Änderung einer Einstellung gelten die Standardwerte.</translation>
+    </message>
+    <message>
+        <source>The file %s could not be read.</source>
+        <translation>Die Datei %s konnte nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatorPanel</name>
+    <message>
+        <source>Virtual validator</source>
+        <translation>Virtueller Münzprüfer</translation>
+    </message>
+    <message>
+        <source>Validator</source>
+        <translation>Münzprüfer</translation>
+    </message>
+    <message>
+        <source>Family :</source>
+        <translation>Familie :</translation>
+    </message>
+    <message>
+        <source>Serial number :</source>
+        <translation>Seriennummer :</translation>
+    </message>
+    <message>
+        <source>Fit a new validator</source>
+        <translation>Neuen Münzprüfer einsetzen</translation>
+    </message>
+    <message>
+        <source>Coins</source>
+        <translation>Münzen</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einwerfen</translation>
+    </message>
+    <message>
+        <source>Door open</source>
+        <translation>Tür offen</translation>
+    </message>
+    <message>
+        <source>Cable plugged in</source>
+        <translation>Kabel eingesteckt</translation>
+    </message>
+    <message>
+        <source>Mini-programmer (firmware upgrade)</source>
+        <translation>Mini-Programmer (Firmware-Aktualisierung)</translation>
+    </message>
+    <message>
+        <source>Coins waiting : %1</source>
+        <translation>Wartende Münzen : %1</translation>
+    </message>
+</context>
+<context>
+    <name>TCloningChk</name>
+    <message>
+        <source>Cloning</source>
+        <translation>Klonen</translation>
+    </message>
+    <message>
+        <source>Please! Be sure that validator is connected.</source>
+        <translation>Bitte! Sicherstellen, dass der Münzprüfer angeschlossen ist.</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Channels data</source>
+        <translation>Kanaldaten</translation>
+    </message>
+    <message>
+        <source>Values table :</source>
+        <translation>Wertetabelle :</translation>
+    </message>
+    <message>
+        <source>Prices table :</source>
+        <translation>Preistabelle :</translation>
+    </message>
+    <message>
+        <source>Configuration :</source>
+        <translation>Konfiguration :</translation>
+    </message>
+    <message>
+        <source>Enable table :</source>
+        <translation>Freigabetabelle :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>TCommunication</name>
+    <message>
+        <source>Communication</source>
+        <translation>Kommunikation</translation>
+    </message>
+    <message>
+        <source>Port selection</source>
+        <translation>Anschlussauswahl</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Anschluss</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>TConnectForm</name>
+    <message>
+        <source>Mini-programmer</source>
+        <translation>Mini-Programmer</translation>
+    </message>
+</context>
+<context>
+    <name>TFormAvertissementDif</name>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>TFormCondotto</name>
+    <message>
+        <source>Output</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Verkauf</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormMain</name>
+    <message>
+        <source>&amp;Parameters</source>
+        <translation>&amp;Parameter</translation>
+    </message>
+    <message>
+        <source>&amp;Sound</source>
+        <translation>&amp;Ton</translation>
+    </message>
+    <message>
+        <source>&amp;Auto adjust</source>
+        <translation>&amp;Automatischer Abgleich</translation>
+    </message>
+    <message>
+        <source>&amp;Direct write</source>
+        <translation>&amp;Direktes Schreiben</translation>
+    </message>
+    <message>
+        <source>Only for calibration</source>
+        <translation>Nur für die Kalibrierung</translation>
+    </message>
+    <message>
+        <source>&amp;Langage</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Local</source>
+        <translation>&amp;Lokal</translation>
+    </message>
+    <message>
+        <source>Firmware upgrade...</source>
+        <translation>Firmware-Aktualisierung...</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>TMajFirmware</name>
+    <message>
+        <source>Fichier Firmware VK2</source>
+        <translation>VK2-Firmware-Datei</translation>
+    </message>
+    <message>
+        <source>Firmware upgrade</source>
+        <translation>Firmware-Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Aktualisierung</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikFormInit</name>
+    <message>
+        <source>Validator setting</source>
+        <translation>Münzprüfer-Einstellung</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Seriennummer :</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Game Fast</source>
+        <translation>Spiel schnell</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Verkauf Anti-Stau</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Verkauf</translation>
+    </message>
+    <message>
+        <source>Resetable counter :</source>
+        <translation>Rücksetzbarer Zähler :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+</TS>

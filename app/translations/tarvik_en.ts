@@ -1,0 +1,621 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US">
+<context>
+    <name>EditorStandIn</name>
+    <message>
+        <source>Validator</source>
+        <translation>Validator</translation>
+    </message>
+    <message>
+        <source>Port :</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Firmware family :</source>
+        <translation>Firmware family:</translation>
+    </message>
+    <message>
+        <source>Serial number :</source>
+        <translation>Serial number:</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Close</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Internal or Comunication Error</source>
+        <translation>Internal or communication error</translation>
+    </message>
+    <message>
+        <source>Comunication Error !</source>
+        <translation>Communication error!</translation>
+    </message>
+    <message>
+        <source>Reading Error fron validator</source>
+        <translation>Error reading from the validator</translation>
+    </message>
+    <message>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <translation>Communication port COM%d is not free or its settings are wrong.</translation>
+    </message>
+    <message>
+        <source>Select port !!!</source>
+        <translation>Please select a port.</translation>
+    </message>
+    <message>
+        <source>Connect validator </source>
+        <translation>Connect the validator </translation>
+    </message>
+    <message>
+        <source>Validator reading in progress....</source>
+        <translation>Reading the validator...</translation>
+    </message>
+    <message>
+        <source>Saving in progress.....</source>
+        <translation>Saving...</translation>
+    </message>
+    <message>
+        <source>Finished operation!</source>
+        <translation>Operation finished!</translation>
+    </message>
+    <message>
+        <source>Fault during save operation !</source>
+        <translation>Fault during the save operation!</translation>
+    </message>
+    <message>
+        <source>Operation cancelled</source>
+        <translation>The operation was cancelled</translation>
+    </message>
+    <message>
+        <source>Invalid code table !</source>
+        <translation>The code table is not valid!</translation>
+    </message>
+    <message>
+        <source>Incorrect version of validator</source>
+        <translation>The validator&apos;s version is incorrect</translation>
+    </message>
+    <message>
+        <source>Save on validator?</source>
+        <translation>Save to the validator?</translation>
+    </message>
+    <message>
+        <source>By Mini-Pgm</source>
+        <translation>By mini-programmer</translation>
+    </message>
+    <message>
+        <source>#NA</source>
+        <translation>n/a</translation>
+    </message>
+    <message>
+        <source>Value must be between 0 and 255</source>
+        <translation>The value must be between 0 and 255</translation>
+    </message>
+    <message>
+        <source>Value over the maximum, it will be correct</source>
+        <translation>The value is above the maximum; it will be corrected</translation>
+    </message>
+    <message>
+        <source>Value under the minimum, it will be correct.</source>
+        <translation>The value is below the minimum; it will be corrected.</translation>
+    </message>
+    <message>
+        <source>Value over %d ms, it will be adjusted!</source>
+        <translation>The value is above %d ms; it will be adjusted!</translation>
+    </message>
+    <message>
+        <source>Wrong way! Please the counter must be desactived if the base value is clear</source>
+        <translation>Not possible: the counter must be deactivated when the base value is empty</translation>
+    </message>
+    <message>
+        <source>Modifing this value will take effect on channels from 1 to 30 !</source>
+        <translation>Changing this value affects channels 1 to 30!</translation>
+    </message>
+    <message>
+        <source>Modifing this value will take effect on channels from 31 to 60 !</source>
+        <translation>Changing this value affects channels 31 to 60!</translation>
+    </message>
+    <message>
+        <source>The value of channels %d and %d is incompatible for the function multi-pulse (max %d pulses)</source>
+        <translation>The values of channels %d and %d are incompatible with the multi-pulse function (at most %d pulses)</translation>
+    </message>
+    <message>
+        <source>Impossible displacement, the channel of origin and the one of destination coincides</source>
+        <translation>Cannot move: the source and destination channels are the same</translation>
+    </message>
+    <message>
+        <source>Identification field must be filled</source>
+        <translation>The identification field must be filled in</translation>
+    </message>
+    <message>
+        <source>%s exist! Overwrite ?</source>
+        <translation>%s exists! Overwrite it?</translation>
+    </message>
+    <message>
+        <source>File %s saved</source>
+        <translation>File %s has been saved</translation>
+    </message>
+    <message>
+        <source>The validity of data of this validator is not guaranteed by BRUNFELDGroup!</source>
+        <translation>BRUNFELDGroup does not guarantee the validity of this validator&apos;s data!</translation>
+    </message>
+    <message>
+        <source>Select number of channel !</source>
+        <translation>Select the channel number!</translation>
+    </message>
+    <message>
+        <source>Number of coins is less than %d. Proceed?</source>
+        <translation>Fewer than %d coins were inserted. Proceed?</translation>
+    </message>
+    <message>
+        <source>Modify another channel ?</source>
+        <translation>Change another channel?</translation>
+    </message>
+    <message>
+        <source>Calibrate another channel ?</source>
+        <translation>Calibrate one more channel?</translation>
+    </message>
+    <message>
+        <source>Values directly saved into validator</source>
+        <translation>The values have been saved directly to the validator</translation>
+    </message>
+    <message>
+        <source>The value matchs the channel %d. Load it ?</source>
+        <translation>The value matches channel %d. Load it?</translation>
+    </message>
+    <message>
+        <source>No matched data !</source>
+        <translation>No matching data!</translation>
+    </message>
+    <message>
+        <source>Door open, no data will be transfered ;</source>
+        <translation>The door is open; no data will be transferred.</translation>
+    </message>
+    <message>
+        <source>Prepare the golden tokens.</source>
+        <translation>Get the gold tokens ready.</translation>
+    </message>
+    <message>
+        <source>Prepare the silver tokens.</source>
+        <translation>Get the silver tokens ready.</translation>
+    </message>
+    <message>
+        <source>Insert the golden tokens. (5 pieces)</source>
+        <translation>Insert the gold tokens (5 of them).</translation>
+    </message>
+    <message>
+        <source>Insert the silver tokens. (5 pieces)</source>
+        <translation>Insert the silver tokens (5 of them).</translation>
+    </message>
+    <message>
+        <source>Reference Channel saved !</source>
+        <translation>Reference channel saved!</translation>
+    </message>
+    <message>
+        <source>Programming Error !</source>
+        <translation>Programming error!</translation>
+    </message>
+    <message>
+        <source>Channel %d is empty! No data to control.</source>
+        <translation>Channel %d is empty! There is nothing to check.</translation>
+    </message>
+    <message>
+        <source>No overlapping !</source>
+        <translation>No overlap!</translation>
+    </message>
+    <message>
+        <source>Table of values transferred in the validator!</source>
+        <translation>The value table has been transferred to the validator!</translation>
+    </message>
+    <message>
+        <source>All data transfered !</source>
+        <translation>All data transferred!</translation>
+    </message>
+    <message>
+        <source>This option will be activated to the next starting of the program</source>
+        <translation>This option will take effect the next time the program starts</translation>
+    </message>
+    <message>
+        <source>Upgrade over...</source>
+        <translation>Upgrade finished.</translation>
+    </message>
+    <message>
+        <source>Operation cancelled by operator</source>
+        <translation>Operation cancelled by the operator</translation>
+    </message>
+    <message>
+        <source>Updating... Please Wait !</source>
+        <translation>Updating... Please wait!</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Stop or disconnect !!!</source>
+        <translation>Do not stop or disconnect!</translation>
+    </message>
+    <message>
+        <source>Please connect the mini-programer.</source>
+        <translation>Please connect the mini-programmer.</translation>
+    </message>
+    <message>
+        <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
+        <translation>Channel %d of the validator differs from this configuration&apos;s: its windows may not suit this validator. Continue?</translation>
+    </message>
+    <message>
+        <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
+        <translation>Only part of the configuration has been written to the validator, and nothing already written has been undone. Write it again before using the validator.</translation>
+    </message>
+    <message>
+        <source>%s is missing</source>
+        <translation>%s cannot be found</translation>
+    </message>
+    <message>
+        <source>%s cannot be opened: %s</source>
+        <translation>Unable to open %s: %s</translation>
+    </message>
+    <message>
+        <source>%s cannot be written: %s</source>
+        <translation>Unable to write %s: %s</translation>
+    </message>
+    <message>
+        <source>%s is not a dBase table of level 3, 4, 5 or 7</source>
+        <translation>%s is not a level 3, 4, 5 or 7 dBase table</translation>
+    </message>
+    <message>
+        <source>%s has a damaged header: its header length, record length and field widths do not add up</source>
+        <translation>The header of %s is damaged: its header length, record length and field widths are inconsistent</translation>
+    </message>
+    <message>
+        <source>%s has a damaged header: field %s is not valid</source>
+        <translation>The header of %s is damaged: field %s is invalid</translation>
+    </message>
+    <message>
+        <source>%s is truncated: it holds %s of its %s records</source>
+        <translation>%s has been cut short: only %s of its %s records are present</translation>
+    </message>
+    <message>
+        <source>%s has no field %s</source>
+        <translation>%s lacks the field %s</translation>
+    </message>
+    <message>
+        <source>%s: field %s is of type %s where %s is expected</source>
+        <translation>%s: field %s has type %s, but %s was expected</translation>
+    </message>
+    <message>
+        <source>%s is open in another program (%s); it is opened read-only</source>
+        <translation>%s is in use by another program (%s), so it has been opened read-only</translation>
+    </message>
+    <message>
+        <source>%s cannot be changed: the file or its directory is read-only</source>
+        <translation>Unable to change %s: the file or its folder is read-only</translation>
+    </message>
+    <message>
+        <source>%s cannot be changed: its index tag %s (%s) is not one this program can keep up to date</source>
+        <translation>Unable to change %s: this program cannot maintain its index tag %s (%s)</translation>
+    </message>
+    <message>
+        <source>%s cannot be changed: its language driver %s sorts keys in an order this program cannot keep</source>
+        <translation>Unable to change %s: its language driver %s uses a key order this program cannot maintain</translation>
+    </message>
+    <message>
+        <source>The value %s does not fit field %s of %s</source>
+        <translation>The value %s is too wide for field %s of %s</translation>
+    </message>
+    <message>
+        <source>The index %s was not usable (%s) and has been rebuilt from %s</source>
+        <translation>The index %s could not be used (%s) and has been rebuilt from %s</translation>
+    </message>
+    <message>
+        <source>The index %s is not usable (%s) and cannot be rebuilt now</source>
+        <translation>The index %s cannot be used (%s) and cannot be rebuilt at the moment</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>it cannot be found</translation>
+    </message>
+    <message>
+        <source>its header is damaged</source>
+        <translation>its header is corrupt</translation>
+    </message>
+    <message>
+        <source>its pages are damaged</source>
+        <translation>its pages are corrupt</translation>
+    </message>
+    <message>
+        <source>its keys are out of order</source>
+        <translation>its keys are not sorted</translation>
+    </message>
+    <message>
+        <source>its entries do not match the records</source>
+        <translation>its entries disagree with the records</translation>
+    </message>
+    <message>
+        <source>tag %s is missing or does not match its field</source>
+        <translation>tag %s is absent or does not match its field</translation>
+    </message>
+    <message>
+        <source>its language driver differs from the table&apos;s</source>
+        <translation>its language driver is not the table&apos;s</translation>
+    </message>
+    <message>
+        <source>The data directory %s has been created with empty tables</source>
+        <translation>The data folder %s has been created with empty tables</translation>
+    </message>
+    <message>
+        <source>Empty tables have been created in %s: %s</source>
+        <translation>Empty tables were created in %s: %s</translation>
+    </message>
+    <message>
+        <source>No validator %s is stored</source>
+        <translation>There is no stored validator %s</translation>
+    </message>
+    <message>
+        <source>The settings could not be read; the defaults are used until a setting is changed.</source>
+        <translation>The settings could not be read, so the defaults are in use until you change a setting.</translation>
+    </message>
+    <message>
+        <source>The file %s could not be read.</source>
+        <translation>Unable to read the file %s.</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatorPanel</name>
+    <message>
+        <source>Virtual validator</source>
+        <translation>Virtual validator</translation>
+    </message>
+    <message>
+        <source>Validator</source>
+        <translation>Validator</translation>
+    </message>
+    <message>
+        <source>Family :</source>
+        <translation>Family:</translation>
+    </message>
+    <message>
+        <source>Serial number :</source>
+        <translation>Serial number:</translation>
+    </message>
+    <message>
+        <source>Fit a new validator</source>
+        <translation>Fit a new validator</translation>
+    </message>
+    <message>
+        <source>Coins</source>
+        <translation>Coins</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>Door open</source>
+        <translation>Door open</translation>
+    </message>
+    <message>
+        <source>Cable plugged in</source>
+        <translation>Cable plugged in</translation>
+    </message>
+    <message>
+        <source>Mini-programmer (firmware upgrade)</source>
+        <translation>Mini-programmer (firmware upgrade)</translation>
+    </message>
+    <message>
+        <source>Coins waiting : %1</source>
+        <translation>Coins waiting: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TCloningChk</name>
+    <message>
+        <source>Cloning</source>
+        <translation>Cloning</translation>
+    </message>
+    <message>
+        <source>Please! Be sure that validator is connected.</source>
+        <translation>Please make sure that the validator is connected.</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Channels data</source>
+        <translation>Channel data</translation>
+    </message>
+    <message>
+        <source>Values table :</source>
+        <translation>Value table</translation>
+    </message>
+    <message>
+        <source>Prices table :</source>
+        <translation>Price table</translation>
+    </message>
+    <message>
+        <source>Configuration :</source>
+        <translation>Configuration</translation>
+    </message>
+    <message>
+        <source>Enable table :</source>
+        <translation>Enable table</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>TCommunication</name>
+    <message>
+        <source>Communication</source>
+        <translation>Communication</translation>
+    </message>
+    <message>
+        <source>Port selection</source>
+        <translation>Select a port</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>E&amp;xit</translation>
+    </message>
+</context>
+<context>
+    <name>TConnectForm</name>
+    <message>
+        <source>Mini-programmer</source>
+        <translation>Mini-programmer</translation>
+    </message>
+</context>
+<context>
+    <name>TFormAvertissementDif</name>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continue</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>TFormCondotto</name>
+    <message>
+        <source>Output</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Game</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Vending</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormMain</name>
+    <message>
+        <source>&amp;Parameters</source>
+        <translation>&amp;Settings</translation>
+    </message>
+    <message>
+        <source>&amp;Sound</source>
+        <translation>&amp;Sound</translation>
+    </message>
+    <message>
+        <source>&amp;Auto adjust</source>
+        <translation>&amp;Automatic adjustment</translation>
+    </message>
+    <message>
+        <source>&amp;Direct write</source>
+        <translation>&amp;Direct writing</translation>
+    </message>
+    <message>
+        <source>Only for calibration</source>
+        <translation>For calibration only</translation>
+    </message>
+    <message>
+        <source>&amp;Langage</source>
+        <translation>&amp;Language</translation>
+    </message>
+    <message>
+        <source>&amp;Local</source>
+        <translation>&amp;Local</translation>
+    </message>
+    <message>
+        <source>Firmware upgrade...</source>
+        <translation>Upgrade firmware...</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Back</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>E&amp;xit</translation>
+    </message>
+</context>
+<context>
+    <name>TMajFirmware</name>
+    <message>
+        <source>Fichier Firmware VK2</source>
+        <translation>VK2 firmware file</translation>
+    </message>
+    <message>
+        <source>Firmware upgrade</source>
+        <translation>Upgrade firmware</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Firmware upgrade</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikFormInit</name>
+    <message>
+        <source>Validator setting</source>
+        <translation>Validator settings</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Serial number:</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Outlet</translation>
+    </message>
+    <message>
+        <source>Game Fast</source>
+        <translation>Fast game</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Game</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Vending (anti-jam)</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Vending</translation>
+    </message>
+    <message>
+        <source>Resetable counter :</source>
+        <translation>Resettable counter</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,621 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT">
+<context>
+    <name>EditorStandIn</name>
+    <message>
+        <source>Validator</source>
+        <translation>Gettoniera</translation>
+    </message>
+    <message>
+        <source>Port :</source>
+        <translation>Porta :</translation>
+    </message>
+    <message>
+        <source>Firmware family :</source>
+        <translation>Famiglia del firmware :</translation>
+    </message>
+    <message>
+        <source>Serial number :</source>
+        <translation>Numero di serie :</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>Messages</name>
+    <message>
+        <source>Internal or Comunication Error</source>
+        <translation>Errore interno o di comunicazione</translation>
+    </message>
+    <message>
+        <source>Comunication Error !</source>
+        <translation>Errore di comunicazione !</translation>
+    </message>
+    <message>
+        <source>Reading Error fron validator</source>
+        <translation>Errore di lettura dalla gettoniera</translation>
+    </message>
+    <message>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <translation>La porta di comunicazione COM%d non è libera o è impostata in modo errato.</translation>
+    </message>
+    <message>
+        <source>Select port !!!</source>
+        <translation>Selezionare una porta !!!</translation>
+    </message>
+    <message>
+        <source>Connect validator </source>
+        <translation>Collegare la gettoniera </translation>
+    </message>
+    <message>
+        <source>Validator reading in progress....</source>
+        <translation>Lettura della gettoniera in corso....</translation>
+    </message>
+    <message>
+        <source>Saving in progress.....</source>
+        <translation>Salvataggio in corso.....</translation>
+    </message>
+    <message>
+        <source>Finished operation!</source>
+        <translation>Operazione terminata!</translation>
+    </message>
+    <message>
+        <source>Fault during save operation !</source>
+        <translation>Errore durante il salvataggio !</translation>
+    </message>
+    <message>
+        <source>Operation cancelled</source>
+        <translation>Operazione annullata</translation>
+    </message>
+    <message>
+        <source>Invalid code table !</source>
+        <translation>Tabella dei codici non valida !</translation>
+    </message>
+    <message>
+        <source>Incorrect version of validator</source>
+        <translation>Versione della gettoniera non corretta</translation>
+    </message>
+    <message>
+        <source>Save on validator?</source>
+        <translation>Salvare nella gettoniera?</translation>
+    </message>
+    <message>
+        <source>By Mini-Pgm</source>
+        <translation>Da Mini-Pgm</translation>
+    </message>
+    <message>
+        <source>#NA</source>
+        <translation>#ND</translation>
+    </message>
+    <message>
+        <source>Value must be between 0 and 255</source>
+        <translation>Il valore deve essere compreso tra 0 e 255</translation>
+    </message>
+    <message>
+        <source>Value over the maximum, it will be correct</source>
+        <translation>Valore superiore al massimo, sarà corretto</translation>
+    </message>
+    <message>
+        <source>Value under the minimum, it will be correct.</source>
+        <translation>Valore inferiore al minimo, sarà corretto.</translation>
+    </message>
+    <message>
+        <source>Value over %d ms, it will be adjusted!</source>
+        <translation>Valore superiore a %d ms, sarà adattato!</translation>
+    </message>
+    <message>
+        <source>Wrong way! Please the counter must be desactived if the base value is clear</source>
+        <translation>Impossibile! Il contatore deve essere disattivato se il valore base è vuoto</translation>
+    </message>
+    <message>
+        <source>Modifing this value will take effect on channels from 1 to 30 !</source>
+        <translation>La modifica di questo valore ha effetto sui canali da 1 a 30 !</translation>
+    </message>
+    <message>
+        <source>Modifing this value will take effect on channels from 31 to 60 !</source>
+        <translation>La modifica di questo valore ha effetto sui canali da 31 a 60 !</translation>
+    </message>
+    <message>
+        <source>The value of channels %d and %d is incompatible for the function multi-pulse (max %d pulses)</source>
+        <translation>Il valore dei canali %d e %d è incompatibile con la funzione multi-impulso (massimo %d impulsi)</translation>
+    </message>
+    <message>
+        <source>Impossible displacement, the channel of origin and the one of destination coincides</source>
+        <translation>Spostamento impossibile, il canale di origine e quello di destinazione coincidono</translation>
+    </message>
+    <message>
+        <source>Identification field must be filled</source>
+        <translation>Il campo Identificazione deve essere compilato</translation>
+    </message>
+    <message>
+        <source>%s exist! Overwrite ?</source>
+        <translation>%s esiste! Sovrascrivere ?</translation>
+    </message>
+    <message>
+        <source>File %s saved</source>
+        <translation>File %s salvato</translation>
+    </message>
+    <message>
+        <source>The validity of data of this validator is not guaranteed by BRUNFELDGroup!</source>
+        <translation>La validità dei dati di questa gettoniera non è garantita da BRUNFELDGroup!</translation>
+    </message>
+    <message>
+        <source>Select number of channel !</source>
+        <translation>Selezionare il numero del canale !</translation>
+    </message>
+    <message>
+        <source>Number of coins is less than %d. Proceed?</source>
+        <translation>Il numero di monete è inferiore a %d. Procedere?</translation>
+    </message>
+    <message>
+        <source>Modify another channel ?</source>
+        <translation>Modificare un altro canale ?</translation>
+    </message>
+    <message>
+        <source>Calibrate another channel ?</source>
+        <translation>Calibrare un altro canale ?</translation>
+    </message>
+    <message>
+        <source>Values directly saved into validator</source>
+        <translation>Valori salvati direttamente nella gettoniera</translation>
+    </message>
+    <message>
+        <source>The value matchs the channel %d. Load it ?</source>
+        <translation>Il valore corrisponde al canale %d. Caricarlo ?</translation>
+    </message>
+    <message>
+        <source>No matched data !</source>
+        <translation>Nessun dato corrispondente !</translation>
+    </message>
+    <message>
+        <source>Door open, no data will be transfered ;</source>
+        <translation>Sportello aperto, nessun dato sarà trasferito ;</translation>
+    </message>
+    <message>
+        <source>Prepare the golden tokens.</source>
+        <translation>Preparare i gettoni dorati.</translation>
+    </message>
+    <message>
+        <source>Prepare the silver tokens.</source>
+        <translation>Preparare i gettoni argentati.</translation>
+    </message>
+    <message>
+        <source>Insert the golden tokens. (5 pieces)</source>
+        <translation>Inserire i gettoni dorati. (5 pezzi)</translation>
+    </message>
+    <message>
+        <source>Insert the silver tokens. (5 pieces)</source>
+        <translation>Inserire i gettoni argentati. (5 pezzi)</translation>
+    </message>
+    <message>
+        <source>Reference Channel saved !</source>
+        <translation>Canale di riferimento salvato !</translation>
+    </message>
+    <message>
+        <source>Programming Error !</source>
+        <translation>Errore di programmazione !</translation>
+    </message>
+    <message>
+        <source>Channel %d is empty! No data to control.</source>
+        <translation>Il canale %d è vuoto! Nessun dato da controllare.</translation>
+    </message>
+    <message>
+        <source>No overlapping !</source>
+        <translation>Nessuna sovrapposizione !</translation>
+    </message>
+    <message>
+        <source>Table of values transferred in the validator!</source>
+        <translation>Tabella dei valori trasferita nella gettoniera!</translation>
+    </message>
+    <message>
+        <source>All data transfered !</source>
+        <translation>Tutti i dati sono stati trasferiti !</translation>
+    </message>
+    <message>
+        <source>This option will be activated to the next starting of the program</source>
+        <translation>Questa opzione sarà attivata al prossimo avvio del programma</translation>
+    </message>
+    <message>
+        <source>Upgrade over...</source>
+        <translation>Aggiornamento terminato...</translation>
+    </message>
+    <message>
+        <source>Operation cancelled by operator</source>
+        <translation>Operazione annullata dall&apos;operatore</translation>
+    </message>
+    <message>
+        <source>Updating... Please Wait !</source>
+        <translation>Aggiornamento in corso... Attendere !</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Stop or disconnect !!!</source>
+        <translation>Non interrompere né scollegare !!!</translation>
+    </message>
+    <message>
+        <source>Please connect the mini-programer.</source>
+        <translation>Collegare il mini-programmatore.</translation>
+    </message>
+    <message>
+        <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
+        <translation>Il canale %d della gettoniera differisce da quello di questa configurazione: le finestre potrebbero non essere adatte a questa gettoniera. Continuare?</translation>
+    </message>
+    <message>
+        <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
+        <translation>La gettoniera contiene ora una configurazione scritta in parte: nulla di quanto già scritto è stato annullato. Riscriverla prima dell&apos;uso.</translation>
+    </message>
+    <message>
+        <source>%s is missing</source>
+        <translation>%s manca</translation>
+    </message>
+    <message>
+        <source>%s cannot be opened: %s</source>
+        <translation>%s non può essere aperto: %s</translation>
+    </message>
+    <message>
+        <source>%s cannot be written: %s</source>
+        <translation>%s non può essere scritto: %s</translation>
+    </message>
+    <message>
+        <source>%s is not a dBase table of level 3, 4, 5 or 7</source>
+        <translation>%s non è una tabella dBase di livello 3, 4, 5 o 7</translation>
+    </message>
+    <message>
+        <source>%s has a damaged header: its header length, record length and field widths do not add up</source>
+        <translation>%s ha un&apos;intestazione danneggiata: lunghezza dell&apos;intestazione, lunghezza del record e larghezze dei campi non corrispondono</translation>
+    </message>
+    <message>
+        <source>%s has a damaged header: field %s is not valid</source>
+        <translation>%s ha un&apos;intestazione danneggiata: il campo %s non è valido</translation>
+    </message>
+    <message>
+        <source>%s is truncated: it holds %s of its %s records</source>
+        <translation>%s è troncato: contiene %s dei suoi %s record</translation>
+    </message>
+    <message>
+        <source>%s has no field %s</source>
+        <translation>%s non ha il campo %s</translation>
+    </message>
+    <message>
+        <source>%s: field %s is of type %s where %s is expected</source>
+        <translation>%s: il campo %s è di tipo %s mentre è atteso %s</translation>
+    </message>
+    <message>
+        <source>%s is open in another program (%s); it is opened read-only</source>
+        <translation>%s è aperto in un altro programma (%s); viene aperto in sola lettura</translation>
+    </message>
+    <message>
+        <source>%s cannot be changed: the file or its directory is read-only</source>
+        <translation>%s non può essere modificato: il file o la sua cartella è in sola lettura</translation>
+    </message>
+    <message>
+        <source>%s cannot be changed: its index tag %s (%s) is not one this program can keep up to date</source>
+        <translation>%s non può essere modificato: il suo tag di indice %s (%s) non può essere aggiornato da questo programma</translation>
+    </message>
+    <message>
+        <source>%s cannot be changed: its language driver %s sorts keys in an order this program cannot keep</source>
+        <translation>%s non può essere modificato: il suo driver di lingua %s ordina le chiavi in un ordine che questo programma non può mantenere</translation>
+    </message>
+    <message>
+        <source>The value %s does not fit field %s of %s</source>
+        <translation>Il valore %s non entra nel campo %s di %s</translation>
+    </message>
+    <message>
+        <source>The index %s was not usable (%s) and has been rebuilt from %s</source>
+        <translation>L&apos;indice %s non era utilizzabile (%s) ed è stato ricostruito da %s</translation>
+    </message>
+    <message>
+        <source>The index %s is not usable (%s) and cannot be rebuilt now</source>
+        <translation>L&apos;indice %s non è utilizzabile (%s) e non può essere ricostruito ora</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>manca</translation>
+    </message>
+    <message>
+        <source>its header is damaged</source>
+        <translation>la sua intestazione è danneggiata</translation>
+    </message>
+    <message>
+        <source>its pages are damaged</source>
+        <translation>le sue pagine sono danneggiate</translation>
+    </message>
+    <message>
+        <source>its keys are out of order</source>
+        <translation>le sue chiavi non sono in ordine</translation>
+    </message>
+    <message>
+        <source>its entries do not match the records</source>
+        <translation>le sue voci non corrispondono ai record</translation>
+    </message>
+    <message>
+        <source>tag %s is missing or does not match its field</source>
+        <translation>il tag %s manca o non corrisponde al suo campo</translation>
+    </message>
+    <message>
+        <source>its language driver differs from the table&apos;s</source>
+        <translation>il suo driver di lingua differisce da quello della tabella</translation>
+    </message>
+    <message>
+        <source>The data directory %s has been created with empty tables</source>
+        <translation>La cartella dati %s è stata creata con tabelle vuote</translation>
+    </message>
+    <message>
+        <source>Empty tables have been created in %s: %s</source>
+        <translation>Sono state create tabelle vuote in %s: %s</translation>
+    </message>
+    <message>
+        <source>No validator %s is stored</source>
+        <translation>Nessuna gettoniera %s è memorizzata</translation>
+    </message>
+    <message>
+        <source>The settings could not be read; the defaults are used until a setting is changed.</source>
+        <translation>Non è stato possibile leggere le impostazioni; si usano i valori predefiniti finché non si modifica un&apos;impostazione.</translation>
+    </message>
+    <message>
+        <source>The file %s could not be read.</source>
+        <translation>Non è stato possibile leggere il file %s.</translation>
+    </message>
+</context>
+<context>
+    <name>SimulatorPanel</name>
+    <message>
+        <source>Virtual validator</source>
+        <translation>Gettoniera virtuale</translation>
+    </message>
+    <message>
+        <source>Validator</source>
+        <translation>Gettoniera</translation>
+    </message>
+    <message>
+        <source>Family :</source>
+        <translation>Famiglia :</translation>
+    </message>
+    <message>
+        <source>Serial number :</source>
+        <translation>Numero di serie :</translation>
+    </message>
+    <message>
+        <source>Fit a new validator</source>
+        <translation>Monta una nuova gettoniera</translation>
+    </message>
+    <message>
+        <source>Coins</source>
+        <translation>Monete</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Inserisci</translation>
+    </message>
+    <message>
+        <source>Door open</source>
+        <translation>Sportello aperto</translation>
+    </message>
+    <message>
+        <source>Cable plugged in</source>
+        <translation>Cavo collegato</translation>
+    </message>
+    <message>
+        <source>Mini-programmer (firmware upgrade)</source>
+        <translation>Mini-programmatore (aggiornamento firmware)</translation>
+    </message>
+    <message>
+        <source>Coins waiting : %1</source>
+        <translation>Monete in attesa : %1</translation>
+    </message>
+</context>
+<context>
+    <name>TCloningChk</name>
+    <message>
+        <source>Cloning</source>
+        <translation>Clonazione</translation>
+    </message>
+    <message>
+        <source>Please! Be sure that validator is connected.</source>
+        <translation>Attenzione! Verificare che la gettoniera sia collegata.</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>Channels data</source>
+        <translation>Dati dei canali</translation>
+    </message>
+    <message>
+        <source>Values table :</source>
+        <translation>Tabella dei valori :</translation>
+    </message>
+    <message>
+        <source>Prices table :</source>
+        <translation>Tabella dei prezzi :</translation>
+    </message>
+    <message>
+        <source>Configuration :</source>
+        <translation>Configurazione :</translation>
+    </message>
+    <message>
+        <source>Enable table :</source>
+        <translation>Tabella di abilitazione :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>TCommunication</name>
+    <message>
+        <source>Communication</source>
+        <translation>Comunicazione</translation>
+    </message>
+    <message>
+        <source>Port selection</source>
+        <translation>Selezione della porta</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Porta</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+</context>
+<context>
+    <name>TConnectForm</name>
+    <message>
+        <source>Mini-programmer</source>
+        <translation>Mini-programmatore</translation>
+    </message>
+</context>
+<context>
+    <name>TFormAvertissementDif</name>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continua</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>TFormCondotto</name>
+    <message>
+        <source>Output</source>
+        <translation>Uscita</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Gioco</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Vendita</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormMain</name>
+    <message>
+        <source>&amp;Parameters</source>
+        <translation>&amp;Parametri</translation>
+    </message>
+    <message>
+        <source>&amp;Sound</source>
+        <translation>&amp;Suono</translation>
+    </message>
+    <message>
+        <source>&amp;Auto adjust</source>
+        <translation>&amp;Regolazione automatica</translation>
+    </message>
+    <message>
+        <source>&amp;Direct write</source>
+        <translation>Scrittura &amp;diretta</translation>
+    </message>
+    <message>
+        <source>Only for calibration</source>
+        <translation>Solo per la calibrazione</translation>
+    </message>
+    <message>
+        <source>&amp;Langage</source>
+        <translation>&amp;Lingua</translation>
+    </message>
+    <message>
+        <source>&amp;Local</source>
+        <translation>&amp;Locale</translation>
+    </message>
+    <message>
+        <source>Firmware upgrade...</source>
+        <translation>Aggiornamento firmware...</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Indietro</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+</context>
+<context>
+    <name>TMajFirmware</name>
+    <message>
+        <source>Fichier Firmware VK2</source>
+        <translation>File firmware VK2</translation>
+    </message>
+    <message>
+        <source>Firmware upgrade</source>
+        <translation>Aggiornamento firmware</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Aggiornamento</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikFormInit</name>
+    <message>
+        <source>Validator setting</source>
+        <translation>Impostazione gettoniera</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Numero di serie :</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Uscita</translation>
+    </message>
+    <message>
+        <source>Game Fast</source>
+        <translation>Gioco veloce</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Gioco</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Vendita anti-inceppamento</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Vendita</translation>
+    </message>
+    <message>
+        <source>Resetable counter :</source>
+        <translation>Contatore azzerabile :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+</context>
+</TS>

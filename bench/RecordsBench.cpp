@@ -1,0 +1,91 @@
+// Store timings of the records engine: 1,000 validators (61,000 rows with their channels)
+// stored one by one, each commit rewriting what changed and rebuilding both indexes with the
+// files flushed to disk, then each located by its identification.
+//   build/bin/records_bench [count] [directory]
+#include "DbfTable.h"
+#include "TDBModule.h"
+#include "UserPrompt.h"
+#include "ValidatorStore.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cstdio>
+#include <numeric>
+#include <vector>
+
+namespace {
+
+void report(const char *what, std::vector<qint64> ns)
+{
+    std::sort(ns.begin(), ns.end());
+    const double mean =
+        double(std::accumulate(ns.begin(), ns.end(), qint64(0))) / double(ns.size());
+    std::printf("%-28s n=%zu  mean %.3f ms  median %.3f ms  p95 %.3f ms  max %.3f ms\n", what,
+                ns.size(), mean / 1e6, double(ns[ns.size() / 2]) / 1e6,
+                double(ns[ns.size() * 95 / 100]) / 1e6, double(ns.back()) / 1e6);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication app(argc, argv);
+    const int count = argc > 1 ? std::max(1, atoi(argv[1])) : 1000;
+    QTemporaryDir temp;
+    const QString dir = argc > 2 ? QString::fromLocal8Bit(argv[2]) : temp.path();
+
+    TDBModule db;
+    if (!db.open(dir)) {
+        std::fprintf(stderr, "%s\n", qPrintable(db.errorString()));
+        return 1;
+    }
+    SilentPrompt prompt;
+    ValidatorStore store(db, prompt);
+    ConfigImage image = ConfigImage::blank();
+    for (int k = 0; k < kChannels; ++k)
+        image.channels[std::size_t(k)].fill(quint8(k));
+
+    std::vector<qint64> stores, firstStores, lastStores, locates, loads;
+    QElapsedTimer timer;
+    for (int i = 0; i < count; ++i) {
+        const QString ident =
+            QStringLiteral("VALIDATOR %1").arg((i * 7919) % count, 5, 10, QLatin1Char('0'));
+        image.prices[0] = quint8(i);
+        timer.start();
+        if (store.store(image, ident, QStringLiteral("bench")) != ValidatorStore::Outcome::Stored) {
+            std::fprintf(stderr, "store %d failed: %s\n", i, qPrintable(store.errorString()));
+            return 1;
+        }
+        const qint64 ns = timer.nsecsElapsed();
+        stores.push_back(ns);
+        (i < count / 10 ? firstStores : lastStores).push_back(ns);
+        if (i >= count / 10 && i < count - count / 10)
+            lastStores.pop_back();
+    }
+    for (int i = 0; i < count; ++i) {
+        const QString ident = QStringLiteral("validator %1").arg(i, 5, 10, QLatin1Char('0'));
+        timer.start();
+        const int row = db.Gettoniere()->locate(QStringLiteral("IDENT"), ident);
+        const std::vector<int> channels =
+            db.Channel()->locateAll(QStringLiteral("MONNAYEUR"), ident);
+        locates.push_back(timer.nsecsElapsed());
+        if (row < 0 || channels.size() != std::size_t(kChannels)) {
+            std::fprintf(stderr, "locate %d failed\n", i);
+            return 1;
+        }
+        timer.start();
+        ConfigImage loaded;
+        store.load(ident, loaded);
+        loads.push_back(timer.nsecsElapsed());
+    }
+    std::printf("%d validators, %d channel rows, in %s\n", count, db.Channel()->recordCount(),
+                qPrintable(dir));
+    report("store (all)", stores);
+    report("store (first tenth)", firstStores);
+    report("store (last tenth)", lastStores);
+    report("locate (validator+channels)", locates);
+    report("load", loads);
+    return 0;
+}

@@ -1,0 +1,231 @@
+#pragma once
+
+#include "MdxIndex.h"
+#include "TableSchema.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QHash>
+#include <QObject>
+#include <QStringList>
+#include <QVariant>
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QLockFile;
+
+// One field descriptor of a table.
+struct DbfField
+{
+    QString name;
+    char type = 'C';
+    int length = 0;
+    int decimals = 0;
+    int offset = 0;           // of its first byte in a record (byte 0 is the deletion flag)
+    int descriptorOffset = 0; // of its descriptor in the header
+};
+
+// A dBase table (.dbf) with its production index (.MDX), held in memory and written back whole
+// on every commit.
+//
+// Reads level 3/4/5 tables (byte 0 = 0x03, 32-byte field descriptors) and level 7 tables
+// (byte 0 = 0x04, 48-byte descriptors, binary 'I' and 'O' numbers). Rows stay in file order; a
+// deleted row keeps its place with the '*' flag. Changes are made in memory and reach the disk
+// on commit(), which rewrites the table and rebuilds every tag of its index. Every header byte
+// the change does not concern (level, language driver, field flags, level-7 properties) is
+// kept, so a table written back differs from the original only in what changed.
+//
+// Crash safety. A commit writes the new index to "<index>.tarvik-tmp" and flushes it first.
+// Then the table:
+//  - when the change only appends rows, the new rows are written after the last row in place
+//    and flushed, and only then the record count in the header (7 bytes in the first sector,
+//    written in one piece) and flushed again. Until the count is written every dBase reader
+//    still sees the old rows: bytes after the last counted row are ignored.
+//  - otherwise the whole table goes to "<table>.tarvik-tmp", is flushed, and is renamed over
+//    the table.
+// Last, the index temporary is renamed over the index. The table is thus always either the
+// old or the new one, and it is the truth: the index is derived from it. A crash before the
+// table step leaves the old pair (the temporaries are removed on the next open); a crash after
+// it leaves the new table with the old index, which the next open finds stale, because it
+// checks every tag of the index against the table, and rebuilds, giving the new pair. A damaged
+// or missing index is rebuilt the same way, with a notice.
+//
+// Locking: a lock file "<table>.lck" beside the table (QLockFile) keeps a second Tarvik from
+// writing the same table; the second one opens it read-only with a notice. dBase tools do not
+// know the lock file: a commit refuses to write when the table's size or time on disk changed
+// since it was read, and since the table is replaced by a rename, a tool that has it open
+// keeps reading the version it opened.
+class DbfTable final : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The steps of a commit, in order (the table takes either the append or the replace path).
+    enum class CommitStep
+    {
+        WriteIndexTemp,
+        AppendRecords,
+        UpdateHeader,
+        WriteTableTemp,
+        ReplaceTable,
+        ReplaceIndex
+    };
+    enum class HookAction
+    {
+        Continue,
+        Crash, // stop here, leaving the files as a power cut would
+        Fail   // the step fails as on a full disk
+    };
+    // Test seam: called before each step of every commit.
+    using CommitHook = std::function<HookAction(CommitStep)>;
+    static void setCommitHook(CommitHook hook);
+
+    explicit DbfTable(QObject *parent = nullptr);
+    ~DbfTable() override;
+    Q_DISABLE_COPY_MOVE(DbfTable)
+
+    // Creates an empty level-4 table with its index (version 2) holding the schema's tags.
+    // Never replaces an existing file.
+    static bool create(const QString &path, const TableSchema &schema, QString *error);
+    // The file called name in dir, found without regard to case (tables copied from Windows
+    // keep any case); dir/name when none matches.
+    static QString findInDirectory(const QString &dir, const QString &name);
+
+    // Opens a table and its production index. With a schema, every field it lists must exist
+    // and the index must hold its tags. What open repaired (a rebuilt index) is in notices();
+    // why the table cannot be changed, if so, too.
+    bool open(const QString &path, const TableSchema *schema = nullptr);
+    // Reads a table and its index from memory, read-only, checking the index as open() does
+    // without repairing it. An empty index means none.
+    bool openBytes(const QByteArray &table, const QByteArray &index,
+                   const TableSchema *schema = nullptr);
+    // Pending changes are dropped.
+    void close();
+
+    bool isOpen() const { return m_open; }
+    bool isReadOnly() const { return m_readOnly; }
+    QString errorString() const { return m_error; }
+    QStringList notices() const { return m_notices; }
+    QString filePath() const { return m_path; }
+    QString indexPath() const { return m_indexPath; }
+    QString fileName() const;
+    const TableSchema *schema() const { return m_schema; }
+    bool isLevel7() const { return m_level7; }
+    quint8 languageDriver() const;
+    bool hasIndex() const { return m_indexed; }
+    const MdxIndex &index() const { return m_index; }
+
+    int fieldCount() const { return int(m_fields.size()); }
+    const DbfField &field(int f) const { return m_fields.at(f); }
+    // -1 when the table has no such field; names compare without regard to case.
+    int fieldIndex(const QString &name) const;
+
+    // Rows in file order, deleted ones included.
+    int recordCount() const { return m_count; }
+    bool isDeleted(int rec) const;
+    // The rows not deleted, in file order.
+    std::vector<int> liveRows() const;
+
+    // A field's value: QString (C), qlonglong or double (N, F, I, O), bool (L), QDate (D);
+    // a null QVariant for a blank or unreadable field or an unknown name.
+    QVariant value(int rec, int f) const;
+    QVariant value(int rec, const QString &name) const;
+    // The field as text: characters without the padding, numbers trimmed, L as T or F.
+    QString text(int rec, int f) const;
+    QString text(int rec, const QString &name) const;
+    QByteArray rawField(int rec, int f) const;
+
+    // False with errorString() when the value does not fit the field or the table is
+    // read-only. Text longer than a character field is cut, as dBase engines do.
+    bool setValue(int rec, int f, const QVariant &value);
+    bool setValue(int rec, const QString &name, const QVariant &value);
+    // A blank row at the end; -1 when the table is read-only.
+    int appendRecord();
+    bool deleteRecord(int rec);
+
+    // The first live row whose field equals key without regard to case (trailing blanks
+    // ignored), or -1.
+    int locate(const QString &fieldName, const QString &key) const;
+    // All of them, in file order.
+    std::vector<int> locateAll(const QString &fieldName, const QString &key) const;
+
+    bool hasPendingChanges() const;
+    // Writes the pending changes and the rebuilt index (see the class comment).
+    bool commit();
+    // Drops the pending changes.
+    void rollback();
+
+Q_SIGNALS:
+    // After open, close, a commit or a rollback: the rows may all be different.
+    void changed();
+
+private:
+    bool fail(Msg id, const QStringList &args) const;
+    bool parseTable(const QByteArray &bytes);
+    bool checkSchema();
+    void attachIndex(const QByteArray *indexBytes);
+    void setReadOnly(const QString &reason);
+    const char *record(int rec) const
+    {
+        return m_records.constData() + qint64(rec) * m_recordLength;
+    }
+    char *record(int rec) { return m_records.data() + qint64(rec) * m_recordLength; }
+    bool ansiText() const;
+    bool binaryOrder() const;
+    bool encodeField(const DbfField &f, const QVariant &value, QByteArray *out) const;
+
+    std::vector<int> sortedRows(int f) const;
+    std::vector<std::vector<int>> updatedTagRows() const;
+    std::vector<MdxKey> tagKeys(int t, const std::vector<int> &rows) const;
+    bool writeIndexTemp(const std::vector<std::vector<int>> &rows, QString *tempPath);
+    void beginChange(int rec);
+    void rememberDiskState();
+    bool changedOnDisk() const;
+
+    QString foldedKey(int rec, int f) const;
+    struct Lookup
+    {
+        QHash<QString, std::vector<int>> rows;
+    };
+    Lookup &lookup(int f) const;
+    void forgetInLookups(int rec, int onlyField = -1);
+    void noteInLookups(int rec, int onlyField = -1);
+
+    QString m_path;
+    QString m_indexPath;
+    mutable QString m_error;
+    QStringList m_notices;
+    const TableSchema *m_schema = nullptr;
+    bool m_open = false;
+    bool m_readOnly = false;
+    bool m_memoryOnly = false;
+    QString m_readOnlyReason;
+    std::unique_ptr<QLockFile> m_lock;
+    qint64 m_diskSize = 0;
+    QDateTime m_diskModified; // of the table as last read or written
+
+    QByteArray m_header;
+    QByteArray m_committedHeader;
+    bool m_headerDirty = false;
+    bool m_level7 = false;
+    int m_headerLength = 0;
+    int m_recordLength = 0;
+    QByteArray m_records;
+    int m_count = 0;
+    int m_committedCount = 0;
+    QList<DbfField> m_fields;
+    QHash<QString, int> m_fieldByName;
+
+    bool m_indexed = false;
+    bool m_indexNeedsWrite = false;
+    MdxProblem m_indexProblem;
+    MdxIndex m_index;
+    std::vector<int> m_tagFields;            // field of each tag, -1 for one we cannot keep
+    std::vector<std::vector<int>> m_tagRows; // live rows of each tag in key order
+
+    QHash<int, QByteArray> m_originals; // committed bytes of the rows changed since
+    std::vector<char> m_dirtyMark;
+    std::vector<int> m_dirtyRows;
+    mutable std::vector<std::unique_ptr<Lookup>> m_lookups; // by field, built when first used
+};

@@ -1,0 +1,123 @@
+#include "TDBModule.h"
+
+#include "DbfTable.h"
+#include "DbfTableModel.h"
+#include "Messages.h"
+#include "TableSchema.h"
+#include "UserPrompt.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+TDBModule::TDBModule(QObject *parent) : QObject(parent)
+{
+    for (std::size_t i = 0; i < m_tables.size(); ++i) {
+        m_tables[i] = std::make_unique<DbfTable>();
+        m_sources[i] = std::make_unique<DbfTableModel>(m_tables[i].get());
+    }
+    MonnayeurSource()->setRecordRemover([this](int rec) { return deleteValidator(rec); });
+}
+
+TDBModule::~TDBModule()
+{
+    // the models watch the tables: they go first
+    for (auto &source : m_sources)
+        source.reset();
+}
+
+bool TDBModule::open(const QString &dataDir, UserPrompt *prompt)
+{
+    close();
+    m_dir = QDir::cleanPath(QFileInfo(dataDir).absoluteFilePath());
+    QStringList errors;
+
+    bool createdDirectory = false;
+    if (!QFileInfo(m_dir).isDir()) {
+        if (!QDir().mkpath(m_dir)) {
+            errors.append(messageText(Msg::RecordsCannotCreateDirectory, {m_dir}));
+        } else {
+            createdDirectory = true;
+        }
+    }
+    QStringList created;
+    const QList<const TableSchema *> schemas = TableSchema::all();
+    if (errors.isEmpty()) {
+        for (const TableSchema *schema : schemas) {
+            const QString path = DbfTable::findInDirectory(m_dir, schema->fileName);
+            if (QFileInfo::exists(path))
+                continue;
+            QString error;
+            if (DbfTable::create(path, *schema, &error))
+                created.append(schema->fileName);
+            else
+                errors.append(error);
+        }
+    }
+    if (createdDirectory)
+        m_notices.append(messageText(Msg::RecordsDirectoryCreated, {m_dir}));
+    else if (!created.isEmpty())
+        m_notices.append(
+            messageText(Msg::RecordsTablesCreated, {m_dir, created.join(QStringLiteral(", "))}));
+
+    for (std::size_t i = 0; i < m_tables.size(); ++i) {
+        const TableSchema *schema = schemas.at(qsizetype(i));
+        DbfTable &table = *m_tables[i];
+        if (!table.open(DbfTable::findInDirectory(m_dir, schema->fileName), schema)) {
+            if (!errors.contains(table.errorString()))
+                errors.append(table.errorString());
+        }
+        m_notices.append(table.notices());
+    }
+    m_error = errors.join(QLatin1Char('\n'));
+
+    if (prompt) {
+        for (int i = 0; i < m_notices.size(); ++i) {
+            const bool creation = i == 0 && (createdDirectory || !created.isEmpty());
+            prompt->tell(m_notices.at(i),
+                         creation ? UserPrompt::Kind::Information : UserPrompt::Kind::Warning);
+        }
+        for (const QString &error : std::as_const(errors))
+            prompt->tell(error, UserPrompt::Kind::Error);
+    }
+    return errors.isEmpty();
+}
+
+void TDBModule::close()
+{
+    for (auto &table : m_tables)
+        table->close();
+    m_notices.clear();
+    m_error.clear();
+}
+
+bool TDBModule::GettoniereBeforeDelete(int rec)
+{
+    const QString ident = Gettoniere()->text(rec, QStringLiteral("IDENT"));
+    for (int row : Channel()->locateAll(QStringLiteral("MONNAYEUR"), ident)) {
+        if (!Channel()->deleteRecord(row))
+            return false;
+    }
+    return true;
+}
+
+bool TDBModule::deleteValidator(int rec)
+{
+    DbfTable &validators = *Gettoniere();
+    DbfTable &channels = *Channel();
+    if (!validators.isOpen() || !channels.isOpen() || rec < 0 || rec >= validators.recordCount())
+        return false;
+    const bool ok = GettoniereBeforeDelete(rec) && validators.deleteRecord(rec);
+    if (!ok || !channels.commit()) {
+        m_error = ok ? channels.errorString()
+                     : (channels.isReadOnly() ? channels.errorString() : validators.errorString());
+        channels.rollback();
+        validators.rollback();
+        return false;
+    }
+    if (!validators.commit()) {
+        m_error = validators.errorString();
+        validators.rollback();
+        return false;
+    }
+    return true;
+}

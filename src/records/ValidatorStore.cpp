@@ -1,0 +1,233 @@
+#include "ValidatorStore.h"
+
+#include "DbfTable.h"
+#include "Messages.h"
+#include "TDBModule.h"
+#include "UserPrompt.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// The channel table's fields for bytes 0 to 14 of a channel record, in record order.
+const char *const kRecordFields[15] = {"HFUHIGHMAX", "HFUHIGHMIN", "HFULOWMAX", "HFULOWMIN",
+                                       "LFMAX",      "LFMIN",      "DIMMAX",    "DIMMIN",
+                                       "HFLHIGHMAX", "HFLHIGHMIN", "HFLLOWMAX", "HFLLOWMIN",
+                                       "HFLAMPMAX",  "HFLAMPMIN",  "SUBSTITUTE"};
+
+QString name(const char *field)
+{
+    return QString::fromLatin1(field);
+}
+
+// A stored number as an unsigned value of at most max; a blank field is max (not set).
+quint32 storedNumber(const QVariant &v, quint32 max)
+{
+    if (v.isNull())
+        return max;
+    const double d = std::round(v.toDouble());
+    return d <= 0 ? 0 : d >= max ? max : quint32(d);
+}
+
+} // namespace
+
+ValidatorStore::ValidatorStore(TDBModule &db, UserPrompt &prompt) : m_db(db), m_prompt(prompt) {}
+
+bool ValidatorStore::tablesUsable()
+{
+    for (DbfTable *table : {m_db.Gettoniere(), m_db.Channel()}) {
+        if (!table->isOpen()) {
+            m_error = messageText(Msg::RecordsFileMissing, {table->filePath()});
+            return false;
+        }
+    }
+    return true;
+}
+
+ValidatorStore::Outcome ValidatorStore::store(const ConfigImage &image,
+                                              const QString &identification,
+                                              const QString &description)
+{
+    QString ident = identification.trimmed();
+    if (ident.isEmpty()) {
+        m_prompt.tell(messageText(Msg::IdentificationMustBeFilled), UserPrompt::Kind::Warning);
+        return Outcome::EmptyIdentification;
+    }
+    if (!tablesUsable()) {
+        m_prompt.tell(m_error, UserPrompt::Kind::Error);
+        return Outcome::Failed;
+    }
+    DbfTable &validators = *m_db.Gettoniere();
+    DbfTable &channels = *m_db.Channel();
+    // The identification is kept as the field holds it, so that it is found again.
+    ident.truncate(validators.field(validators.fieldIndex(QStringLiteral("IDENT"))).length);
+    ident = ident.trimmed();
+
+    auto failed = [&](const QString &error) {
+        m_error = error;
+        channels.rollback();
+        validators.rollback();
+        m_prompt.tell(m_error, UserPrompt::Kind::Error);
+        return Outcome::Failed;
+    };
+
+    const int existing = validators.locate(QStringLiteral("IDENT"), ident);
+    if (existing >= 0) {
+        const auto answer = m_prompt.ask(messageText(Msg::ExistOverwrite, {ident}),
+                                         UserPrompt::Kind::Warning, UserPrompt::Buttons::YesNo);
+        if (answer != UserPrompt::Answer::Yes)
+            return Outcome::NotOverwritten;
+        if (!m_db.GettoniereBeforeDelete(existing) || !validators.deleteRecord(existing))
+            return failed(channels.isReadOnly() ? channels.errorString()
+                                                : validators.errorString());
+    }
+    // Channel rows left behind by a store that was cut short go too, so that an
+    // identification never has two sets of channels.
+    for (int row : channels.locateAll(QStringLiteral("MONNAYEUR"), ident)) {
+        if (!channels.deleteRecord(row))
+            return failed(channels.errorString());
+    }
+
+    const int v = validators.appendRecord();
+    if (v < 0)
+        return failed(validators.errorString());
+    const quint32 conversion = quint32(image.values[Val::Conversion]) << 24 |
+                               quint32(image.values[Val::Conversion + 1]) << 16 |
+                               quint32(image.values[Val::Conversion + 2]) << 8 |
+                               image.values[Val::Conversion + 3];
+    bool ok =
+        validators.setValue(v, QStringLiteral("IDENT"), ident) &&
+        validators.setValue(v, QStringLiteral("DESCRIPTIO"), description) &&
+        validators.setValue(v, QStringLiteral("VERSION"), QString::number(image.familyByte())) &&
+        validators.setValue(v, QStringLiteral("OPTION"),
+                            image.options[0] << 8 | image.options[1]) &&
+        validators.setValue(v, QStringLiteral("BASE1"),
+                            image.values[Val::Base1] << 8 | image.values[Val::Base1 + 1]) &&
+        validators.setValue(v, QStringLiteral("BASE2"),
+                            image.values[Val::Base2] << 8 | image.values[Val::Base2 + 1]) &&
+        validators.setValue(v, QStringLiteral("CONVERSION"), double(conversion));
+    for (int i = 0; ok && i < 6; ++i)
+        ok = validators.setValue(v, QStringLiteral("PRIX%1").arg(i), image.prices[std::size_t(i)]);
+    if (!ok)
+        return failed(validators.errorString());
+
+    for (int k = 0; k < kChannels; ++k) {
+        const ChannelRecord &record = image.channels[std::size_t(k)];
+        const int c = channels.appendRecord();
+        ok = c >= 0 && channels.setValue(c, QStringLiteral("MONNAYEUR"), ident) &&
+             channels.setValue(c, QStringLiteral("CANAL"), k + 1);
+        for (int b = 0; ok && b < 15; ++b)
+            ok = channels.setValue(c, name(kRecordFields[b]), record[std::size_t(b)]);
+        const quint8 enabled = record[Rec::Enabled];
+        ok = ok &&
+             channels.setValue(c, QStringLiteral("VALID"),
+                               enabled == 255 ? QVariant() : QVariant(enabled != 0)) &&
+             channels.setValue(c, QStringLiteral("VALEUR"), record[Rec::Value]);
+        if (!ok)
+            return failed(channels.errorString());
+    }
+
+    // The channels go first: a validator row never points at channels that are not there.
+    if (!channels.commit())
+        return failed(channels.errorString());
+    if (!validators.commit())
+        return failed(validators.errorString());
+    m_prompt.tell(messageText(Msg::FileSaved, {ident}), UserPrompt::Kind::Information);
+    return Outcome::Stored;
+}
+
+bool ValidatorStore::load(const QString &identification, ConfigImage &image, QString *description)
+{
+    if (!tablesUsable())
+        return false;
+    const DbfTable &validators = *m_db.Gettoniere();
+    const DbfTable &channels = *m_db.Channel();
+    const int v = validators.locate(QStringLiteral("IDENT"), identification.trimmed());
+    if (v < 0) {
+        m_error = messageText(Msg::RecordsNotStored, {identification.trimmed()});
+        return false;
+    }
+    const QString ident = validators.text(v, QStringLiteral("IDENT"));
+
+    image = ConfigImage::blank();
+    if (description)
+        *description = validators.text(v, QStringLiteral("DESCRIPTIO"));
+    const quint32 option = storedNumber(validators.value(v, QStringLiteral("OPTION")), 0xFFFF);
+    image.options = {quint8(option >> 8), quint8(option)};
+    const quint32 base1 = storedNumber(validators.value(v, QStringLiteral("BASE1")), 0xFFFF);
+    const quint32 base2 = storedNumber(validators.value(v, QStringLiteral("BASE2")), 0xFFFF);
+    const quint32 conversion =
+        storedNumber(validators.value(v, QStringLiteral("CONVERSION")), 0xFFFFFFFF);
+    image.values[Val::Base1] = quint8(base1 >> 8);
+    image.values[Val::Base1 + 1] = quint8(base1);
+    image.values[Val::Base2] = quint8(base2 >> 8);
+    image.values[Val::Base2 + 1] = quint8(base2);
+    for (int i = 0; i < 4; ++i)
+        image.values[std::size_t(Val::Conversion + i)] = quint8(conversion >> (24 - 8 * i));
+    for (int i = 0; i < 6; ++i) {
+        image.prices[std::size_t(i)] =
+            quint8(storedNumber(validators.value(v, QStringLiteral("PRIX%1").arg(i)), 255));
+    }
+
+    // The rows written under exactly this identification; rows of an identification that
+    // differs only in case when there are none.
+    std::vector<int> rows = channels.locateAll(QStringLiteral("MONNAYEUR"), ident);
+    std::vector<int> exact;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(exact),
+                 [&](int r) { return channels.text(r, QStringLiteral("MONNAYEUR")) == ident; });
+    if (!exact.empty())
+        rows = exact;
+    // Older stores may have counted channels from 0.
+    const int canal = channels.fieldIndex(QStringLiteral("CANAL"));
+    const bool fromZero =
+        std::any_of(rows.begin(), rows.end(),
+                    [&](int r) { return channels.value(r, canal).toInt() == 0; }) &&
+        std::none_of(rows.begin(), rows.end(),
+                     [&](int r) { return channels.value(r, canal).toInt() == kChannels; });
+    for (int r : rows) {
+        const int k = channels.value(r, canal).toInt() - (fromZero ? 0 : 1);
+        if (k < 0 || k >= kChannels)
+            continue;
+        ChannelRecord &record = image.channels[std::size_t(k)];
+        for (int b = 0; b < 15; ++b)
+            record[std::size_t(b)] =
+                quint8(storedNumber(channels.value(r, name(kRecordFields[b])), 255));
+        const quint8 value = quint8(storedNumber(channels.value(r, QStringLiteral("VALEUR")), 255));
+        record[Rec::Value] = value;
+        image.values[std::size_t(Val::Channel0 + k)] = value;
+        const QVariant valid = channels.value(r, QStringLiteral("VALID"));
+        record[Rec::Enabled] = valid.isNull() ? 255 : (valid.toBool() ? 1 : 0);
+    }
+    return true;
+}
+
+QList<ValidatorStore::Entry> ValidatorStore::list() const
+{
+    QList<Entry> entries;
+    const DbfTable &validators = *m_db.Gettoniere();
+    if (!validators.isOpen())
+        return entries;
+    for (int r : validators.liveRows()) {
+        entries.append({validators.text(r, QStringLiteral("IDENT")),
+                        validators.text(r, QStringLiteral("DESCRIPTIO")),
+                        validators.text(r, QStringLiteral("VERSION"))});
+    }
+    return entries;
+}
+
+bool ValidatorStore::remove(const QString &identification)
+{
+    if (!tablesUsable())
+        return false;
+    const int v = m_db.Gettoniere()->locate(QStringLiteral("IDENT"), identification.trimmed());
+    if (v < 0) {
+        m_error = messageText(Msg::RecordsNotStored, {identification.trimmed()});
+        return false;
+    }
+    if (!m_db.deleteValidator(v)) {
+        m_error = m_db.errorString();
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "ConfigImage.h"
+
+#include <QList>
+#include <QString>
+
+class TDBModule;
+class UserPrompt;
+
+// Keeps validators' configurations in the validator table (Gettoniere) and the channel table
+// (Channel): one validator row and 60 channel rows per identification.
+class ValidatorStore final
+{
+public:
+    ValidatorStore(TDBModule &db, UserPrompt &prompt);
+    Q_DISABLE_COPY_MOVE(ValidatorStore)
+
+    enum class Outcome
+    {
+        Stored,
+        EmptyIdentification,
+        NotOverwritten,
+        Failed
+    };
+
+    // Stores an image under an identification. An existing identification (compared without
+    // regard to case) is replaced only when the user answers Yes to "%s exist! Overwrite ?".
+    // Messages and questions go through the prompt.
+    Outcome store(const ConfigImage &image, const QString &identification,
+                  const QString &description);
+
+    // Fills the channel table, the value block, the options and the prices of a blank image
+    // from a stored validator; every other block stays not set (255).
+    bool load(const QString &identification, ConfigImage &image, QString *description = nullptr);
+
+    struct Entry
+    {
+        QString identification;
+        QString description;
+        QString version;
+    };
+    // The stored validators in file order.
+    QList<Entry> list() const;
+
+    // Deletes a stored validator with its channel rows.
+    bool remove(const QString &identification);
+
+    QString errorString() const { return m_error; }
+
+private:
+    bool tablesUsable();
+
+    TDBModule &m_db;
+    UserPrompt &m_prompt;
+    QString m_error;
+};

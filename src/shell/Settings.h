@@ -1,0 +1,81 @@
+#pragma once
+
+#include "Encodings.h"
+
+#include <QSettings>
+#include <QString>
+#include <QVariant>
+#include <memory>
+
+// The program's persistent settings, one typed facade over the "DefaultSettings" group of the
+// Brunfeld/Tarvik settings (the registry key \Software\Brunfeld\Tarvik\DefaultSettings on
+// Windows). The first run creates the group with the defaults. Settings that cannot be read
+// fall back to the defaults and are not written back until the user changes one.
+class Settings final
+{
+public:
+    enum class Key
+    {
+        Sound,         // "Sound": play sounds
+        Adjust,        // "Adjust": the Auto adjust switch
+        DirectWrite,   // "DirectWrite": the Direct write switch
+        Language,      // "Language": "FR", "IT", "EN", "DE" or empty (Local)
+        DataDirectory, // empty: the records engine's own default
+        PortMap,
+        DecimalChar, // empty: from the system locale
+        DateChar,    // empty: from the system locale
+        DateFormat,  // 0 month/day/year, 1 day/month/year, 2 year/month/day; empty: locale
+        Count_
+    };
+
+    enum class LoadState
+    {
+        Read,      // the group was there and every value could be read
+        Created,   // first run: the group has been created with the defaults
+        Unreadable // the settings could not be read: defaults until the user changes one
+    };
+
+    Settings();
+    // Another organisation and application (tests).
+    Settings(const QString &organization, const QString &application);
+    ~Settings();
+    Q_DISABLE_COPY_MOVE(Settings)
+
+    LoadState load();
+    LoadState loadState() const { return m_state; }
+    // The value names that could not be read at the last load.
+    const QStringList &unreadable() const { return m_unreadable; }
+
+    bool soundOn() const { return value(Key::Sound).toBool(); }
+    bool autoAdjust() const { return value(Key::Adjust).toBool(); }
+    bool directWrite() const { return value(Key::DirectWrite).toBool(); }
+    QString language() const { return value(Key::Language).toString(); }
+    QString dataDirectory() const { return value(Key::DataDirectory).toString(); }
+    QString portMap() const { return value(Key::PortMap).toString(); }
+    // The separators and the date order: stored ones, the system locale's for empty values.
+    EncodingSettings encodingSettings() const;
+
+    // Each setter writes at once.
+    void setSoundOn(bool on) { set(Key::Sound, on); }
+    void setAutoAdjust(bool on) { set(Key::Adjust, on); }
+    void setDirectWrite(bool on) { set(Key::DirectWrite, on); }
+    void setLanguage(const QString &code) { set(Key::Language, code); }
+    void setDataDirectory(const QString &path) { set(Key::DataDirectory, path); }
+    void setPortMap(const QString &map) { set(Key::PortMap, map); }
+
+    QVariant value(Key key) const;
+    void set(Key key, const QVariant &value);
+
+    static const char *name(Key key);
+    static QVariant defaultValue(Key key);
+    static constexpr const char *kGroup = "DefaultSettings";
+
+private:
+    QString path(Key key) const;
+    void writeAll();
+
+    std::unique_ptr<QSettings> m_store;
+    QVariant m_values[int(Key::Count_)];
+    LoadState m_state = LoadState::Read;
+    QStringList m_unreadable;
+};

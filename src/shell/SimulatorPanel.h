@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QSpinBox;
+class VirtualValidator;
+
+// The bench around the virtual validator: fit a validator of a family, insert coins, open the
+// door, pull the cable, switch to the mini-programmer.
+class SimulatorPanel final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit SimulatorPanel(VirtualValidator *device, QWidget *parent = nullptr);
+
+    static constexpr quint8 kFamilies[] = {0x03, 0x13, 0x23, 0x33};
+
+    // A factory-fresh validator of the chosen family and serial number.
+    void fitValidator();
+    void insertCoin();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void retranslateUi();
+    void refresh();
+
+    VirtualValidator *m_device;
+    QGroupBox *m_validatorGroup;
+    QLabel *m_familyLabel;
+    QComboBox *m_familyBox;
+    QLabel *m_serialLabel;
+    QSpinBox *m_serialBox;
+    QPushButton *m_fitBtn;
+    QGroupBox *m_coinGroup;
+    QComboBox *m_coinBox;
+    QPushButton *m_insertBtn;
+    QLabel *m_queueLabel;
+    QCheckBox *m_doorBox;
+    QCheckBox *m_cableBox;
+    QCheckBox *m_miniPgmBox;
+    QTimer m_refresh;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "LinkSource.h"
+#include "TMonnayeur.h"
+#include "Transport.h"
+
+#include <memory>
+
+class UserPrompt;
+
+// The open link of the program: the port and the link object, from start-up (and each Back)
+// until the main window closes.
+class ValidatorLink final
+{
+public:
+    explicit ValidatorLink(UserPrompt *prompt) : m_prompt(prompt) {}
+    ~ValidatorLink();
+    Q_DISABLE_COPY_MOVE(ValidatorLink)
+
+    // OpenValidatorLink: false when no port could be opened.
+    bool open(LinkSource &source);
+    // CloseCom and free the link object.
+    void close();
+
+    bool isOpen() const { return m_transport != nullptr; }
+    int comPortNumber() const { return m_comPortNumber; }
+    Transport *transport() const { return m_transport.get(); }
+    TMonnayeur *monnayeur() const { return m_monnayeur.get(); }
+
+private:
+    UserPrompt *m_prompt;
+    std::unique_ptr<Transport> m_transport;
+    std::unique_ptr<TMonnayeur> m_monnayeur;
+    int m_comPortNumber = 0;
+};

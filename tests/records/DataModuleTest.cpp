@@ -1,0 +1,259 @@
+#include "DataDirectory.h"
+#include "DbfTable.h"
+#include "DbfTableModel.h"
+#include "IndexChecker.h"
+#include "Messages.h"
+#include "RecordingPrompt.h"
+#include "TDBModule.h"
+#include "TableSchema.h"
+#include "ValidatorStore.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+class DataModuleTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+        qunsetenv(DataDirectory::kEnvironmentVariable);
+        DataDirectory::setConfigured({});
+        dataDir = QDir(root.path()).filePath(QStringLiteral("TarvikDB"));
+    }
+
+    QStringList checkAll() const
+    {
+        QStringList problems;
+        for (const TableSchema *s : TableSchema::all()) {
+            QList<ExpectedTag> tags;
+            for (const TagDef &t : s->tags)
+                tags.append({t.name, t.unique});
+            problems += checkIndex(QDir(dataDir).filePath(s->fileName),
+                                   QDir(dataDir).filePath(s->indexFileName), tags);
+        }
+        return problems;
+    }
+
+    // An image with every byte distinct enough to catch a field mixed up with another.
+    static ConfigImage sampleImage()
+    {
+        ConfigImage image = ConfigImage::blank();
+        image.version = {0x12, 3, 4};
+        image.options = {0xA5, 0x3C};
+        for (int i = 0; i < 75; ++i)
+            image.values[std::size_t(i)] = quint8(i * 3);
+        image.prices = {1, 2, 3, 4, 250, 255};
+        for (int k = 0; k < kChannels; ++k) {
+            for (int b = 0; b < kChannelRecordSize; ++b)
+                image.channels[std::size_t(k)][std::size_t(b)] = quint8((k * 17 + b) % 250);
+            image.channels[std::size_t(k)][Rec::Enabled] = k % 3 == 0 ? 255 : quint8(k % 2);
+        }
+        return image;
+    }
+
+    QTemporaryDir settingsDir;
+    QTemporaryDir root;
+    QString dataDir;
+};
+
+// An explicit path beats TARVIK_DB, which beats the setting, which beats the default.
+TEST_F(DataModuleTest, DataDirectoryPrecedence)
+{
+    EXPECT_EQ(DataDirectory::resolve(), DataDirectory::defaultPath());
+    EXPECT_TRUE(DataDirectory::defaultPath().endsWith(QLatin1String("TarvikDB")));
+    DataDirectory::setConfigured(QStringLiteral("/from/settings"));
+    EXPECT_EQ(DataDirectory::resolve(), QStringLiteral("/from/settings"));
+    QSettings raw(QStringLiteral("Brunfeld"), QStringLiteral("Tarvik"));
+    EXPECT_EQ(raw.value(QStringLiteral("DefaultSettings/DataDirectory")).toString(),
+              QStringLiteral("/from/settings"));
+    qputenv(DataDirectory::kEnvironmentVariable, "/from/env");
+    EXPECT_EQ(DataDirectory::resolve(), QStringLiteral("/from/env"));
+    EXPECT_EQ(DataDirectory::resolve(QStringLiteral("/explicit/")), QStringLiteral("/explicit"));
+    qunsetenv(DataDirectory::kEnvironmentVariable);
+}
+
+// The first run creates the directory and the five empty tables with valid indexes, and says
+// so once; a table lost later is created again with a notice naming it.
+TEST_F(DataModuleTest, FirstRunCreatesTablesOnce)
+{
+    RecordingPrompt prompt;
+    {
+        TDBModule db;
+        ASSERT_TRUE(db.open(dataDir, &prompt)) << db.errorString().toStdString();
+        ASSERT_EQ(prompt.told().size(), 1);
+        EXPECT_EQ(prompt.told().at(0), messageText(Msg::RecordsDirectoryCreated, {dataDir}));
+        for (const TableSchema *s : TableSchema::all())
+            EXPECT_TRUE(QFile::exists(QDir(dataDir).filePath(s->fileName)));
+    }
+    EXPECT_TRUE(checkAll().isEmpty()) << checkAll().join(QLatin1Char('\n')).toStdString();
+    prompt.clear();
+    {
+        TDBModule db;
+        ASSERT_TRUE(db.open(dataDir, &prompt));
+        EXPECT_TRUE(prompt.told().isEmpty());
+    }
+    QFile::remove(QDir(dataDir).filePath(QStringLiteral("Valeurs.dbf")));
+    QFile::remove(QDir(dataDir).filePath(QStringLiteral("Valeurs.MDX")));
+    TDBModule db;
+    ASSERT_TRUE(db.open(dataDir, &prompt));
+    ASSERT_EQ(prompt.told().size(), 1);
+    EXPECT_TRUE(prompt.told().at(0).contains(QLatin1String("Valeurs.dbf")));
+}
+
+// Deleting a validator deletes the channel rows of its identification in any case, and only
+// those; a validator without channels goes alone.
+TEST_F(DataModuleTest, DeletingValidatorCascades)
+{
+    TDBModule db;
+    ASSERT_TRUE(db.open(dataDir));
+    DbfTable &v = *db.Gettoniere();
+    DbfTable &c = *db.Channel();
+    for (const char *ident : {"ABC", "LONE"})
+        v.setValue(v.appendRecord(), QStringLiteral("IDENT"), QString::fromLatin1(ident));
+    for (const char *owner : {"abc", "ABC", "other", "Abc"})
+        c.setValue(c.appendRecord(), QStringLiteral("MONNAYEUR"), QString::fromLatin1(owner));
+    ASSERT_TRUE(v.commit() && c.commit());
+
+    EXPECT_EQ(db.MonnayeurSource()->rowCount(), 2);
+    ASSERT_TRUE(db.MonnayeurSource()->removeRows(0, 1));
+    EXPECT_EQ(db.MonnayeurSource()->rowCount(), 1);
+    EXPECT_EQ(c.liveRows(), std::vector<int>{2});
+    EXPECT_EQ(db.CanauxSource()->rowCount(), 1);
+    ASSERT_TRUE(db.deleteValidator(1));
+    EXPECT_EQ(c.liveRows(), std::vector<int>{2});
+    EXPECT_TRUE(v.liveRows().empty());
+    EXPECT_TRUE(checkAll().isEmpty()) << checkAll().join(QLatin1Char('\n')).toStdString();
+}
+
+// The item models show fields by name and commit edits through the engine.
+TEST_F(DataModuleTest, ModelsEditThroughTheEngine)
+{
+    {
+        TDBModule db;
+        ASSERT_TRUE(db.open(dataDir));
+        DbfTableModel &m = *db.ValueSource();
+        EXPECT_EQ(m.columnCount(), 65);
+        EXPECT_EQ(m.headerData(0, Qt::Horizontal).toString(), QStringLiteral("IDENTI"));
+        ASSERT_TRUE(m.insertRows(0, 2));
+        ASSERT_TRUE(m.setData(m.index(1, 0), QStringLiteral("Euro")));
+        ASSERT_TRUE(m.setData(m.index(1, 5), 253));
+        EXPECT_FALSE(m.setData(m.index(1, 5), 12345678));
+        EXPECT_FALSE(m.lastError().isEmpty());
+        EXPECT_EQ(m.data(m.index(1, 5)).toString(), QStringLiteral("253"));
+    }
+    TDBModule db;
+    ASSERT_TRUE(db.open(dataDir));
+    EXPECT_EQ(db.ValueSource()->rowCount(), 2);
+    EXPECT_EQ(db.ValueTable()->locate(QStringLiteral("IDENTI"), QStringLiteral("EURO")), 1);
+    EXPECT_EQ(db.ValueTable()->value(1, QStringLiteral("CANAL1")).toInt(), 253);
+}
+
+// A stored validator loads back into the same channel table, value block, options and prices;
+// the rows hold the documented encodings.
+TEST_F(DataModuleTest, StoreAndLoadValidator)
+{
+    TDBModule db;
+    ASSERT_TRUE(db.open(dataDir));
+    RecordingPrompt prompt;
+    ValidatorStore store(db, prompt);
+    const ConfigImage image = sampleImage();
+    ASSERT_EQ(store.store(image, QStringLiteral("  Shop 12 "), QStringLiteral("corner")),
+              ValidatorStore::Outcome::Stored);
+    EXPECT_EQ(prompt.told(), QStringList{messageText(Msg::FileSaved, {QStringLiteral("Shop 12")})});
+
+    const DbfTable &v = *db.Gettoniere();
+    const DbfTable &c = *db.Channel();
+    EXPECT_EQ(v.text(0, QStringLiteral("VERSION")), QStringLiteral("18"));
+    EXPECT_EQ(v.value(0, QStringLiteral("OPTION")).toDouble(), 0xA53C);
+    EXPECT_EQ(v.value(0, QStringLiteral("BASE2")).toDouble(), 6 << 8 | 9);
+    EXPECT_EQ(v.value(0, QStringLiteral("CONVERSION")).toDouble(),
+              double(quint32(192) << 24 | quint32(195) << 16 | 198 << 8 | 201));
+    EXPECT_EQ(v.value(0, QStringLiteral("PRIX4")).toInt(), 250);
+    ASSERT_EQ(c.recordCount(), 60);
+    EXPECT_EQ(c.value(59, QStringLiteral("CANAL")).toInt(), 60);
+    EXPECT_EQ(c.value(1, QStringLiteral("HFUHIGHMAX")).toInt(), 17);
+    EXPECT_EQ(c.value(1, QStringLiteral("VALEUR")).toInt(), image.channels[1][Rec::Value]);
+    EXPECT_TRUE(c.value(0, QStringLiteral("VALID")).isNull());
+    EXPECT_TRUE(c.value(1, QStringLiteral("VALID")).toBool());
+
+    ConfigImage loaded;
+    QString description;
+    ASSERT_TRUE(store.load(QStringLiteral("SHOP 12"), loaded, &description));
+    EXPECT_EQ(description, QStringLiteral("corner"));
+    EXPECT_EQ(loaded.channels, image.channels);
+    EXPECT_EQ(loaded.options, image.options);
+    EXPECT_EQ(loaded.prices, image.prices);
+    for (int i = 0; i < 68; ++i) {
+        const quint8 want = i >= 4 && i < 64 ? image.channels[std::size_t(i - 4)][Rec::Value]
+                                             : image.values[std::size_t(i)];
+        EXPECT_EQ(loaded.values[std::size_t(i)], want) << "value byte " << i;
+    }
+    EXPECT_EQ(loaded.values[68], 255);
+    EXPECT_EQ(loaded.version, ConfigImage::blank().version);
+    EXPECT_EQ(loaded.counters, ConfigImage::blank().counters);
+    EXPECT_EQ(store.list().size(), 1);
+    EXPECT_EQ(store.list().at(0).version, QStringLiteral("18"));
+}
+
+// Storing: an empty identification stores nothing; an existing one (in any case) is replaced
+// only on Yes; removing takes the channels too.
+TEST_F(DataModuleTest, StoreAsksBeforeOverwriting)
+{
+    TDBModule db;
+    ASSERT_TRUE(db.open(dataDir));
+    RecordingPrompt prompt(UserPrompt::Answer::No);
+    ValidatorStore store(db, prompt);
+    ConfigImage image = sampleImage();
+
+    const QString longName(40, QLatin1Char('L'));
+    ASSERT_EQ(store.store(image, longName, {}), ValidatorStore::Outcome::Stored);
+    EXPECT_EQ(store.store(image, longName, {}), ValidatorStore::Outcome::NotOverwritten);
+    ASSERT_TRUE(store.remove(longName.left(30)));
+    prompt.clear();
+    EXPECT_EQ(store.store(image, QStringLiteral("  "), {}),
+              ValidatorStore::Outcome::EmptyIdentification);
+    EXPECT_EQ(prompt.told(), QStringList{messageText(Msg::IdentificationMustBeFilled)});
+    ASSERT_EQ(store.store(image, QStringLiteral("abc"), QStringLiteral("one")),
+              ValidatorStore::Outcome::Stored);
+    const QByteArray before = [&] {
+        QFile f(db.Channel()->filePath());
+        f.open(QIODevice::ReadOnly);
+        return f.readAll();
+    }();
+
+    prompt.clear();
+    image.prices[0] = 99;
+    EXPECT_EQ(store.store(image, QStringLiteral("ABC"), QStringLiteral("two")),
+              ValidatorStore::Outcome::NotOverwritten);
+    EXPECT_EQ(prompt.asked(),
+              QStringList{messageText(Msg::ExistOverwrite, {QStringLiteral("ABC")})});
+    QFile f(db.Channel()->filePath());
+    f.open(QIODevice::ReadOnly);
+    EXPECT_EQ(f.readAll(), before);
+
+    prompt.setNextAnswers({UserPrompt::Answer::Yes});
+    ASSERT_EQ(store.store(image, QStringLiteral("ABC"), QStringLiteral("two")),
+              ValidatorStore::Outcome::Stored);
+    ASSERT_EQ(store.list().size(), 1);
+    EXPECT_EQ(store.list().at(0).identification, QStringLiteral("ABC"));
+    EXPECT_EQ(db.Channel()->liveRows().size(), 60u);
+    ConfigImage loaded;
+    ASSERT_TRUE(store.load(QStringLiteral("abc"), loaded));
+    EXPECT_EQ(loaded.prices[0], 99);
+
+    ASSERT_TRUE(store.remove(QStringLiteral("Abc")));
+    EXPECT_TRUE(store.list().isEmpty());
+    EXPECT_TRUE(db.Channel()->liveRows().empty());
+    EXPECT_FALSE(store.load(QStringLiteral("abc"), loaded));
+    EXPECT_EQ(store.errorString(), messageText(Msg::RecordsNotStored, {QStringLiteral("abc")}));
+    EXPECT_TRUE(checkAll().isEmpty()) << checkAll().join(QLatin1Char('\n')).toStdString();
+}
+
+} // namespace

@@ -1,0 +1,106 @@
+// libFuzzer target for the table and index readers. An input is
+//   [schema selector][table length, 2 bytes little-endian][table bytes][index bytes]
+// and goes through the same reading and index checking as a table opened from disk.
+// With TARVIK_FUZZ_WRITE_SEEDS=<dir> set, the target writes a seed corpus there and exits.
+#include "DbfTable.h"
+#include "MdxIndex.h"
+#include "TableSchema.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+
+QByteArray pack(int selector, const QByteArray &table, const QByteArray &index)
+{
+    QByteArray input(3, '\0');
+    input[0] = char(selector);
+    qToLittleEndian<quint16>(quint16(table.size()), input.data() + 1);
+    return input + table + index;
+}
+
+QByteArray readAll(const QString &path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+void writeSeeds(const QString &out)
+{
+    QTemporaryDir dir;
+    QDir().mkpath(out);
+    const QList<const TableSchema *> schemas = TableSchema::all();
+    for (int s = 0; s < schemas.size(); ++s) {
+        const TableSchema &schema = *schemas.at(s);
+        const QString path = QDir(dir.path()).filePath(schema.fileName);
+        QString error;
+        DbfTable::create(path, schema, &error);
+        DbfTable t;
+        t.open(path, &schema);
+        for (int i = 0; i < (s == 1 ? 70 : 3); ++i) {
+            const int rec = t.appendRecord();
+            t.setValue(rec, 0, QStringLiteral("key %1").arg(i % 5));
+            t.setValue(rec, 2, i);
+        }
+        t.deleteRecord(1);
+        t.commit();
+        t.close();
+        const QByteArray table = readAll(path);
+        const QByteArray index = readAll(QDir(dir.path()).filePath(schema.indexFileName));
+        for (int selector : {0, s + 1}) {
+            QFile f(QDir(out).filePath(QStringLiteral("seed-%1-%2").arg(s).arg(selector)));
+            f.open(QIODevice::WriteOnly);
+            f.write(pack(selector, table, index));
+        }
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
+{
+    const QByteArray seeds = qgetenv("TARVIK_FUZZ_WRITE_SEEDS");
+    if (!seeds.isEmpty()) {
+        writeSeeds(QString::fromLocal8Bit(seeds));
+        std::exit(0);
+    }
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    if (size < 3)
+        return 0;
+    const QList<const TableSchema *> schemas = TableSchema::all();
+    const int selector = data[0] % (schemas.size() + 1);
+    const size_t tableLength = std::min<size_t>(size - 3, size_t(data[1] | data[2] << 8));
+    const QByteArray table(reinterpret_cast<const char *>(data) + 3, qsizetype(tableLength));
+    const QByteArray index(reinterpret_cast<const char *>(data) + 3 + tableLength,
+                           qsizetype(size - 3 - tableLength));
+
+    DbfTable t;
+    if (t.openBytes(table, index, selector ? schemas.at(selector - 1) : nullptr)) {
+        for (int r = 0; r < std::min(t.recordCount(), 64); ++r) {
+            for (int f = 0; f < t.fieldCount(); ++f) {
+                (void)t.value(r, f);
+                (void)t.text(r, f);
+            }
+        }
+        (void)t.locate(t.field(0).name, QStringLiteral("key 1"));
+    }
+
+    MdxIndex mdx;
+    MdxProblem problem;
+    if (mdx.parse(index, &problem)) {
+        for (int tag = 0; tag < mdx.tags().size(); ++tag) {
+            std::vector<MdxKey> keys;
+            mdx.readKeys(index, tag, keys, &problem);
+        }
+    }
+    return 0;
+}
