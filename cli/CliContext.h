@@ -94,6 +94,7 @@ using CliCommandTable = QMap<QString, CliCommand>;
 // Each group of commands registers itself here.
 void registerLinkCommands(CliCommandTable &table);
 void registerWriteCommands(CliCommandTable &table);
+void registerRecordCommands(CliCommandTable &table);
 
 // Runs tarvik-cli with the arguments after the program name.
 int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,

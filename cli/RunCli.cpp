@@ -73,6 +73,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     CliCommandTable table;
     registerLinkCommands(table);
     registerWriteCommands(table);
+    registerRecordCommands(table);
 
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {

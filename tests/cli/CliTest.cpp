@@ -90,6 +90,40 @@ TEST_F(Cli, BadFilesFailBeforeAnythingIsSent)
     EXPECT_FALSE(QFile::exists(trace)); // the port was never opened
 }
 
+TEST_F(Cli, StoresListsLoadsAndDeletesValidators)
+{
+    const QString db = dir.filePath("db");
+    const QString file = dir.filePath("v.json");
+    ASSERT_EQ(cli({"--simulate", "read", "-o", file}).code, kExitOk);
+    auto records = [&](QStringList args) { return cli(QStringList{"--data-dir", db} + args); };
+
+    EXPECT_EQ(records({"save", file, "--ident", "ABC", "--description", "bench"}).code, kExitOk);
+    const InProcess again = records({"save", file, "--ident", "abc"});
+    EXPECT_EQ(again.code, kExitFailed);
+    EXPECT_TRUE(again.err.contains("abc exist! Overwrite ?"));
+    EXPECT_EQ(records({"save", file, "--ident", ""}).code, kExitFailed);
+    EXPECT_EQ(records({"save", file, "--ident", "DEF"}).code, kExitOk);
+    EXPECT_EQ(records({"list"}).out, "ABC\tbench\t19\nDEF\t\t19\n");
+
+    const QString back = dir.filePath("back.json");
+    ASSERT_EQ(records({"load", "abc", "-o", back}).code, kExitOk);
+    ConfigImage original, loaded;
+    QString error;
+    ASSERT_TRUE(loadConfigFile(file, original, &error));
+    ASSERT_TRUE(loadConfigFile(back, loaded, &error)) << qPrintable(error);
+    for (int k = 0; k < 60; ++k)
+        for (int b = 0; b < 15; ++b)
+            ASSERT_EQ(loaded.channels[k][b], original.channels[k][b]) << k << ":" << b;
+    EXPECT_EQ(loaded.values, original.values);
+    EXPECT_EQ(loaded.options, original.options);
+    EXPECT_EQ(loaded.prices, original.prices);
+
+    EXPECT_EQ(records({"delete", "abc"}).code, kExitOk);
+    EXPECT_EQ(records({"list"}).out, "DEF\t\t19\n");
+    EXPECT_EQ(records({"delete", "ABC"}).code, kExitFailed);
+    EXPECT_EQ(records({"load", "nothing"}).code, kExitFailed);
+}
+
 class Families : public Cli, public ::testing::WithParamInterface<const char *>
 {};
 

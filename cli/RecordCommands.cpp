@@ -1,0 +1,148 @@
+#include "CliContext.h"
+#include "ConfigFile.h"
+#include "DataDirectory.h"
+#include "TDBModule.h"
+#include "ValidatorStore.h"
+
+namespace {
+
+// Opens the five tables of the data directory the options name; the first run creates them.
+bool openTables(CliContext &cli, TDBModule &db)
+{
+    const QString dir = DataDirectory::resolve(cli.options().dataDir);
+    if (db.open(dir, &cli.prompt()))
+        return true;
+    cli.err() << db.errorString() << Qt::endl;
+    return false;
+}
+
+int saveCommand(CliContext &cli, const QStringList &args)
+{
+    QString file, ident, description;
+    bool overwrite = false;
+    for (int i = 0; i < args.size(); ++i) {
+        if (args[i] == QLatin1String("--ident") && i + 1 < args.size())
+            ident = args[++i];
+        else if (args[i] == QLatin1String("--description") && i + 1 < args.size())
+            description = args[++i];
+        else if (args[i] == QLatin1String("--overwrite"))
+            overwrite = true;
+        else if (file.isEmpty() && !args[i].startsWith(u'-'))
+            file = args[i];
+        else
+            return kExitUsage;
+    }
+    if (file.isEmpty())
+        return kExitUsage;
+    ConfigImage image;
+    QString error;
+    if (!loadConfigFile(file, image, &error)) {
+        cli.err() << error << Qt::endl;
+        return kExitFailed;
+    }
+    TDBModule db;
+    if (!openTables(cli, db))
+        return kExitFailed;
+    // "%s exist! Overwrite ?" is answered by --overwrite.
+    cli.prompt().setAnswer(overwrite ? UserPrompt::Answer::Yes : UserPrompt::Answer::No);
+    ValidatorStore store(db, cli.prompt());
+    const auto outcome = store.store(image, ident, description);
+    if (outcome == ValidatorStore::Outcome::Failed && !store.errorString().isEmpty())
+        cli.err() << store.errorString() << Qt::endl;
+    return outcome == ValidatorStore::Outcome::Stored ? kExitOk : kExitFailed;
+}
+
+int loadCommand(CliContext &cli, const QStringList &args)
+{
+    QString ident, output;
+    for (int i = 0; i < args.size(); ++i) {
+        if ((args[i] == QLatin1String("-o") || args[i] == QLatin1String("--output")) &&
+            i + 1 < args.size())
+            output = args[++i];
+        else if (ident.isEmpty() && !args[i].startsWith(u'-'))
+            ident = args[i];
+        else
+            return kExitUsage;
+    }
+    if (ident.isEmpty())
+        return kExitUsage;
+    TDBModule db;
+    if (!openTables(cli, db))
+        return kExitFailed;
+    ValidatorStore store(db, cli.prompt());
+    ConfigImage image = ConfigImage::blank();
+    if (!store.load(ident, image)) {
+        cli.err() << (store.errorString().isEmpty()
+                          ? QStringLiteral("No validator is stored as %1").arg(ident)
+                          : store.errorString())
+                  << Qt::endl;
+        return kExitFailed;
+    }
+    if (output.isEmpty()) {
+        cli.out() << QString::fromUtf8(configToJson(image)) << Qt::flush;
+        return kExitOk;
+    }
+    QString error;
+    if (!saveConfigFile(output, image, &error)) {
+        cli.err() << error << Qt::endl;
+        return kExitFailed;
+    }
+    return kExitOk;
+}
+
+int listCommand(CliContext &cli, const QStringList &args)
+{
+    if (!args.isEmpty())
+        return kExitUsage;
+    TDBModule db;
+    if (!openTables(cli, db))
+        return kExitFailed;
+    ValidatorStore store(db, cli.prompt());
+    const auto entries = store.list();
+    for (const auto &entry : entries)
+        cli.out() << entry.identification << '\t' << entry.description << '\t' << entry.version
+                  << '\n';
+    cli.out() << Qt::flush;
+    return kExitOk;
+}
+
+int deleteCommand(CliContext &cli, const QStringList &args)
+{
+    if (args.size() != 1 || args.first().startsWith(u'-'))
+        return kExitUsage;
+    TDBModule db;
+    if (!openTables(cli, db))
+        return kExitFailed;
+    ValidatorStore store(db, cli.prompt());
+    if (!store.remove(args.first())) {
+        cli.err() << (store.errorString().isEmpty()
+                          ? QStringLiteral("No validator is stored as %1").arg(args.first())
+                          : store.errorString())
+                  << Qt::endl;
+        return kExitFailed;
+    }
+    return kExitOk;
+}
+
+} // namespace
+
+void registerRecordCommands(CliCommandTable &table)
+{
+    table.insert(QStringLiteral("save"),
+                 {QStringLiteral("save FILE --ident ID [--description TEXT] [--overwrite]"),
+                  QStringLiteral("stores the configuration in FILE in the validator tables"),
+                  saveCommand});
+    table.insert(QStringLiteral("load"),
+                 {QStringLiteral("load ID [-o FILE]"),
+                  QStringLiteral("writes a stored validator as a configuration file"),
+                  loadCommand});
+    table.insert(QStringLiteral("list"),
+                 {QStringLiteral("list"),
+                  QStringLiteral("lists the stored validators: identification, description, "
+                                 "version"),
+                  listCommand});
+    table.insert(QStringLiteral("delete"),
+                 {QStringLiteral("delete ID"),
+                  QStringLiteral("deletes a stored validator and its channel rows"),
+                  deleteCommand});
+}
