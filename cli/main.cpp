@@ -1,5 +1,5 @@
 #include "CliContext.h"
-#include "Encodings.h"
+#include "Settings.h"
 
 #include <QCoreApplication>
 #include <cstdio>
@@ -10,7 +10,10 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Brunfeld"));
     QCoreApplication::setApplicationName(QStringLiteral("Tarvik"));
-    setEncodingSettings(EncodingSettings::fromSystemLocale());
+    // The separators and date order the technician chose, else the system locale's.
+    Settings settings;
+    settings.load();
+    setEncodingSettings(settings.encodingSettings());
     QTextStream out(stdout);
     QTextStream err(stderr);
     QStringList args = QCoreApplication::arguments();
