@@ -1,5 +1,6 @@
 #include "CliContext.h"
 
+#include "ConfigFile.h"
 #include "Messages.h"
 #include "PortChoice.h"
 #include "PortMap.h"
@@ -113,4 +114,32 @@ void CliContext::endProgress()
     if (m_progressShown)
         m_err << Qt::endl;
     m_progressShown = false;
+}
+
+int writeImageOutput(CliContext &cli, const ConfigImage &image, const QString &path)
+{
+    if (path.isEmpty()) {
+        cli.out() << QString::fromUtf8(configToJson(image)) << Qt::flush;
+        return kExitOk;
+    }
+    QString error;
+    if (!saveConfigFile(path, image, &error)) {
+        cli.err() << error << Qt::endl;
+        return kExitFailed;
+    }
+    return kExitOk;
+}
+
+bool takeOutputOption(QStringList &args, QString &path)
+{
+    for (int i = 0; i < args.size(); ++i) {
+        if (args[i] != QLatin1String("-o") && args[i] != QLatin1String("--output"))
+            continue;
+        if (i + 1 >= args.size())
+            return false;
+        path = args[i + 1];
+        args.remove(i, 2);
+        return true;
+    }
+    return true;
 }

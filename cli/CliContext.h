@@ -83,6 +83,12 @@ private:
     bool m_progressShown = false;
 };
 
+struct ConfigImage;
+// Writes an image as a configuration file to path, or to stdout when path is empty.
+int writeImageOutput(CliContext &cli, const ConfigImage &image, const QString &path);
+// Takes "-o FILE" (or "--output FILE") out of args; false when it has no file name.
+bool takeOutputOption(QStringList &args, QString &path);
+
 struct CliCommand
 {
     QString usage; // "read [-o FILE]"

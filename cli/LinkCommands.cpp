@@ -31,16 +31,12 @@ int probeCommand(CliContext &cli, const QStringList &args)
     return kExitOk;
 }
 
-int readCommand(CliContext &cli, const QStringList &args)
+int readCommand(CliContext &cli, const QStringList &arguments)
 {
+    QStringList args = arguments;
     QString output;
-    for (int i = 0; i < args.size(); ++i) {
-        if ((args[i] == QLatin1String("-o") || args[i] == QLatin1String("--output")) &&
-            i + 1 < args.size())
-            output = args[++i];
-        else
-            return kExitUsage;
-    }
+    if (!takeOutputOption(args, output) || !args.isEmpty())
+        return kExitUsage;
     TMonnayeur *link = cli.openLink();
     if (!link)
         return kExitFailed;
@@ -54,16 +50,7 @@ int readCommand(CliContext &cli, const QStringList &args)
     if (outcome != ReadOutcome::Done)
         return kExitFailed; // the link has printed the program's own message
 
-    if (output.isEmpty()) {
-        cli.out() << QString::fromUtf8(configToJson(image)) << Qt::flush;
-        return kExitOk;
-    }
-    QString error;
-    if (!saveConfigFile(output, image, &error)) {
-        cli.err() << error << Qt::endl;
-        return kExitFailed;
-    }
-    return kExitOk;
+    return writeImageOutput(cli, image, output);
 }
 
 } // namespace

@@ -52,20 +52,13 @@ int saveCommand(CliContext &cli, const QStringList &args)
     return outcome == ValidatorStore::Outcome::Stored ? kExitOk : kExitFailed;
 }
 
-int loadCommand(CliContext &cli, const QStringList &args)
+int loadCommand(CliContext &cli, const QStringList &arguments)
 {
-    QString ident, output;
-    for (int i = 0; i < args.size(); ++i) {
-        if ((args[i] == QLatin1String("-o") || args[i] == QLatin1String("--output")) &&
-            i + 1 < args.size())
-            output = args[++i];
-        else if (ident.isEmpty() && !args[i].startsWith(u'-'))
-            ident = args[i];
-        else
-            return kExitUsage;
-    }
-    if (ident.isEmpty())
+    QStringList args = arguments;
+    QString output;
+    if (!takeOutputOption(args, output) || args.size() != 1 || args.first().startsWith(u'-'))
         return kExitUsage;
+    const QString ident = args.first();
     TDBModule db;
     if (!openTables(cli, db))
         return kExitFailed;
@@ -78,16 +71,7 @@ int loadCommand(CliContext &cli, const QStringList &args)
                   << Qt::endl;
         return kExitFailed;
     }
-    if (output.isEmpty()) {
-        cli.out() << QString::fromUtf8(configToJson(image)) << Qt::flush;
-        return kExitOk;
-    }
-    QString error;
-    if (!saveConfigFile(output, image, &error)) {
-        cli.err() << error << Qt::endl;
-        return kExitFailed;
-    }
-    return kExitOk;
+    return writeImageOutput(cli, image, output);
 }
 
 int listCommand(CliContext &cli, const QStringList &args)

@@ -17,6 +17,19 @@ int readGaugeAfterChannel(int i)
     return roundHalfEven(i * 1.5) + 12;
 }
 
+bool connectLoop(TMonnayeur &link, bool ask)
+{
+    while (!link.CheckPresence(false)) {
+        UserPrompt *prompt = link.prompt();
+        if (!ask || !prompt)
+            return false;
+        if (prompt->ask(messageText(Msg::ConnectValidator), UserPrompt::Kind::Information,
+                        UserPrompt::Buttons::OkCancel) != UserPrompt::Answer::Ok)
+            return false;
+    }
+    return true;
+}
+
 ReadOutcome readValidator(TMonnayeur &link, ConfigImage &target, bool promptFlag,
                           const ReadObserver &observer)
 {
@@ -27,19 +40,10 @@ ReadOutcome readValidator(TMonnayeur &link, ConfigImage &target, bool promptFlag
             observer.progress(gauge);
     };
 
-    // Connect loop: with the prompt flag clear it ends after one failed try, and the second
-    // connect below reports the failure.
-    while (!link.CheckPresence(false)) {
-        if (!promptFlag)
-            break;
-        UserPrompt *prompt = link.prompt();
-        const auto answer =
-            prompt ? prompt->ask(messageText(Msg::ConnectValidator), UserPrompt::Kind::Information,
-                                 UserPrompt::Buttons::OkCancel)
-                   : UserPrompt::Answer::Cancel;
-        if (answer != UserPrompt::Answer::Ok)
-            return ReadOutcome::Cancelled;
-    }
+    // With the prompt flag clear one failed try ends the loop, and the second connect below
+    // reports the failure.
+    if (!connectLoop(link, promptFlag) && promptFlag)
+        return ReadOutcome::Cancelled;
     if (!link.CheckPresence(true))
         return ReadOutcome::Cancelled;
 

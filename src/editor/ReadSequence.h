@@ -28,6 +28,10 @@ enum class ReadOutcome
 ReadOutcome readValidator(TMonnayeur &link, ConfigImage &image, bool promptFlag,
                           const ReadObserver &observer = {});
 
+// The connect loop: tries the connect command; while it fails and ask is set, asks
+// "Connect validator " (OK tries again, Cancel gives up). False when not connected.
+bool connectLoop(TMonnayeur &link, bool ask);
+
 // The gauge after channel i of the read: round(i x 1.5) + 12, a half going to the even side.
 int readGaugeAfterChannel(int i);
 // Rounds half to even, as the floating-point unit does.

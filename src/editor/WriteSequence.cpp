@@ -17,21 +17,6 @@ void tell(TMonnayeur &link, Msg id, UserPrompt::Kind kind = UserPrompt::Kind::In
         link.prompt()->tell(messageText(id), kind);
 }
 
-// Connect loop: "Connect validator " until the validator answers or Cancel.
-bool connectLoop(TMonnayeur &link)
-{
-    while (!link.CheckPresence(false)) {
-        UserPrompt *prompt = link.prompt();
-        const auto answer =
-            prompt ? prompt->ask(messageText(Msg::ConnectValidator), UserPrompt::Kind::Information,
-                                 UserPrompt::Buttons::OkCancel)
-                   : UserPrompt::Answer::Cancel;
-        if (answer != UserPrompt::Answer::Ok)
-            return false;
-    }
-    return true;
-}
-
 WriteOutcome finish(TMonnayeur &link, int gauge)
 {
     if (gauge == 100) {
@@ -79,7 +64,7 @@ int writeGaugeAfterChannel(int i)
 WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &options,
                        const WriteObserver &observer)
 {
-    bool cancelled = !connectLoop(link);
+    bool cancelled = !connectLoop(link, true);
 
     // The validator's last channel (its reference) against the image's.
     if (!cancelled) {
@@ -210,7 +195,7 @@ ChannelBytes correctedRecord(const quint8 *record, const quint8 *imageReference,
 WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneGroups &groups,
                         const WriteObserver &observer)
 {
-    if (!connectLoop(link)) {
+    if (!connectLoop(link, true)) {
         tell(link, Msg::OperationCancelled);
         return WriteOutcome::Cancelled;
     }
