@@ -358,6 +358,14 @@
         <source>The file %s could not be read.</source>
         <translation>Die Datei %s konnte nicht gelesen werden.</translation>
     </message>
+    <message>
+        <source>%s was changed by another program; open it again before changing it</source>
+        <translation>%s wurde von einem anderen Programm geändert; öffnen Sie es erneut, bevor Sie es ändern</translation>
+    </message>
+    <message>
+        <source>The data directory %s cannot be created</source>
+        <translation>Das Datenverzeichnis %s kann nicht angelegt werden</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

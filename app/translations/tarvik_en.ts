@@ -358,6 +358,14 @@
         <source>The file %s could not be read.</source>
         <translation>Unable to read the file %s.</translation>
     </message>
+    <message>
+        <source>%s was changed by another program; open it again before changing it</source>
+        <translation>%s was changed by another program; open it again before changing it</translation>
+    </message>
+    <message>
+        <source>The data directory %s cannot be created</source>
+        <translation>The data directory %s cannot be created</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -358,6 +358,14 @@
         <source>The file %s could not be read.</source>
         <translation>Le fichier %s n&apos;a pas pu être lu.</translation>
     </message>
+    <message>
+        <source>%s was changed by another program; open it again before changing it</source>
+        <translation>%s a été modifié par un autre programme ; ouvrez-le de nouveau avant de le modifier</translation>
+    </message>
+    <message>
+        <source>The data directory %s cannot be created</source>
+        <translation>Le répertoire de données %s ne peut pas être créé</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -358,6 +358,14 @@
         <source>The file %s could not be read.</source>
         <translation>Non è stato possibile leggere il file %s.</translation>
     </message>
+    <message>
+        <source>%s was changed by another program; open it again before changing it</source>
+        <translation>%s è stato modificato da un altro programma; aprirlo di nuovo prima di modificarlo</translation>
+    </message>
+    <message>
+        <source>The data directory %s cannot be created</source>
+        <translation>La cartella dati %s non può essere creata</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

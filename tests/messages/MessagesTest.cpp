@@ -26,3 +26,40 @@ TEST(Messages, EveryIdHasItsOwnText)
         texts.insert(text);
     }
 }
+
+#include <QFile>
+#include <QXmlStreamReader>
+
+// Every message has a finished translation in each language the program ships.
+TEST(Messages, EveryLanguageTranslatesEveryMessage)
+{
+    for (const char *lang : {"fr", "it", "de", "en"}) {
+        QFile file(QStringLiteral(TARVIK_TRANSLATIONS_DIR "/tarvik_%1.ts").arg(lang));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << lang;
+        const QByteArray content = file.readAll();
+        QXmlStreamReader xml(content);
+        QSet<QString> translated;
+        QString context, source;
+        while (!xml.atEnd()) {
+            if (xml.readNext() != QXmlStreamReader::StartElement)
+                continue;
+            if (xml.name() == QLatin1String("name"))
+                context = xml.readElementText();
+            else if (xml.name() == QLatin1String("source"))
+                source = xml.readElementText();
+            else if (xml.name() == QLatin1String("translation")) {
+                const bool unfinished =
+                    xml.attributes().value(QLatin1String("type")) == QLatin1String("unfinished");
+                if (context == QLatin1String("Messages") && !unfinished &&
+                    !xml.readElementText().isEmpty())
+                    translated.insert(source);
+            }
+        }
+        ASSERT_FALSE(xml.hasError())
+            << lang << ": " << int(xml.error()) << " " << qPrintable(xml.errorString()) << " line "
+            << xml.lineNumber();
+        for (int i = 0; i < int(Msg::Count_); ++i)
+            EXPECT_TRUE(translated.contains(QString::fromUtf8(messageSource(Msg(i)))))
+                << lang << ": " << messageSource(Msg(i));
+    }
+}
