@@ -42,8 +42,13 @@ bool TMonnayeur::SendCommand(const quint8 *data, quint8 command, quint8 replyLen
     if (m_transport)
         m_transport->beginExchange(command);
 
-    // Steps 1 to 4: preamble, command byte, count echo; any failure here is an internal or
-    // communication error.
+    // The line is half-duplex: whatever waits in the receive buffer before a command is a late
+    // reply or noise, and would be taken for the count echo.
+    if (m_transport && m_transport->isOpen())
+        m_transport->purge();
+
+    // Preamble, command byte, count echo; any failure here is an internal or communication
+    // error.
     bool framed = m_transport && m_transport->isOpen() && Preambule(m_transport, m_comPortNumber);
     if (framed)
         framed = m_transport->write(QByteArray(1, char(command))) == 1;

@@ -7,6 +7,7 @@
 #include "VirtualValidator.h"
 
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace {
 
@@ -171,6 +172,11 @@ TEST(SimLinkTest, ReplyWindowIs900Milliseconds)
     EXPECT_FALSE(b.link.ReadBlock(Cmd::ReadEnable, out));
     EXPECT_EQ(b.link.LastLinkError(), kReadingError);
     EXPECT_EQ(b.prompt.told().last(), kReadingError);
+
+    // The late reply lands in the buffer; the next command is not taken in by it.
+    std::this_thread::sleep_for(std::chrono::milliseconds(400));
+    b.device.clearFaults();
+    EXPECT_EQ(readHex(b.link, Cmd::ReadEnable), hex(b.device.memory().enable));
 }
 
 TEST(SimLinkTest, RefusalsAreQuietAndValueTableWriteStopsAtTheFirst)
