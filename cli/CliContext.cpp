@@ -116,6 +116,15 @@ void CliContext::endProgress()
     m_progressShown = false;
 }
 
+bool readImageInput(CliContext &cli, const QString &path, ConfigImage &image)
+{
+    QString error;
+    if (loadConfigFile(path, image, &error))
+        return true;
+    cli.err() << error << Qt::endl;
+    return false;
+}
+
 int writeImageOutput(CliContext &cli, const ConfigImage &image, const QString &path)
 {
     if (path.isEmpty()) {

@@ -86,6 +86,8 @@ private:
 struct ConfigImage;
 // Writes an image as a configuration file to path, or to stdout when path is empty.
 int writeImageOutput(CliContext &cli, const ConfigImage &image, const QString &path);
+// Loads a configuration file, printing why it was refused.
+bool readImageInput(CliContext &cli, const QString &path, ConfigImage &image);
 // Takes "-o FILE" (or "--output FILE") out of args; false when it has no file name.
 bool takeOutputOption(QStringList &args, QString &path);
 

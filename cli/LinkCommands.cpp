@@ -1,5 +1,4 @@
 #include "CliContext.h"
-#include "ConfigFile.h"
 #include "Messages.h"
 #include "PortChoice.h"
 #include "ReadSequence.h"

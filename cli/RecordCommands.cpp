@@ -1,5 +1,4 @@
 #include "CliContext.h"
-#include "ConfigFile.h"
 #include "DataDirectory.h"
 #include "TDBModule.h"
 #include "ValidatorStore.h"
@@ -35,11 +34,8 @@ int saveCommand(CliContext &cli, const QStringList &args)
     if (file.isEmpty())
         return kExitUsage;
     ConfigImage image;
-    QString error;
-    if (!loadConfigFile(file, image, &error)) {
-        cli.err() << error << Qt::endl;
+    if (!readImageInput(cli, file, image))
         return kExitFailed;
-    }
     TDBModule db;
     if (!openTables(cli, db))
         return kExitFailed;

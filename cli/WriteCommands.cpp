@@ -1,5 +1,4 @@
 #include "CliContext.h"
-#include "ConfigFile.h"
 #include "FirmwareTransfer.h"
 #include "Messages.h"
 #include "WriteSequence.h"
@@ -7,15 +6,6 @@
 #include <QFile>
 
 namespace {
-
-bool loadImage(CliContext &cli, const QString &path, ConfigImage &image)
-{
-    QString error;
-    if (loadConfigFile(path, image, &error))
-        return true;
-    cli.err() << error << Qt::endl;
-    return false;
-}
 
 WriteObserver gaugeOnTerminal(CliContext &cli)
 {
@@ -49,7 +39,7 @@ int writeCommand(CliContext &cli, const QStringList &args)
     }
     if (file.isEmpty())
         return kExitUsage;
-    if (!loadImage(cli, file, image))
+    if (!readImageInput(cli, file, image))
         return kExitFailed;
     if (options.serialOverride)
         image.setSerialNumber(serial);
@@ -106,7 +96,7 @@ int cloneCommand(CliContext &cli, const QStringList &args)
     if (file.isEmpty())
         return kExitUsage;
     ConfigImage image;
-    if (!loadImage(cli, file, image))
+    if (!readImageInput(cli, file, image))
         return kExitFailed;
     TMonnayeur *link = cli.openLink();
     if (!link)

@@ -6,9 +6,14 @@
 #include "TMonnayeur.h"
 #include "UserPrompt.h"
 
+QString SerialPortOpener::systemPort(int n) const
+{
+    return PortMap::systemPortFor(n);
+}
+
 bool SerialPortOpener::PortComFree(int n)
 {
-    const QString port = PortMap::systemPortFor(n);
+    const QString port = systemPort(n);
     if (port.isEmpty())
         return false;
     SerialTransport probe;
@@ -19,7 +24,7 @@ bool SerialPortOpener::PortComFree(int n)
 
 std::unique_ptr<Transport> SerialPortOpener::ComInit(int n)
 {
-    const QString port = PortMap::systemPortFor(n);
+    const QString port = systemPort(n);
     if (port.isEmpty())
         return nullptr;
     auto transport = std::make_unique<SerialTransport>();

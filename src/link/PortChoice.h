@@ -19,11 +19,16 @@ public:
     virtual std::unique_ptr<Transport> ComInit(int n) = 0;
 };
 
-class SerialPortOpener final : public PortOpener
+// Opens COMn at the system port that systemPort names (the port map by default).
+class SerialPortOpener : public PortOpener
 {
 public:
     bool PortComFree(int n) override;
     std::unique_ptr<Transport> ComInit(int n) override;
+
+protected:
+    // Empty when COMn has no system port.
+    virtual QString systemPort(int n) const;
 };
 
 void CloseCom(std::unique_ptr<Transport> &transport);

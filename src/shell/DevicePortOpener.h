@@ -1,17 +1,17 @@
 #pragma once
 
 #include "PortChoice.h"
-#include "Transport.h"
 
 #include <QString>
 
 // One system port (a device path) standing as COM1.
-class DevicePortOpener final : public PortOpener
+class DevicePortOpener final : public SerialPortOpener
 {
 public:
     explicit DevicePortOpener(QString device) : m_device(std::move(device)) {}
-    bool PortComFree(int n) override;
-    std::unique_ptr<Transport> ComInit(int n) override;
+
+protected:
+    QString systemPort(int n) const override { return n == 1 ? m_device : QString(); }
 
 private:
     QString m_device;
