@@ -24,7 +24,9 @@ UserPrompt::Answer CliPrompt::ask(const QString &text, Kind, Buttons buttons)
     if ((buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel) &&
         (a == Answer::Ok || a == Answer::Cancel))
         a = a == Answer::Ok ? Answer::Yes : Answer::No;
-    m_err << text << Qt::endl;
+    // The answer given is printed with the question.
+    static const char *const words[] = {"ok", "cancel", "yes", "no"};
+    m_err << text << " -> " << words[int(a)] << Qt::endl;
     return a;
 }
 

@@ -103,6 +103,7 @@ using CliCommandTable = QMap<QString, CliCommand>;
 void registerLinkCommands(CliCommandTable &table);
 void registerWriteCommands(CliCommandTable &table);
 void registerRecordCommands(CliCommandTable &table);
+void registerEditorCommands(CliCommandTable &table);
 
 // Runs tarvik-cli with the arguments after the program name.
 int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,

@@ -1,4 +1,6 @@
+#include "Backups.h"
 #include "CliContext.h"
+#include "DataDirectory.h"
 #include "Messages.h"
 #include "PortChoice.h"
 #include "ReadSequence.h"
@@ -48,6 +50,13 @@ int readCommand(CliContext &cli, const QStringList &arguments)
     cli.endProgress();
     if (outcome != ReadOutcome::Done)
         return kExitFailed; // the link has printed the program's own message
+
+    // Every good read is kept, so that the validator can be put back as it was.
+    const QString backups =
+        DataDirectory::resolve(cli.options().dataDir) + QStringLiteral("/backups");
+    QString error;
+    if (keepBackup(backups, image, QDateTime::currentDateTime(), &error).isEmpty())
+        cli.prompt().tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
 
     return writeImageOutput(cli, image, output);
 }

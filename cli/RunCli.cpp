@@ -74,6 +74,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerLinkCommands(table);
     registerWriteCommands(table);
     registerRecordCommands(table);
+    registerEditorCommands(table);
 
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {

@@ -1,4 +1,5 @@
 #include "CliContext.h"
+#include "Commands.h"
 #include "FirmwareTransfer.h"
 #include "Messages.h"
 #include "WriteSequence.h"
@@ -16,14 +17,37 @@ WriteObserver gaugeOnTerminal(CliContext &cli)
     return observer;
 }
 
+QString familyName(quint8 familyByte)
+{
+    const QString text = QString::fromLatin1(familyText(familyByte));
+    return text.isEmpty() ? QStringLiteral("0x%1").arg(familyByte, 2, 16, QLatin1Char('0')) : text;
+}
+
+// A configuration of one family would not suit a validator of another: nothing is sent.
+bool sameFamily(CliContext &cli, TMonnayeur &link, const ConfigImage &image)
+{
+    VersionBlock theirs{};
+    if (!link.CheckPresence(true) || !link.ReadBlock(Cmd::ReadVersion, theirs.data()))
+        return false;
+    if ((theirs[0] >> 4) == image.familyNibble())
+        return true;
+    cli.prompt().tell(
+        messageText(Msg::FamilyMismatch, {familyName(image.familyByte()), familyName(theirs[0])}),
+        UserPrompt::Kind::Error);
+    return false;
+}
+
 int writeCommand(CliContext &cli, const QStringList &args)
 {
     QString file;
     FullWriteOptions options;
     ConfigImage image;
     quint32 serial = 0;
+    bool force = false;
     for (int i = 0; i < args.size(); ++i) {
-        if (args[i] == QLatin1String("--serial") && i + 1 < args.size()) {
+        if (args[i] == QLatin1String("--force")) {
+            force = true;
+        } else if (args[i] == QLatin1String("--serial") && i + 1 < args.size()) {
             bool ok = false;
             serial = args[++i].toUInt(&ok);
             if (!ok) {
@@ -46,6 +70,8 @@ int writeCommand(CliContext &cli, const QStringList &args)
 
     TMonnayeur *link = cli.openLink();
     if (!link)
+        return kExitFailed;
+    if (!force && !sameFamily(cli, *link, image))
         return kExitFailed;
     // Nobody answers a dialog here: the connect loop gives up after one try, and the warning
     // about the last channel is printed while the write goes on.
@@ -146,8 +172,9 @@ int firmwareCommand(CliContext &cli, const QStringList &args)
 void registerWriteCommands(CliCommandTable &table)
 {
     table.insert(QStringLiteral("write"),
-                 {QStringLiteral("write FILE [--serial N]"),
-                  QStringLiteral("writes the whole configuration in FILE to the validator"),
+                 {QStringLiteral("write FILE [--serial N] [--force]"),
+                  QStringLiteral("writes the whole configuration in FILE to the validator; a "
+                                 "file of another firmware family is refused unless --force"),
                   writeCommand});
     table.insert(QStringLiteral("clone"),
                  {QStringLiteral("clone FILE [--groups channels,values,prices,config,enable]"),

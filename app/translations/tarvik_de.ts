@@ -2,6 +2,441 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>Captions</name>
+    <message>
+        <source>Validator</source>
+        <translation>Münzprüfer</translation>
+    </message>
+    <message>
+        <source>Channel 1 to 10</source>
+        <translation>Kanal 1 bis 10</translation>
+    </message>
+    <message>
+        <source>Channel 11 to 20</source>
+        <translation>Kanal 11 bis 20</translation>
+    </message>
+    <message>
+        <source>Channel 21 to 30</source>
+        <translation>Kanal 21 bis 30</translation>
+    </message>
+    <message>
+        <source>Channel 31 to 40</source>
+        <translation>Kanal 31 bis 40</translation>
+    </message>
+    <message>
+        <source>Channel 41 to 50</source>
+        <translation>Kanal 41 bis 50</translation>
+    </message>
+    <message>
+        <source>Channel 51 to 60</source>
+        <translation>Kanal 51 bis 60</translation>
+    </message>
+    <message>
+        <source>HFU low min</source>
+        <translation>HFU tief min</translation>
+    </message>
+    <message>
+        <source>HFU low max</source>
+        <translation>HFU tief max</translation>
+    </message>
+    <message>
+        <source>HFU high min</source>
+        <translation>HFU hoch min</translation>
+    </message>
+    <message>
+        <source>HFU high max</source>
+        <translation>HFU hoch max</translation>
+    </message>
+    <message>
+        <source>DIM min</source>
+        <translation>DIM min</translation>
+    </message>
+    <message>
+        <source>DIM max</source>
+        <translation>DIM max</translation>
+    </message>
+    <message>
+        <source>LF min</source>
+        <translation>LF min</translation>
+    </message>
+    <message>
+        <source>LF max</source>
+        <translation>LF max</translation>
+    </message>
+    <message>
+        <source>HFL low min</source>
+        <translation>HFL tief min</translation>
+    </message>
+    <message>
+        <source>HFL low max</source>
+        <translation>HFL tief max</translation>
+    </message>
+    <message>
+        <source>HFL high min</source>
+        <translation>HFL hoch min</translation>
+    </message>
+    <message>
+        <source>HFL high max</source>
+        <translation>HFL hoch max</translation>
+    </message>
+    <message>
+        <source>HFL amp min</source>
+        <translation>HFL Amp min</translation>
+    </message>
+    <message>
+        <source>HFL amp max</source>
+        <translation>HFL Amp max</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Freigabe</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Sub</source>
+        <translation>Sub</translation>
+    </message>
+    <message>
+        <source>Channel %d </source>
+        <translation>Kanal %d </translation>
+    </message>
+    <message>
+        <source>Identification</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Seriennummer:</translation>
+    </message>
+    <message>
+        <source>Version :</source>
+        <translation>Version:</translation>
+    </message>
+    <message>
+        <source>Firmware date :</source>
+        <translation>Firmware-Datum:</translation>
+    </message>
+    <message>
+        <source>Programming date :</source>
+        <translation>Programmierdatum:</translation>
+    </message>
+    <message>
+        <source>Production date :</source>
+        <translation>Herstellungsdatum:</translation>
+    </message>
+    <message>
+        <source>Identification :</source>
+        <translation>Kennung:</translation>
+    </message>
+    <message>
+        <source>Description :</source>
+        <translation>Beschreibung:</translation>
+    </message>
+    <message>
+        <source>Read validator</source>
+        <translation>Münzprüfer lesen</translation>
+    </message>
+    <message>
+        <source>Write validator</source>
+        <translation>Münzprüfer schreiben</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Klonen</translation>
+    </message>
+    <message>
+        <source>Store in tables</source>
+        <translation>In Tabellen speichern</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Open configuration file</source>
+        <translation>Konfigurationsdatei öffnen</translation>
+    </message>
+    <message>
+        <source>Save configuration file</source>
+        <translation>Konfigurationsdatei speichern</translation>
+    </message>
+    <message>
+        <source>Validator setting</source>
+        <translation>Münzprüfer-Einstellung</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Test value (via serial)</source>
+        <translation>Testwert (über seriell)</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Kanal:</translation>
+    </message>
+    <message>
+        <source>Value :</source>
+        <translation>Wert:</translation>
+    </message>
+    <message>
+        <source>Prices</source>
+        <translation>Preise</translation>
+    </message>
+    <message>
+        <source>Value P1</source>
+        <translation>Wert P1</translation>
+    </message>
+    <message>
+        <source>Value P2</source>
+        <translation>Wert P2</translation>
+    </message>
+    <message>
+        <source>Value P3</source>
+        <translation>Wert P3</translation>
+    </message>
+    <message>
+        <source>Value P4</source>
+        <translation>Wert P4</translation>
+    </message>
+    <message>
+        <source>Value P5</source>
+        <translation>Wert P5</translation>
+    </message>
+    <message>
+        <source>Value P6</source>
+        <translation>Wert P6</translation>
+    </message>
+    <message>
+        <source>Base Value</source>
+        <translation>Basiswert</translation>
+    </message>
+    <message>
+        <source>Channel from  1 to 30 :</source>
+        <translation>Kanäle von  1 bis 30:</translation>
+    </message>
+    <message>
+        <source>Channel from 31 to 60 :</source>
+        <translation>Kanäle von 31 bis 60:</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Verhältnis:</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>BAD</source>
+        <translation>FALSCH</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>00 - Validator</source>
+        <translation>00 - Münzprüfer</translation>
+    </message>
+    <message>
+        <source>10 - Totalizer - 2 prices</source>
+        <translation>10 - Summenzähler - 2 Preise</translation>
+    </message>
+    <message>
+        <source>20 - Totalizer - video game</source>
+        <translation>20 - Summenzähler - Videospiel</translation>
+    </message>
+    <message>
+        <source>30 - Timer Totalizer</source>
+        <translation>30 - Zeit-Summenzähler</translation>
+    </message>
+    <message>
+        <source>40 - Totalizer - credit</source>
+        <translation>40 - Summenzähler - Guthaben</translation>
+    </message>
+    <message>
+        <source>50 - </source>
+        <translation>50 - </translation>
+    </message>
+    <message>
+        <source>60 - TimerTotalizer - credit</source>
+        <translation>60 - Zeit-Summenzähler - Guthaben</translation>
+    </message>
+    <message>
+        <source>70 - Totalizer - photocopy</source>
+        <translation>70 - Summenzähler - Fotokopie</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Verkauf Anti-Stau</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Verkauf</translation>
+    </message>
+    <message>
+        <source>Game fast</source>
+        <translation>Spiel schnell</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Option bits</source>
+        <translation>Optionsbits</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separator</translation>
+    </message>
+    <message>
+        <source>Normal output</source>
+        <translation>Normaler Ausgang</translation>
+    </message>
+    <message>
+        <source>Inverted output</source>
+        <translation>Invertierter Ausgang</translation>
+    </message>
+    <message>
+        <source>Display off</source>
+        <translation>Anzeige aus</translation>
+    </message>
+    <message>
+        <source>Binary output</source>
+        <translation>Binärausgang</translation>
+    </message>
+    <message>
+        <source>Standby mode</source>
+        <translation>Standby-Modus</translation>
+    </message>
+    <message>
+        <source>Confida</source>
+        <translation>Confida</translation>
+    </message>
+    <message>
+        <source>Dip inhibition</source>
+        <translation>Dip-Sperre</translation>
+    </message>
+    <message>
+        <source>Dip 4/2</source>
+        <translation>Dip 4/2</translation>
+    </message>
+    <message>
+        <source>Dow-counting display</source>
+        <translation>Rückwärtszählanzeige</translation>
+    </message>
+    <message>
+        <source>Multi pulse</source>
+        <translation>Mehrfachimpuls</translation>
+    </message>
+    <message>
+        <source>Jam inhibition</source>
+        <translation>Sperre bei Stau</translation>
+    </message>
+    <message>
+        <source>Reset high</source>
+        <translation>Reset High-aktiv</translation>
+    </message>
+    <message>
+        <source>Toggling counting</source>
+        <translation>Wechselnde Zählung</translation>
+    </message>
+    <message>
+        <source>Price 1 limit</source>
+        <translation>Limit Preis 1</translation>
+    </message>
+    <message>
+        <source>Price 2 limit</source>
+        <translation>Limit Preis 2</translation>
+    </message>
+    <message>
+        <source>Time in minutes</source>
+        <translation>Zeit in Minuten</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limit</translation>
+    </message>
+    <message>
+        <source>Ext Counter signal (3C)</source>
+        <translation>Ext. Zählersignal (3C)</translation>
+    </message>
+    <message>
+        <source>Ext Start (3R)</source>
+        <translation>Ext. Start (3R)</translation>
+    </message>
+    <message>
+        <source>External reset</source>
+        <translation>Externer Reset</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Rest</translation>
+    </message>
+    <message>
+        <source>Cash counters / Limits</source>
+        <translation>Kassenzähler / Grenzwerte</translation>
+    </message>
+    <message>
+        <source>Counter 1 :</source>
+        <translation>Zähler 1:</translation>
+    </message>
+    <message>
+        <source>Counter 2 :</source>
+        <translation>Zähler 2:</translation>
+    </message>
+    <message>
+        <source>Actived</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Desactived</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>AUS</translation>
+    </message>
+    <message>
+        <source>Erasable :</source>
+        <translation>Löschbar:</translation>
+    </message>
+    <message>
+        <source>Vend Limit1 : </source>
+        <translation>Verkaufslimit 1: </translation>
+    </message>
+    <message>
+        <source>Vend Limit 2 : </source>
+        <translation>Verkaufslimit 2: </translation>
+    </message>
+</context>
+<context>
     <name>EditorStandIn</name>
     <message>
         <source>Validator</source>
@@ -366,6 +801,18 @@
         <source>The data directory %s cannot be created</source>
         <translation>Das Datenverzeichnis %s kann nicht angelegt werden</translation>
     </message>
+    <message>
+        <source>The backup of this read could not be written: %s</source>
+        <translation>Die Sicherung dieses Lesevorgangs konnte nicht geschrieben werden: %s</translation>
+    </message>
+    <message>
+        <source>The tables of the data directory are not open.</source>
+        <translation>Die Tabellen des Datenverzeichnisses sind nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>The file holds a %s validator but a %s validator is connected: nothing was written.</source>
+        <translation>Die Datei enthält einen Münzprüfer %s, angeschlossen ist aber ein Münzprüfer %s: Es wurde nichts geschrieben.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -412,6 +859,14 @@
     <message>
         <source>Coins waiting : %1</source>
         <translation>Wartende Münzen : %1</translation>
+    </message>
+    <message>
+        <source>Ask for firmware (code 11)</source>
+        <translation>Firmware anfordern (Code 11)</translation>
+    </message>
+    <message>
+        <source>Test mode</source>
+        <translation>Testmodus</translation>
     </message>
 </context>
 <context>

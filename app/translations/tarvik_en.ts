@@ -2,6 +2,441 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
+    <name>Captions</name>
+    <message>
+        <source>Validator</source>
+        <translation>Validator</translation>
+    </message>
+    <message>
+        <source>Channel 1 to 10</source>
+        <translation>Channel 1 to 10</translation>
+    </message>
+    <message>
+        <source>Channel 11 to 20</source>
+        <translation>Channel 11 to 20</translation>
+    </message>
+    <message>
+        <source>Channel 21 to 30</source>
+        <translation>Channel 21 to 30</translation>
+    </message>
+    <message>
+        <source>Channel 31 to 40</source>
+        <translation>Channel 31 to 40</translation>
+    </message>
+    <message>
+        <source>Channel 41 to 50</source>
+        <translation>Channel 41 to 50</translation>
+    </message>
+    <message>
+        <source>Channel 51 to 60</source>
+        <translation>Channel 51 to 60</translation>
+    </message>
+    <message>
+        <source>HFU low min</source>
+        <translation>HFU low min</translation>
+    </message>
+    <message>
+        <source>HFU low max</source>
+        <translation>HFU low max</translation>
+    </message>
+    <message>
+        <source>HFU high min</source>
+        <translation>HFU high min</translation>
+    </message>
+    <message>
+        <source>HFU high max</source>
+        <translation>HFU high max</translation>
+    </message>
+    <message>
+        <source>DIM min</source>
+        <translation>DIM min</translation>
+    </message>
+    <message>
+        <source>DIM max</source>
+        <translation>DIM max</translation>
+    </message>
+    <message>
+        <source>LF min</source>
+        <translation>LF min</translation>
+    </message>
+    <message>
+        <source>LF max</source>
+        <translation>LF max</translation>
+    </message>
+    <message>
+        <source>HFL low min</source>
+        <translation>HFL low min</translation>
+    </message>
+    <message>
+        <source>HFL low max</source>
+        <translation>HFL low max</translation>
+    </message>
+    <message>
+        <source>HFL high min</source>
+        <translation>HFL high min</translation>
+    </message>
+    <message>
+        <source>HFL high max</source>
+        <translation>HFL high max</translation>
+    </message>
+    <message>
+        <source>HFL amp min</source>
+        <translation>HFL amp min</translation>
+    </message>
+    <message>
+        <source>HFL amp max</source>
+        <translation>HFL amp max</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Enable</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>Sub</source>
+        <translation>Sub</translation>
+    </message>
+    <message>
+        <source>Channel %d </source>
+        <translation>Channel %d </translation>
+    </message>
+    <message>
+        <source>Identification</source>
+        <translation>Identification</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Serial Number :</translation>
+    </message>
+    <message>
+        <source>Version :</source>
+        <translation>Version :</translation>
+    </message>
+    <message>
+        <source>Firmware date :</source>
+        <translation>Firmware date :</translation>
+    </message>
+    <message>
+        <source>Programming date :</source>
+        <translation>Programming date :</translation>
+    </message>
+    <message>
+        <source>Production date :</source>
+        <translation>Production date :</translation>
+    </message>
+    <message>
+        <source>Identification :</source>
+        <translation>Identification :</translation>
+    </message>
+    <message>
+        <source>Description :</source>
+        <translation>Description :</translation>
+    </message>
+    <message>
+        <source>Read validator</source>
+        <translation>Read validator</translation>
+    </message>
+    <message>
+        <source>Write validator</source>
+        <translation>Write validator</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Clone</translation>
+    </message>
+    <message>
+        <source>Store in tables</source>
+        <translation>Store in tables</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Open configuration file</source>
+        <translation>Open configuration file</translation>
+    </message>
+    <message>
+        <source>Save configuration file</source>
+        <translation>Save configuration file</translation>
+    </message>
+    <message>
+        <source>Validator setting</source>
+        <translation>Validator setting</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>Test value (via serial)</source>
+        <translation>Test value (via serial)</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Channel :</translation>
+    </message>
+    <message>
+        <source>Value :</source>
+        <translation>Value :</translation>
+    </message>
+    <message>
+        <source>Prices</source>
+        <translation>Prices</translation>
+    </message>
+    <message>
+        <source>Value P1</source>
+        <translation>Value P1</translation>
+    </message>
+    <message>
+        <source>Value P2</source>
+        <translation>Value P2</translation>
+    </message>
+    <message>
+        <source>Value P3</source>
+        <translation>Value P3</translation>
+    </message>
+    <message>
+        <source>Value P4</source>
+        <translation>Value P4</translation>
+    </message>
+    <message>
+        <source>Value P5</source>
+        <translation>Value P5</translation>
+    </message>
+    <message>
+        <source>Value P6</source>
+        <translation>Value P6</translation>
+    </message>
+    <message>
+        <source>Base Value</source>
+        <translation>Base Value</translation>
+    </message>
+    <message>
+        <source>Channel from  1 to 30 :</source>
+        <translation>Channel from  1 to 30 :</translation>
+    </message>
+    <message>
+        <source>Channel from 31 to 60 :</source>
+        <translation>Channel from 31 to 60 :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Ratio :</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>BAD</source>
+        <translation>BAD</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>00 - Validator</source>
+        <translation>00 - Validator</translation>
+    </message>
+    <message>
+        <source>10 - Totalizer - 2 prices</source>
+        <translation>10 - Totalizer - 2 prices</translation>
+    </message>
+    <message>
+        <source>20 - Totalizer - video game</source>
+        <translation>20 - Totalizer - video game</translation>
+    </message>
+    <message>
+        <source>30 - Timer Totalizer</source>
+        <translation>30 - Timer Totalizer</translation>
+    </message>
+    <message>
+        <source>40 - Totalizer - credit</source>
+        <translation>40 - Totalizer - credit</translation>
+    </message>
+    <message>
+        <source>50 - </source>
+        <translation>50 - </translation>
+    </message>
+    <message>
+        <source>60 - TimerTotalizer - credit</source>
+        <translation>60 - TimerTotalizer - credit</translation>
+    </message>
+    <message>
+        <source>70 - Totalizer - photocopy</source>
+        <translation>70 - Totalizer - photocopy</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Outlet</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Vending anti-jam</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Vending</translation>
+    </message>
+    <message>
+        <source>Game fast</source>
+        <translation>Game fast</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Game</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Option bits</source>
+        <translation>Option bits</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separator</translation>
+    </message>
+    <message>
+        <source>Normal output</source>
+        <translation>Normal output</translation>
+    </message>
+    <message>
+        <source>Inverted output</source>
+        <translation>Inverted output</translation>
+    </message>
+    <message>
+        <source>Display off</source>
+        <translation>Display off</translation>
+    </message>
+    <message>
+        <source>Binary output</source>
+        <translation>Binary output</translation>
+    </message>
+    <message>
+        <source>Standby mode</source>
+        <translation>Standby mode</translation>
+    </message>
+    <message>
+        <source>Confida</source>
+        <translation>Confida</translation>
+    </message>
+    <message>
+        <source>Dip inhibition</source>
+        <translation>Dip inhibition</translation>
+    </message>
+    <message>
+        <source>Dip 4/2</source>
+        <translation>Dip 4/2</translation>
+    </message>
+    <message>
+        <source>Dow-counting display</source>
+        <translation>Dow-counting display</translation>
+    </message>
+    <message>
+        <source>Multi pulse</source>
+        <translation>Multi pulse</translation>
+    </message>
+    <message>
+        <source>Jam inhibition</source>
+        <translation>Jam inhibition</translation>
+    </message>
+    <message>
+        <source>Reset high</source>
+        <translation>Reset high</translation>
+    </message>
+    <message>
+        <source>Toggling counting</source>
+        <translation>Toggling counting</translation>
+    </message>
+    <message>
+        <source>Price 1 limit</source>
+        <translation>Price 1 limit</translation>
+    </message>
+    <message>
+        <source>Price 2 limit</source>
+        <translation>Price 2 limit</translation>
+    </message>
+    <message>
+        <source>Time in minutes</source>
+        <translation>Time in minutes</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limit</translation>
+    </message>
+    <message>
+        <source>Ext Counter signal (3C)</source>
+        <translation>Ext Counter signal (3C)</translation>
+    </message>
+    <message>
+        <source>Ext Start (3R)</source>
+        <translation>Ext Start (3R)</translation>
+    </message>
+    <message>
+        <source>External reset</source>
+        <translation>External reset</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Rest</translation>
+    </message>
+    <message>
+        <source>Cash counters / Limits</source>
+        <translation>Cash counters / Limits</translation>
+    </message>
+    <message>
+        <source>Counter 1 :</source>
+        <translation>Counter 1 :</translation>
+    </message>
+    <message>
+        <source>Counter 2 :</source>
+        <translation>Counter 2 :</translation>
+    </message>
+    <message>
+        <source>Actived</source>
+        <translation>Actived</translation>
+    </message>
+    <message>
+        <source>Desactived</source>
+        <translation>Desactived</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>OFF</translation>
+    </message>
+    <message>
+        <source>Erasable :</source>
+        <translation>Erasable :</translation>
+    </message>
+    <message>
+        <source>Vend Limit1 : </source>
+        <translation>Vend Limit1 : </translation>
+    </message>
+    <message>
+        <source>Vend Limit 2 : </source>
+        <translation>Vend Limit 2 : </translation>
+    </message>
+</context>
+<context>
     <name>EditorStandIn</name>
     <message>
         <source>Validator</source>
@@ -366,6 +801,18 @@
         <source>The data directory %s cannot be created</source>
         <translation>The data directory %s cannot be created</translation>
     </message>
+    <message>
+        <source>The backup of this read could not be written: %s</source>
+        <translation>The backup of this read could not be written: %s</translation>
+    </message>
+    <message>
+        <source>The tables of the data directory are not open.</source>
+        <translation>The tables of the data directory are not open.</translation>
+    </message>
+    <message>
+        <source>The file holds a %s validator but a %s validator is connected: nothing was written.</source>
+        <translation>The file holds a %s validator but a %s validator is connected: nothing was written.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -412,6 +859,14 @@
     <message>
         <source>Coins waiting : %1</source>
         <translation>Coins waiting: %1</translation>
+    </message>
+    <message>
+        <source>Ask for firmware (code 11)</source>
+        <translation>Ask for firmware (code 11)</translation>
+    </message>
+    <message>
+        <source>Test mode</source>
+        <translation>Test mode</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,441 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>Captions</name>
+    <message>
+        <source>Validator</source>
+        <translation>Monnayeur</translation>
+    </message>
+    <message>
+        <source>Channel 1 to 10</source>
+        <translation>Canal 1 à 10</translation>
+    </message>
+    <message>
+        <source>Channel 11 to 20</source>
+        <translation>Canal 11 à 20</translation>
+    </message>
+    <message>
+        <source>Channel 21 to 30</source>
+        <translation>Canal 21 à 30</translation>
+    </message>
+    <message>
+        <source>Channel 31 to 40</source>
+        <translation>Canal 31 à 40</translation>
+    </message>
+    <message>
+        <source>Channel 41 to 50</source>
+        <translation>Canal 41 à 50</translation>
+    </message>
+    <message>
+        <source>Channel 51 to 60</source>
+        <translation>Canal 51 à 60</translation>
+    </message>
+    <message>
+        <source>HFU low min</source>
+        <translation>HFU bas min</translation>
+    </message>
+    <message>
+        <source>HFU low max</source>
+        <translation>HFU bas max</translation>
+    </message>
+    <message>
+        <source>HFU high min</source>
+        <translation>HFU haut min</translation>
+    </message>
+    <message>
+        <source>HFU high max</source>
+        <translation>HFU haut max</translation>
+    </message>
+    <message>
+        <source>DIM min</source>
+        <translation>DIM min</translation>
+    </message>
+    <message>
+        <source>DIM max</source>
+        <translation>DIM max</translation>
+    </message>
+    <message>
+        <source>LF min</source>
+        <translation>LF min</translation>
+    </message>
+    <message>
+        <source>LF max</source>
+        <translation>LF max</translation>
+    </message>
+    <message>
+        <source>HFL low min</source>
+        <translation>HFL bas min</translation>
+    </message>
+    <message>
+        <source>HFL low max</source>
+        <translation>HFL bas max</translation>
+    </message>
+    <message>
+        <source>HFL high min</source>
+        <translation>HFL haut min</translation>
+    </message>
+    <message>
+        <source>HFL high max</source>
+        <translation>HFL haut max</translation>
+    </message>
+    <message>
+        <source>HFL amp min</source>
+        <translation>HFL amp min</translation>
+    </message>
+    <message>
+        <source>HFL amp max</source>
+        <translation>HFL amp max</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Actif</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Sub</source>
+        <translation>Sub</translation>
+    </message>
+    <message>
+        <source>Channel %d </source>
+        <translation>Canal %d </translation>
+    </message>
+    <message>
+        <source>Identification</source>
+        <translation>Identification</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Numéro de série :</translation>
+    </message>
+    <message>
+        <source>Version :</source>
+        <translation>Version :</translation>
+    </message>
+    <message>
+        <source>Firmware date :</source>
+        <translation>Date du micrologiciel :</translation>
+    </message>
+    <message>
+        <source>Programming date :</source>
+        <translation>Date de programmation :</translation>
+    </message>
+    <message>
+        <source>Production date :</source>
+        <translation>Date de fabrication :</translation>
+    </message>
+    <message>
+        <source>Identification :</source>
+        <translation>Identification :</translation>
+    </message>
+    <message>
+        <source>Description :</source>
+        <translation>Description :</translation>
+    </message>
+    <message>
+        <source>Read validator</source>
+        <translation>Lire le monnayeur</translation>
+    </message>
+    <message>
+        <source>Write validator</source>
+        <translation>Écrire le monnayeur</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Cloner</translation>
+    </message>
+    <message>
+        <source>Store in tables</source>
+        <translation>Enregistrer dans les tables</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Open configuration file</source>
+        <translation>Ouvrir un fichier de configuration</translation>
+    </message>
+    <message>
+        <source>Save configuration file</source>
+        <translation>Enregistrer le fichier de configuration</translation>
+    </message>
+    <message>
+        <source>Validator setting</source>
+        <translation>Paramétrage du monnayeur</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>Test value (via serial)</source>
+        <translation>Valeur de test (via série)</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Canal :</translation>
+    </message>
+    <message>
+        <source>Value :</source>
+        <translation>Valeur :</translation>
+    </message>
+    <message>
+        <source>Prices</source>
+        <translation>Prix</translation>
+    </message>
+    <message>
+        <source>Value P1</source>
+        <translation>Valeur P1</translation>
+    </message>
+    <message>
+        <source>Value P2</source>
+        <translation>Valeur P2</translation>
+    </message>
+    <message>
+        <source>Value P3</source>
+        <translation>Valeur P3</translation>
+    </message>
+    <message>
+        <source>Value P4</source>
+        <translation>Valeur P4</translation>
+    </message>
+    <message>
+        <source>Value P5</source>
+        <translation>Valeur P5</translation>
+    </message>
+    <message>
+        <source>Value P6</source>
+        <translation>Valeur P6</translation>
+    </message>
+    <message>
+        <source>Base Value</source>
+        <translation>Valeur de base</translation>
+    </message>
+    <message>
+        <source>Channel from  1 to 30 :</source>
+        <translation>Canaux de  1 à 30 :</translation>
+    </message>
+    <message>
+        <source>Channel from 31 to 60 :</source>
+        <translation>Canaux de 31 à 60 :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Rapport :</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>BAD</source>
+        <translation>FAUX</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>00 - Validator</source>
+        <translation>00 - Monnayeur</translation>
+    </message>
+    <message>
+        <source>10 - Totalizer - 2 prices</source>
+        <translation>10 - Totalisateur - 2 prix</translation>
+    </message>
+    <message>
+        <source>20 - Totalizer - video game</source>
+        <translation>20 - Totalisateur - jeu vidéo</translation>
+    </message>
+    <message>
+        <source>30 - Timer Totalizer</source>
+        <translation>30 - Totalisateur temporisé</translation>
+    </message>
+    <message>
+        <source>40 - Totalizer - credit</source>
+        <translation>40 - Totalisateur - crédit</translation>
+    </message>
+    <message>
+        <source>50 - </source>
+        <translation>50 - </translation>
+    </message>
+    <message>
+        <source>60 - TimerTotalizer - credit</source>
+        <translation>60 - Totalisateur temporisé - crédit</translation>
+    </message>
+    <message>
+        <source>70 - Totalizer - photocopy</source>
+        <translation>70 - Totalisateur - photocopie</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Distribution anti-blocage</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Distribution</translation>
+    </message>
+    <message>
+        <source>Game fast</source>
+        <translation>Jeu rapide</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Jeu</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Option bits</source>
+        <translation>Bits d&apos;option</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Séparateur</translation>
+    </message>
+    <message>
+        <source>Normal output</source>
+        <translation>Sortie normale</translation>
+    </message>
+    <message>
+        <source>Inverted output</source>
+        <translation>Sortie inversée</translation>
+    </message>
+    <message>
+        <source>Display off</source>
+        <translation>Affichage éteint</translation>
+    </message>
+    <message>
+        <source>Binary output</source>
+        <translation>Sortie binaire</translation>
+    </message>
+    <message>
+        <source>Standby mode</source>
+        <translation>Mode veille</translation>
+    </message>
+    <message>
+        <source>Confida</source>
+        <translation>Confida</translation>
+    </message>
+    <message>
+        <source>Dip inhibition</source>
+        <translation>Inhibition Dip</translation>
+    </message>
+    <message>
+        <source>Dip 4/2</source>
+        <translation>Dip 4/2</translation>
+    </message>
+    <message>
+        <source>Dow-counting display</source>
+        <translation>Affichage en décompte</translation>
+    </message>
+    <message>
+        <source>Multi pulse</source>
+        <translation>Multi-impulsions</translation>
+    </message>
+    <message>
+        <source>Jam inhibition</source>
+        <translation>Inhibition sur blocage</translation>
+    </message>
+    <message>
+        <source>Reset high</source>
+        <translation>RAZ niveau haut</translation>
+    </message>
+    <message>
+        <source>Toggling counting</source>
+        <translation>Comptage alterné</translation>
+    </message>
+    <message>
+        <source>Price 1 limit</source>
+        <translation>Limite prix 1</translation>
+    </message>
+    <message>
+        <source>Price 2 limit</source>
+        <translation>Limite prix 2</translation>
+    </message>
+    <message>
+        <source>Time in minutes</source>
+        <translation>Temps en minutes</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Ext Counter signal (3C)</source>
+        <translation>Signal compteur ext. (3C)</translation>
+    </message>
+    <message>
+        <source>Ext Start (3R)</source>
+        <translation>Démarrage ext. (3R)</translation>
+    </message>
+    <message>
+        <source>External reset</source>
+        <translation>RAZ externe</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Reste</translation>
+    </message>
+    <message>
+        <source>Cash counters / Limits</source>
+        <translation>Compteurs de caisse / Limites</translation>
+    </message>
+    <message>
+        <source>Counter 1 :</source>
+        <translation>Compteur 1 :</translation>
+    </message>
+    <message>
+        <source>Counter 2 :</source>
+        <translation>Compteur 2 :</translation>
+    </message>
+    <message>
+        <source>Actived</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Desactived</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>OFF</translation>
+    </message>
+    <message>
+        <source>Erasable :</source>
+        <translation>Effaçable :</translation>
+    </message>
+    <message>
+        <source>Vend Limit1 : </source>
+        <translation>Limite vente 1 : </translation>
+    </message>
+    <message>
+        <source>Vend Limit 2 : </source>
+        <translation>Limite vente 2 : </translation>
+    </message>
+</context>
+<context>
     <name>EditorStandIn</name>
     <message>
         <source>Validator</source>
@@ -366,6 +801,18 @@
         <source>The data directory %s cannot be created</source>
         <translation>Le répertoire de données %s ne peut pas être créé</translation>
     </message>
+    <message>
+        <source>The backup of this read could not be written: %s</source>
+        <translation>La sauvegarde de cette lecture n&apos;a pas pu être écrite : %s</translation>
+    </message>
+    <message>
+        <source>The tables of the data directory are not open.</source>
+        <translation>Les tables du répertoire de données ne sont pas ouvertes.</translation>
+    </message>
+    <message>
+        <source>The file holds a %s validator but a %s validator is connected: nothing was written.</source>
+        <translation>Le fichier contient un monnayeur %s mais un monnayeur %s est connecté : rien n&apos;a été écrit.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -412,6 +859,14 @@
     <message>
         <source>Coins waiting : %1</source>
         <translation>Pièces en attente : %1</translation>
+    </message>
+    <message>
+        <source>Ask for firmware (code 11)</source>
+        <translation>Demander le micrologiciel (code 11)</translation>
+    </message>
+    <message>
+        <source>Test mode</source>
+        <translation>Mode test</translation>
     </message>
 </context>
 <context>

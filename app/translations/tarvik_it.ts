@@ -2,6 +2,441 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT">
 <context>
+    <name>Captions</name>
+    <message>
+        <source>Validator</source>
+        <translation>Gettoniera</translation>
+    </message>
+    <message>
+        <source>Channel 1 to 10</source>
+        <translation>Canale da 1 a 10</translation>
+    </message>
+    <message>
+        <source>Channel 11 to 20</source>
+        <translation>Canale da 11 a 20</translation>
+    </message>
+    <message>
+        <source>Channel 21 to 30</source>
+        <translation>Canale da 21 a 30</translation>
+    </message>
+    <message>
+        <source>Channel 31 to 40</source>
+        <translation>Canale da 31 a 40</translation>
+    </message>
+    <message>
+        <source>Channel 41 to 50</source>
+        <translation>Canale da 41 a 50</translation>
+    </message>
+    <message>
+        <source>Channel 51 to 60</source>
+        <translation>Canale da 51 a 60</translation>
+    </message>
+    <message>
+        <source>HFU low min</source>
+        <translation>HFU basso min</translation>
+    </message>
+    <message>
+        <source>HFU low max</source>
+        <translation>HFU basso max</translation>
+    </message>
+    <message>
+        <source>HFU high min</source>
+        <translation>HFU alto min</translation>
+    </message>
+    <message>
+        <source>HFU high max</source>
+        <translation>HFU alto max</translation>
+    </message>
+    <message>
+        <source>DIM min</source>
+        <translation>DIM min</translation>
+    </message>
+    <message>
+        <source>DIM max</source>
+        <translation>DIM max</translation>
+    </message>
+    <message>
+        <source>LF min</source>
+        <translation>LF min</translation>
+    </message>
+    <message>
+        <source>LF max</source>
+        <translation>LF max</translation>
+    </message>
+    <message>
+        <source>HFL low min</source>
+        <translation>HFL basso min</translation>
+    </message>
+    <message>
+        <source>HFL low max</source>
+        <translation>HFL basso max</translation>
+    </message>
+    <message>
+        <source>HFL high min</source>
+        <translation>HFL alto min</translation>
+    </message>
+    <message>
+        <source>HFL high max</source>
+        <translation>HFL alto max</translation>
+    </message>
+    <message>
+        <source>HFL amp min</source>
+        <translation>HFL amp min</translation>
+    </message>
+    <message>
+        <source>HFL amp max</source>
+        <translation>HFL amp max</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>Abilitato</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Sub</source>
+        <translation>Sub</translation>
+    </message>
+    <message>
+        <source>Channel %d </source>
+        <translation>Canale %d </translation>
+    </message>
+    <message>
+        <source>Identification</source>
+        <translation>Identificazione</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Numero di serie:</translation>
+    </message>
+    <message>
+        <source>Version :</source>
+        <translation>Versione:</translation>
+    </message>
+    <message>
+        <source>Firmware date :</source>
+        <translation>Data firmware:</translation>
+    </message>
+    <message>
+        <source>Programming date :</source>
+        <translation>Data di programmazione:</translation>
+    </message>
+    <message>
+        <source>Production date :</source>
+        <translation>Data di produzione:</translation>
+    </message>
+    <message>
+        <source>Identification :</source>
+        <translation>Identificazione:</translation>
+    </message>
+    <message>
+        <source>Description :</source>
+        <translation>Descrizione:</translation>
+    </message>
+    <message>
+        <source>Read validator</source>
+        <translation>Leggi gettoniera</translation>
+    </message>
+    <message>
+        <source>Write validator</source>
+        <translation>Scrivi gettoniera</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Clona</translation>
+    </message>
+    <message>
+        <source>Store in tables</source>
+        <translation>Salva nelle tabelle</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Open configuration file</source>
+        <translation>Apri file di configurazione</translation>
+    </message>
+    <message>
+        <source>Save configuration file</source>
+        <translation>Salva file di configurazione</translation>
+    </message>
+    <message>
+        <source>Validator setting</source>
+        <translation>Impostazione gettoniera</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Uscita</translation>
+    </message>
+    <message>
+        <source>Test value (via serial)</source>
+        <translation>Valore di prova (via seriale)</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Canale:</translation>
+    </message>
+    <message>
+        <source>Value :</source>
+        <translation>Valore:</translation>
+    </message>
+    <message>
+        <source>Prices</source>
+        <translation>Prezzi</translation>
+    </message>
+    <message>
+        <source>Value P1</source>
+        <translation>Valore P1</translation>
+    </message>
+    <message>
+        <source>Value P2</source>
+        <translation>Valore P2</translation>
+    </message>
+    <message>
+        <source>Value P3</source>
+        <translation>Valore P3</translation>
+    </message>
+    <message>
+        <source>Value P4</source>
+        <translation>Valore P4</translation>
+    </message>
+    <message>
+        <source>Value P5</source>
+        <translation>Valore P5</translation>
+    </message>
+    <message>
+        <source>Value P6</source>
+        <translation>Valore P6</translation>
+    </message>
+    <message>
+        <source>Base Value</source>
+        <translation>Valore base</translation>
+    </message>
+    <message>
+        <source>Channel from  1 to 30 :</source>
+        <translation>Canali da  1 a 30:</translation>
+    </message>
+    <message>
+        <source>Channel from 31 to 60 :</source>
+        <translation>Canali da 31 a 60:</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Rapporto:</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Codice</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>BAD</source>
+        <translation>ERRATO</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>00 - Validator</source>
+        <translation>00 - Gettoniera</translation>
+    </message>
+    <message>
+        <source>10 - Totalizer - 2 prices</source>
+        <translation>10 - Totalizzatore - 2 prezzi</translation>
+    </message>
+    <message>
+        <source>20 - Totalizer - video game</source>
+        <translation>20 - Totalizzatore - videogioco</translation>
+    </message>
+    <message>
+        <source>30 - Timer Totalizer</source>
+        <translation>30 - Totalizzatore a tempo</translation>
+    </message>
+    <message>
+        <source>40 - Totalizer - credit</source>
+        <translation>40 - Totalizzatore - credito</translation>
+    </message>
+    <message>
+        <source>50 - </source>
+        <translation>50 - </translation>
+    </message>
+    <message>
+        <source>60 - TimerTotalizer - credit</source>
+        <translation>60 - Totalizzatore a tempo - credito</translation>
+    </message>
+    <message>
+        <source>70 - Totalizer - photocopy</source>
+        <translation>70 - Totalizzatore - fotocopie</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Uscita</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Vendita anti-inceppamento</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Vendita</translation>
+    </message>
+    <message>
+        <source>Game fast</source>
+        <translation>Gioco veloce</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Gioco</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>Option bits</source>
+        <translation>Bit opzioni</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separatore</translation>
+    </message>
+    <message>
+        <source>Normal output</source>
+        <translation>Uscita normale</translation>
+    </message>
+    <message>
+        <source>Inverted output</source>
+        <translation>Uscita invertita</translation>
+    </message>
+    <message>
+        <source>Display off</source>
+        <translation>Display spento</translation>
+    </message>
+    <message>
+        <source>Binary output</source>
+        <translation>Uscita binaria</translation>
+    </message>
+    <message>
+        <source>Standby mode</source>
+        <translation>Modalità standby</translation>
+    </message>
+    <message>
+        <source>Confida</source>
+        <translation>Confida</translation>
+    </message>
+    <message>
+        <source>Dip inhibition</source>
+        <translation>Inibizione Dip</translation>
+    </message>
+    <message>
+        <source>Dip 4/2</source>
+        <translation>Dip 4/2</translation>
+    </message>
+    <message>
+        <source>Dow-counting display</source>
+        <translation>Visualizzazione a scalare</translation>
+    </message>
+    <message>
+        <source>Multi pulse</source>
+        <translation>Multi-impulso</translation>
+    </message>
+    <message>
+        <source>Jam inhibition</source>
+        <translation>Inibizione inceppamento</translation>
+    </message>
+    <message>
+        <source>Reset high</source>
+        <translation>Reset livello alto</translation>
+    </message>
+    <message>
+        <source>Toggling counting</source>
+        <translation>Conteggio alternato</translation>
+    </message>
+    <message>
+        <source>Price 1 limit</source>
+        <translation>Limite prezzo 1</translation>
+    </message>
+    <message>
+        <source>Price 2 limit</source>
+        <translation>Limite prezzo 2</translation>
+    </message>
+    <message>
+        <source>Time in minutes</source>
+        <translation>Tempo in minuti</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Ext Counter signal (3C)</source>
+        <translation>Segnale contatore est. (3C)</translation>
+    </message>
+    <message>
+        <source>Ext Start (3R)</source>
+        <translation>Avvio est. (3R)</translation>
+    </message>
+    <message>
+        <source>External reset</source>
+        <translation>Reset esterno</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Resto</translation>
+    </message>
+    <message>
+        <source>Cash counters / Limits</source>
+        <translation>Contatori cassa / Limiti</translation>
+    </message>
+    <message>
+        <source>Counter 1 :</source>
+        <translation>Contatore 1:</translation>
+    </message>
+    <message>
+        <source>Counter 2 :</source>
+        <translation>Contatore 2:</translation>
+    </message>
+    <message>
+        <source>Actived</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>Desactived</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>OFF</translation>
+    </message>
+    <message>
+        <source>Erasable :</source>
+        <translation>Azzerabile:</translation>
+    </message>
+    <message>
+        <source>Vend Limit1 : </source>
+        <translation>Limite vendita 1: </translation>
+    </message>
+    <message>
+        <source>Vend Limit 2 : </source>
+        <translation>Limite vendita 2: </translation>
+    </message>
+</context>
+<context>
     <name>EditorStandIn</name>
     <message>
         <source>Validator</source>
@@ -366,6 +801,18 @@
         <source>The data directory %s cannot be created</source>
         <translation>La cartella dati %s non può essere creata</translation>
     </message>
+    <message>
+        <source>The backup of this read could not be written: %s</source>
+        <translation>Non è stato possibile scrivere il backup di questa lettura: %s</translation>
+    </message>
+    <message>
+        <source>The tables of the data directory are not open.</source>
+        <translation>Le tabelle della cartella dati non sono aperte.</translation>
+    </message>
+    <message>
+        <source>The file holds a %s validator but a %s validator is connected: nothing was written.</source>
+        <translation>Il file contiene una gettoniera %s ma è collegata una gettoniera %s: non è stato scritto nulla.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -412,6 +859,14 @@
     <message>
         <source>Coins waiting : %1</source>
         <translation>Monete in attesa : %1</translation>
+    </message>
+    <message>
+        <source>Ask for firmware (code 11)</source>
+        <translation>Richiedi il firmware (codice 11)</translation>
+    </message>
+    <message>
+        <source>Test mode</source>
+        <translation>Modalità test</translation>
     </message>
 </context>
 <context>

@@ -105,6 +105,14 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages",
                        "The validator now holds a partly written configuration: nothing already "
                        "written was undone. Write it again before use.")},
+    {Msg::BackupFailed,
+     QT_TRANSLATE_NOOP("Messages", "The backup of this read could not be written: %s")},
+    {Msg::TablesUnavailable,
+     QT_TRANSLATE_NOOP("Messages", "The tables of the data directory are not open.")},
+    {Msg::FamilyMismatch,
+     QT_TRANSLATE_NOOP("Messages",
+                       "The file holds a %s validator but a %s validator is connected: nothing "
+                       "was written.")},
     {Msg::RecordsFileMissing, QT_TRANSLATE_NOOP("Messages", "%s is missing")},
     {Msg::RecordsCannotOpen, QT_TRANSLATE_NOOP("Messages", "%s cannot be opened: %s")},
     {Msg::RecordsCannotWrite, QT_TRANSLATE_NOOP("Messages", "%s cannot be written: %s")},

@@ -70,6 +70,9 @@ enum class Msg
     PleaseConnectMiniProgrammer,
     LastChannelDiffers,
     WriteIncomplete,
+    BackupFailed,
+    TablesUnavailable,
+    FamilyMismatch,
     // records engine
     RecordsFileMissing,
     RecordsCannotOpen,

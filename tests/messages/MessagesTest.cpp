@@ -1,3 +1,4 @@
+#include "Captions.h"
 #include "Messages.h"
 
 #include <QSet>
@@ -25,20 +26,28 @@ TEST(Messages, EveryIdHasItsOwnText)
         EXPECT_FALSE(texts.contains(text)) << "two messages share " << text.toStdString();
         texts.insert(text);
     }
+    for (int i = 0; i < int(Cap::Count_); ++i)
+        EXPECT_STRNE(captionSource(Cap(i)), "") << "caption " << i << " has no text";
 }
 
 #include <QFile>
 #include <QXmlStreamReader>
 
-// Every message has a finished translation in each language the program ships.
+// Every message and caption has a finished translation in each language the program ships.
 TEST(Messages, EveryLanguageTranslatesEveryMessage)
 {
+    QList<QPair<QString, QString>> expected; // context, source
+    for (int i = 0; i < int(Msg::Count_); ++i)
+        expected.append({QStringLiteral("Messages"), QString::fromUtf8(messageSource(Msg(i)))});
+    for (int i = 0; i < int(Cap::Count_); ++i)
+        expected.append({QStringLiteral("Captions"), QString::fromUtf8(captionSource(Cap(i)))});
+
     for (const char *lang : {"fr", "it", "de", "en"}) {
         QFile file(QStringLiteral(TARVIK_TRANSLATIONS_DIR "/tarvik_%1.ts").arg(lang));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << lang;
         const QByteArray content = file.readAll();
         QXmlStreamReader xml(content);
-        QSet<QString> translated;
+        QSet<QPair<QString, QString>> translated;
         QString context, source;
         while (!xml.atEnd()) {
             if (xml.readNext() != QXmlStreamReader::StartElement)
@@ -50,16 +59,15 @@ TEST(Messages, EveryLanguageTranslatesEveryMessage)
             else if (xml.name() == QLatin1String("translation")) {
                 const bool unfinished =
                     xml.attributes().value(QLatin1String("type")) == QLatin1String("unfinished");
-                if (context == QLatin1String("Messages") && !unfinished &&
-                    !xml.readElementText().isEmpty())
-                    translated.insert(source);
+                if (!unfinished && !xml.readElementText().isEmpty())
+                    translated.insert({context, source});
             }
         }
         ASSERT_FALSE(xml.hasError())
             << lang << ": " << int(xml.error()) << " " << qPrintable(xml.errorString()) << " line "
             << xml.lineNumber();
-        for (int i = 0; i < int(Msg::Count_); ++i)
-            EXPECT_TRUE(translated.contains(QString::fromUtf8(messageSource(Msg(i)))))
-                << lang << ": " << messageSource(Msg(i));
+        for (const auto &entry : expected)
+            EXPECT_TRUE(translated.contains(entry))
+                << lang << ": " << qPrintable(entry.first) << ": " << qPrintable(entry.second);
     }
 }

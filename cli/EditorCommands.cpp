@@ -1,0 +1,152 @@
+// show and edit: the editor model over a configuration file, without a window.
+#include "CliContext.h"
+#include "ConfigImage.h"
+#include "EditorModel.h"
+#include "EditorServices.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+QJsonObject controlJson(const Control &control)
+{
+    QJsonObject o;
+    o.insert(QStringLiteral("text"), control.state.text);
+    o.insert(QStringLiteral("visible"), control.state.visible);
+    o.insert(QStringLiteral("enabled"), control.state.enabled);
+    if (control.kind == ControlKind::Check)
+        o.insert(QStringLiteral("checked"), control.state.checked);
+    if (control.kind == ControlKind::Radio)
+        o.insert(QStringLiteral("itemIndex"), control.state.itemIndex);
+    return o;
+}
+
+// The editor over a file, with the link when the command line names one.
+struct FileEditor
+{
+    FileEditor(CliContext &cli, TMonnayeur *link) : model(&cli.prompt(), &services, link)
+    {
+        // Close asks what closing the window asks.
+        model.closeRequested = [this] { model.FormCloseQuery(); };
+    }
+    DefaultEditorServices services;
+    EditorModel model;
+};
+
+bool hasLinkOption(const GlobalOptions &o)
+{
+    return o.simulate || !o.device.isEmpty() || !o.port.isEmpty();
+}
+
+int showCommand(CliContext &cli, const QStringList &args)
+{
+    if (args.isEmpty())
+        return kExitUsage;
+    ConfigImage image = ConfigImage::blank();
+    if (!readImageInput(cli, args.first(), image))
+        return kExitFailed;
+    FileEditor editor(cli, nullptr);
+    editor.model.loadImage(image, false);
+
+    QJsonObject out;
+    const QStringList names = args.mid(1);
+    for (const QString &name : names) {
+        if (!editor.model.has(name)) {
+            cli.err() << "tarvik-cli: no control " << name << Qt::endl;
+            return kExitUsage;
+        }
+    }
+    for (const Control &control : editor.model.controls().all()) {
+        if (names.isEmpty() || names.contains(control.name))
+            out.insert(control.name, controlJson(control));
+    }
+    cli.out() << QString::fromUtf8(QJsonDocument(out).toJson(QJsonDocument::Indented)) << Qt::flush;
+    return kExitOk;
+}
+
+// One action as a technician would do it: NAME=TEXT types into a box and leaves it, NAME#N
+// picks item N of a radio group, NAME clicks.
+bool applyAction(EditorModel &model, const QString &action, QString &error)
+{
+    const qsizetype eq = action.indexOf(u'=');
+    if (eq > 0) {
+        const QString name = action.left(eq);
+        return model.type(name, action.mid(eq + 1), &error) && model.leave(name, &error);
+    }
+    const qsizetype hash = action.lastIndexOf(u'#');
+    if (hash > 0) {
+        bool ok = false;
+        const int item = action.mid(hash + 1).toInt(&ok);
+        if (!ok) {
+            error = action + QStringLiteral(": the item after # must be a number");
+            return false;
+        }
+        return model.pick(action.left(hash), item, &error);
+    }
+    return model.click(action, &error);
+}
+
+int editCommand(CliContext &cli, const QStringList &arguments)
+{
+    QStringList args = arguments;
+    QString output;
+    if (!takeOutputOption(args, output))
+        return kExitUsage;
+    UserPrompt::Answer answer = UserPrompt::Answer::No;
+    const qsizetype at = args.indexOf(QStringLiteral("--answer"));
+    if (at >= 0) {
+        const QString word = args.value(at + 1);
+        if (word != QLatin1String("yes") && word != QLatin1String("no")) {
+            cli.err() << "tarvik-cli: --answer takes yes or no" << Qt::endl;
+            return kExitUsage;
+        }
+        answer = word == QLatin1String("yes") ? UserPrompt::Answer::Yes : UserPrompt::Answer::No;
+        args.remove(at, 2);
+    }
+    if (args.isEmpty())
+        return kExitUsage;
+    ConfigImage image = ConfigImage::blank();
+    if (!readImageInput(cli, args.takeFirst(), image))
+        return kExitFailed;
+
+    TMonnayeur *link = nullptr;
+    if (hasLinkOption(cli.options())) {
+        link = cli.openLink();
+        if (!link)
+            return kExitFailed;
+    }
+    cli.prompt().setAnswer(answer);
+    FileEditor editor(cli, link);
+    editor.model.loadImage(image, false);
+    for (const QString &action : args) {
+        QString error;
+        if (!applyAction(editor.model, action, error)) {
+            cli.err() << "tarvik-cli: " << error << Qt::endl;
+            return kExitUsage;
+        }
+    }
+    // Whatever box was typed into last is left before the file is written.
+    editor.model.EHFUBMIN0Exit();
+    return writeImageOutput(cli, editor.model.image(), output);
+}
+
+} // namespace
+
+void registerEditorCommands(CliCommandTable &table)
+{
+    table.insert(QStringLiteral("show"),
+                 {QStringLiteral("show FILE [NAME...]"),
+                  QStringLiteral("prints, as JSON keyed by control name, what the editor shows "
+                                 "for a configuration file (text, visible, enabled, checked or "
+                                 "itemIndex); with names, only those controls"),
+                  showCommand});
+    table.insert(
+        QStringLiteral("edit"),
+        {QStringLiteral("edit FILE [-o OUT] [--answer yes|no] ACTION..."),
+         QStringLiteral("runs the editor over a configuration file and writes the result (stdout "
+                        "without -o): NAME=TEXT types TEXT into box NAME and leaves it, NAME "
+                        "clicks it, NAME#N picks item N of a radio group; questions take "
+                        "--answer (default no)"),
+         editCommand});
+}

@@ -1,0 +1,187 @@
+// The editor's handlers that reach beyond the form: writing, cloning, storing, files, the
+// small dialogs, closing and the timer.
+#include "ConfigFile.h"
+#include "EditorModel.h"
+#include "EditorServices.h"
+#include "Messages.h"
+#include "TMonnayeur.h"
+#include "UserPrompt.h"
+#include "WriteSequence.h"
+
+void EditorModel::SpeedButton8Click()
+{
+    if (!m_link)
+        return;
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        FullWriteOptions options;
+        options.serialOverride = m_s.flags.serialOverride;
+        options.codeTableCheck = m_s.outputType() == 0 && m_s.checked(QStringLiteral("ChkCode"));
+        options.lastChannelWarning = [&](const QString &warning) {
+            return !m_services || m_services->continueDespite(warning);
+        };
+        showProgress(true, messageText(Msg::SavingInProgress));
+        WriteObserver observer;
+        observer.progress = [&](int gauge) {
+            setGauge(gauge);
+            flush();
+        };
+        const WriteOutcome outcome = fullWrite(*m_link, m_s.image, options, observer);
+        m_s.flags.serialOverride = options.serialOverride;
+        showProgress(false);
+        // The validator now holds the image.
+        if (outcome == WriteOutcome::Finished)
+            m_s.flags.configModified = false;
+        display();
+    });
+}
+
+void EditorModel::SpeedButton2Click()
+{
+    if (!m_link)
+        return;
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        const std::optional<CloneGroups> groups =
+            m_services ? m_services->chooseCloneGroups() : CloneGroups{};
+        if (!groups || !groups->any())
+            return;
+        showProgress(true, messageText(Msg::SavingInProgress));
+        WriteObserver observer;
+        observer.progress = [&](int gauge) {
+            setGauge(gauge);
+            flush();
+        };
+        cloneWrite(*m_link, m_s.image, *groups, observer);
+        showProgress(false);
+        display();
+    });
+}
+
+void EditorModel::SpeedButton4Click()
+{
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        display();
+        const QString identification = m_s.text(QStringLiteral("EIdent")).trimmed();
+        if (identification.isEmpty()) {
+            m_s.tell(messageText(Msg::IdentificationMustBeFilled));
+            return;
+        }
+        ValidatorTables *tables = m_services ? m_services->tables() : nullptr;
+        if (!tables) {
+            m_s.tell(messageText(Msg::TablesUnavailable));
+            return;
+        }
+        tables->storeValidator(m_s.image, identification,
+                               m_s.text(QStringLiteral("EDescription")).trimmed());
+    });
+}
+
+void EditorModel::stopExchange()
+{
+    if (m_link && m_link->linkGood())
+        m_test.stop();
+}
+
+void EditorModel::BitBtn1Click()
+{
+    exclusive([&] {
+        stopExchange();
+        EHFUBMIN0Exit();
+    });
+    if (closeRequested)
+        closeRequested();
+}
+
+bool EditorModel::FormCloseQuery()
+{
+    bool close = true;
+    exclusive([&] {
+        stopExchange();
+        EHFUBMIN0Exit();
+        if (!m_s.flags.configModified || !m_s.prompt)
+            return;
+        switch (m_s.prompt->ask(messageText(Msg::SaveOnValidator), UserPrompt::Kind::Confirmation,
+                                UserPrompt::Buttons::YesNoCancel)) {
+        case UserPrompt::Answer::Yes:
+            SpeedButton8Click();
+            break;
+        case UserPrompt::Answer::Cancel:
+            close = false;
+            break;
+        default:
+            break;
+        }
+    });
+    return close;
+}
+
+void EditorModel::BtnOpenFileClick()
+{
+    exclusive([&] {
+        const QString path = m_services ? m_services->openConfigFileName() : QString();
+        if (path.isEmpty())
+            return;
+        ConfigImage image = ConfigImage::blank();
+        QString error;
+        if (!loadConfigFile(path, image, &error)) {
+            // A malformed file names its bad key and changes nothing.
+            if (m_s.prompt)
+                m_s.prompt->tell(error, UserPrompt::Kind::Error);
+            return;
+        }
+        // The validator does not hold what the file holds: closing offers to write it.
+        loadImage(image, true);
+    });
+}
+
+void EditorModel::BtnSaveFileClick()
+{
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        const QString suggested = QStringLiteral("validator-%1.json").arg(m_s.image.serialNumber());
+        const QString path = m_services ? m_services->saveConfigFileName(suggested) : QString();
+        if (path.isEmpty())
+            return;
+        QString error;
+        if (!saveConfigFile(path, m_s.image, &error) && m_s.prompt)
+            m_s.prompt->tell(error, UserPrompt::Kind::Error);
+    });
+}
+
+void EditorModel::BtnInitClick()
+{
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        ConfigImage image = m_s.image;
+        if (!m_services || !m_services->initialise(image))
+            return;
+        m_s.image = image;
+        // The next full write gives the validator the serial number typed in the dialog.
+        m_s.flags.serialOverride = true;
+        m_s.flags.configModified = true;
+        display();
+    });
+}
+
+void EditorModel::BtnOutputClick()
+{
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        ConfigImage image = m_s.image;
+        if (!m_services || !m_services->chooseOutput(image))
+            return;
+        if (image.options != m_s.image.options)
+            m_s.flags.configModified = true;
+        m_s.image = image;
+        display();
+    });
+}
+
+void EditorModel::tick()
+{
+    if (m_busy || !m_link)
+        return;
+    exclusive([&] { m_test.tick(m_services); });
+}

@@ -1,0 +1,412 @@
+#include "EditorModel.h"
+
+#include "Backups.h"
+#include "Captions.h"
+#include "ConfigFile.h"
+#include "EditorServices.h"
+#include "Messages.h"
+#include "ReadSequence.h"
+#include "TMonnayeur.h"
+#include "UserPrompt.h"
+#include "WriteSequence.h"
+
+namespace {
+
+struct Button
+{
+    const char *name;
+    Cap caption;
+    bool needsLink;
+};
+
+// The editor's buttons, in the order of its tool bar.
+constexpr Button kButtons[] = {
+    {"SpeedButton1", Cap::ReadValidator, true},
+    {"SpeedButton8", Cap::WriteValidator, true},
+    {"SpeedButton2", Cap::Clone, true},
+    {"SpeedButton4", Cap::StoreInTables, false},
+    {"BtnOpenFile", Cap::OpenFile, false},
+    {"BtnSaveFile", Cap::SaveFile, false},
+    {"BtnInit", Cap::Initialise, false},
+    {"BtnOutput", Cap::Output, false},
+    {"BitBtn1", Cap::Close, false},
+};
+
+QString kindName(ControlKind kind)
+{
+    switch (kind) {
+    case ControlKind::Edit:
+        return QStringLiteral("an edit box");
+    case ControlKind::Check:
+        return QStringLiteral("a check box");
+    case ControlKind::Radio:
+        return QStringLiteral("a radio group");
+    case ControlKind::Button:
+        return QStringLiteral("a button");
+    default:
+        return QStringLiteral("not a control one can use");
+    }
+}
+
+// Boxes whose text is not part of the image: typing into them changes nothing else.
+bool isTableBox(const QString &name)
+{
+    return name == QLatin1String("EIdent") || name == QLatin1String("EDescription");
+}
+
+} // namespace
+
+EditorModel::EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeur *link)
+    : m_services(services), m_link(link), m_grid(m_s), m_identity(m_s), m_money(m_s),
+      m_options(m_s), m_counters(m_s), m_test(m_s)
+{
+    m_s.prompt = prompt;
+    ControlSet &c = m_s.controls;
+    c.add(QStringLiteral("TFormData"), ControlKind::Label);
+    for (const Button &button : kButtons) {
+        c.add(QLatin1String(button.name), ControlKind::Button);
+        c.setEnabled(QLatin1String(button.name), !button.needsLink || link);
+    }
+    c.add(QStringLiteral("Gauge1"), ControlKind::Gauge);
+    c.add(QStringLiteral("Label3"), ControlKind::Label);
+    c.setVisible(QStringLiteral("Gauge1"), false);
+    c.setVisible(QStringLiteral("Label3"), false);
+
+    m_identity.addControls();
+    m_test.addControls();
+    m_test.setLink(link);
+    m_grid.addControls();
+    m_money.addControls();
+    m_options.addControls();
+    m_counters.addControls();
+    // The pages appear as they are filled.
+    for (int page = 1; page <= ChannelGridModel::kPages; ++page)
+        c.setVisible(QStringLiteral("Tableau%1").arg(page), false);
+    retranslate();
+    c.takeChanged();
+}
+
+void EditorModel::retranslate()
+{
+    ControlSet &c = m_s.controls;
+    c.setText(QStringLiteral("TFormData"), captionText(Cap::FormTitle));
+    for (const Button &button : kButtons) {
+        c.setText(QLatin1String(button.name), captionText(button.caption));
+        c.setToolTip(QLatin1String(button.name), captionText(button.caption));
+        c.setAccessibleName(QLatin1String(button.name), captionText(button.caption));
+    }
+    m_identity.retranslate();
+    m_test.retranslate();
+    m_grid.retranslate();
+    m_money.retranslate();
+    m_options.retranslate();
+    m_counters.retranslate();
+    display();
+    flush();
+}
+
+void EditorModel::flush()
+{
+    if (!m_s.controls.hasChanges())
+        return;
+    const QStringList names = m_s.controls.takeChanged();
+    if (changed)
+        changed(names);
+}
+
+void EditorModel::exclusive(const std::function<void()> &work)
+{
+    const bool wasBusy = m_busy;
+    m_busy = true;
+    work();
+    m_busy = wasBusy;
+    flush();
+}
+
+// ---- display ------------------------------------------------------------------------------
+
+void EditorModel::display()
+{
+    m_s.flags.filling = true;
+    m_identity.display();
+    m_test.showGate(m_identity.gates().testValue);
+    m_grid.display();
+    m_options.display(m_identity.gates());
+    m_money.display();
+    m_counters.display();
+    m_s.flags.filling = false;
+}
+
+void EditorModel::showModel(bool light)
+{
+    m_grid.showModel(light);
+    m_money.showModel(light);
+    m_options.showModel(light);
+}
+
+void EditorModel::showPagesOfImage()
+{
+    const int pages = (m_s.image.channelCount() + 9) / 10;
+    for (int page = 1; page <= pages; ++page)
+        m_grid.showPage(page);
+}
+
+void EditorModel::loadImage(const ConfigImage &image, bool modified)
+{
+    m_s.image = image;
+    showModel(image.isLight());
+    showPagesOfImage();
+    display();
+    m_s.flags.editChanged = false;
+    m_s.flags.configModified = modified;
+    flush();
+}
+
+void EditorModel::setGauge(int value)
+{
+    m_s.controls.setValue(QStringLiteral("Gauge1"), std::min(value, 100));
+}
+
+void EditorModel::showProgress(bool shown, const QString &label)
+{
+    ControlSet &c = m_s.controls;
+    if (shown) {
+        c.setText(QStringLiteral("Label3"), label);
+        c.setValue(QStringLiteral("Gauge1"), 0);
+    }
+    c.setVisible(QStringLiteral("Gauge1"), shown);
+    c.setVisible(QStringLiteral("Label3"), shown);
+    flush();
+    if (repaintNow)
+        repaintNow();
+}
+
+void EditorModel::FormActivate()
+{
+    if (m_s.flags.readOnOpen) {
+        m_s.flags.openingRead = true;
+        SpeedButton1Click();
+        m_s.flags.openingRead = false;
+        m_s.flags.promptFlag = false;
+        m_s.flags.configModified = false;
+        if (m_s.flags.readFailed)
+            return;
+    }
+    display();
+    flush();
+}
+
+// ---- reading ------------------------------------------------------------------------------
+
+void EditorModel::SpeedButton1Click()
+{
+    if (!m_link)
+        return;
+    exclusive([&] {
+        m_s.flags.readFailed = false;
+        bool shown = false;
+        ReadObserver observer;
+        observer.progress = [&](int gauge) {
+            if (!shown) {
+                shown = true;
+                showProgress(true, messageText(Msg::ValidatorReadingInProgress));
+            }
+            setGauge(gauge);
+            flush();
+        };
+        observer.familyKnown = [&](bool light) {
+            showModel(light);
+            flush();
+        };
+        observer.pageReached = [&](int page) {
+            m_grid.showPage(page);
+            flush();
+            if (repaintNow)
+                repaintNow();
+        };
+        const ReadOutcome outcome =
+            readValidator(*m_link, m_s.image, m_s.flags.promptFlag, observer);
+        showProgress(false);
+        if (outcome != ReadOutcome::Done) {
+            // Nothing partial is shown: the editor closes.
+            m_s.flags.readFailed = true;
+            if (closeRequested)
+                closeRequested();
+            return;
+        }
+        m_s.flags.readOnOpen = false;
+        m_s.flags.editChanged = false;
+        display();
+        m_s.flags.promptFlag = true;
+        m_s.flags.configModified = false;
+        keepBackup();
+    });
+}
+
+void EditorModel::keepBackup()
+{
+    const QString dir = m_services ? m_services->backupDirectory() : QString();
+    if (dir.isEmpty())
+        return;
+    QString error;
+    if (::keepBackup(dir, m_s.image, QDateTime::currentDateTime(), &error).isEmpty() && m_s.prompt)
+        m_s.prompt->tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
+}
+
+// ---- editing ------------------------------------------------------------------------------
+
+void EditorModel::EHFUBMIN0Change()
+{
+    m_s.flags.editChanged = true;
+    m_s.flags.configModified = true;
+}
+
+void EditorModel::EHFUBMIN0Exit()
+{
+    if (!m_s.flags.editChanged)
+        return;
+    // The value boxes show amounts of the bases they were displayed with.
+    const DecimalWord base1 = m_s.base(0);
+    const DecimalWord base2 = m_s.base(30);
+    m_identity.store();
+    QStringList notNumbers = m_money.store();
+    notNumbers += m_grid.store(base1, base2);
+    // Cleared after the copy, so that a later exit without a change leaves the image alone.
+    m_s.flags.editChanged = false;
+    if (!notNumbers.isEmpty() && m_s.prompt)
+        m_s.prompt->tell(messageText(Msg::ValueBetween0And255), UserPrompt::Kind::Error);
+    display();
+    flush();
+}
+
+bool EditorModel::canAct(const Control &control, QString *error) const
+{
+    auto fail = [&](const QString &why) {
+        if (error)
+            *error = control.name + QLatin1Char(' ') + why;
+        return false;
+    };
+    for (const Control *c = &control; c;
+         c = c->parent.isEmpty() ? nullptr : m_s.controls.find(c->parent)) {
+        if (!c->state.visible)
+            return fail(QStringLiteral("is hidden"));
+        if (!c->state.enabled)
+            return fail(QStringLiteral("is disabled"));
+    }
+    return true;
+}
+
+bool EditorModel::type(const QString &name, const QString &text, QString *error)
+{
+    const Control *control = m_s.controls.find(name);
+    if (!control) {
+        if (error)
+            *error = QStringLiteral("no control ") + name;
+        return false;
+    }
+    if (control->kind != ControlKind::Edit || control->state.readOnly) {
+        if (error)
+            *error = name + QStringLiteral(" takes no typing: it is ") +
+                     (control->kind == ControlKind::Edit ? QStringLiteral("read-only")
+                                                         : kindName(control->kind));
+        return false;
+    }
+    if (!canAct(*control, error))
+        return false;
+    m_s.controls.setText(name, text);
+    if (!isTableBox(name))
+        EHFUBMIN0Change();
+    m_s.controls.takeChanged(); // the box already shows what was typed
+    return true;
+}
+
+bool EditorModel::leave(const QString &name, QString *error)
+{
+    const Control *control = m_s.controls.find(name);
+    if (!control) {
+        if (error)
+            *error = QStringLiteral("no control ") + name;
+        return false;
+    }
+    if (control->kind != ControlKind::Edit && control->kind != ControlKind::Check) {
+        if (error)
+            *error = name + QStringLiteral(" takes no focus: it is ") + kindName(control->kind);
+        return false;
+    }
+    if (!isTableBox(name))
+        EHFUBMIN0Exit();
+    flush();
+    return true;
+}
+
+bool EditorModel::click(const QString &name, QString *error)
+{
+    const Control *control = m_s.controls.find(name);
+    if (!control) {
+        if (error)
+            *error = QStringLiteral("no control ") + name;
+        return false;
+    }
+    if (control->kind != ControlKind::Button && control->kind != ControlKind::Check) {
+        if (error)
+            *error = name + QStringLiteral(" cannot be clicked: it is ") + kindName(control->kind);
+        return false;
+    }
+    if (!canAct(*control, error))
+        return false;
+    if (ChannelGridModel::isEnableBox(name)) {
+        m_s.controls.setChecked(name, !control->state.checked);
+        EHFUBMIN0Change();
+    } else if (name == QLatin1String("SpeedButton1")) {
+        SpeedButton1Click();
+    } else if (name == QLatin1String("SpeedButton8")) {
+        SpeedButton8Click();
+    } else if (name == QLatin1String("SpeedButton2")) {
+        SpeedButton2Click();
+    } else if (name == QLatin1String("SpeedButton4")) {
+        SpeedButton4Click();
+    } else if (name == QLatin1String("BitBtn1")) {
+        BitBtn1Click();
+    } else if (name == QLatin1String("BtnOpenFile")) {
+        BtnOpenFileClick();
+    } else if (name == QLatin1String("BtnSaveFile")) {
+        BtnSaveFileClick();
+    } else if (name == QLatin1String("BtnInit")) {
+        BtnInitClick();
+    } else if (name == QLatin1String("BtnOutput")) {
+        BtnOutputClick();
+    } else if (name == QLatin1String("BtnTest")) {
+        exclusive([&] { m_test.BtnTestClick(); });
+    } else {
+        if (error)
+            *error = name + QStringLiteral(" does nothing when clicked");
+        return false;
+    }
+    flush();
+    return true;
+}
+
+bool EditorModel::pick(const QString &name, int item, QString *error)
+{
+    const Control *control = m_s.controls.find(name);
+    if (!control) {
+        if (error)
+            *error = QStringLiteral("no control ") + name;
+        return false;
+    }
+    if (control->kind != ControlKind::Radio) {
+        if (error)
+            *error = name + QStringLiteral(" has no items: it is ") + kindName(control->kind);
+        return false;
+    }
+    if (!canAct(*control, error))
+        return false;
+    if (item < 0 || item >= control->state.items.size()) {
+        if (error)
+            *error = name + QStringLiteral(" has no item %1").arg(item);
+        return false;
+    }
+    m_s.controls.setItemIndex(name, item);
+    flush();
+    return true;
+}

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "ChannelGridModel.h"
+#include "CountersModel.h"
+#include "EditorState.h"
+#include "IdentityModel.h"
+#include "MoneyModel.h"
+#include "OptionsModel.h"
+#include "SerialTestModel.h"
+
+#include <functional>
+
+class EditorServices;
+class TMonnayeur;
+class UserPrompt;
+
+// The editor TFormData without its widgets: every control by name with what it shows, the
+// editor's flags, the handlers, and the one configuration image while the editor is open. The
+// window, tarvik-cli show and edit, and the tests all drive this one model.
+class EditorModel final
+{
+public:
+    // link may be null: an editor over a file, with nothing to read or write.
+    EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeur *link = nullptr);
+    Q_DISABLE_COPY_MOVE(EditorModel)
+
+    // The controls.
+    const ControlSet &controls() const { return m_s.controls; }
+    bool has(const QString &name) const { return m_s.controls.contains(name); }
+    const ControlState &control(const QString &name) const { return m_s.controls.state(name); }
+    QStringList controlNames() const { return m_s.controls.names(); }
+
+    // What a person does. Each returns false, with the reason in *error, when the control does
+    // not exist or the action does not fit it (typing into a check box, a hidden or disabled
+    // control).
+    bool type(const QString &name, const QString &text, QString *error = nullptr);
+    bool leave(const QString &name, QString *error = nullptr);
+    bool click(const QString &name, QString *error = nullptr);
+    bool pick(const QString &name, int item, QString *error = nullptr);
+
+    // The view repaints these controls after every action.
+    std::function<void(const QStringList &changed)> changed;
+    // The view repaints at once, while a read or a write is going on.
+    std::function<void()> repaintNow;
+    // The editor closes itself (a read that failed, Close).
+    std::function<void()> closeRequested;
+
+    const ConfigImage &image() const { return m_s.image; }
+    // Takes an image from a file or a saved validator and shows it.
+    void loadImage(const ConfigImage &image, bool modified);
+    EditorFlags &flags() { return m_s.flags; }
+    const EditorFlags &flags() const { return m_s.flags; }
+    bool hasLink() const { return m_link != nullptr; }
+
+    // The handlers.
+    void FormActivate();
+    void SpeedButton1Click(); // read
+    void SpeedButton8Click(); // full write
+    void SpeedButton2Click(); // clone
+    void SpeedButton4Click(); // store in the tables
+    void BitBtn1Click();      // close
+    // Whether the editor may close; asks "Save on validator?" when the image was changed.
+    bool FormCloseQuery();
+    void EHFUBMIN0Change();
+    void EHFUBMIN0Exit();
+    void BtnOpenFileClick();
+    void BtnSaveFileClick();
+    void BtnInitClick();
+    void BtnOutputClick();
+
+    // The editor's timer, every kTimerMs: the serial test and the mini-programmer's requests.
+    // It does nothing while another exchange or a dialog uses the link.
+    void tick();
+    static constexpr int kTimerMs = 50;
+    bool testRunning() const { return m_test.running(); }
+
+    // The language changed: every caption again.
+    void retranslate();
+    // Takes the changed controls and tells the view.
+    void flush();
+
+private:
+    // Runs a handler that may use the link or open a dialog; the timer stays out meanwhile.
+    void exclusive(const std::function<void()> &work);
+    void display();
+    void showModel(bool light);
+    void showPagesOfImage();
+    void setGauge(int value);
+    void showProgress(bool shown, const QString &label = {});
+    void stopExchange();
+    bool canAct(const Control &control, QString *error) const;
+    void keepBackup();
+
+    EditorState m_s;
+    EditorServices *m_services;
+    TMonnayeur *m_link;
+    ChannelGridModel m_grid;
+    IdentityModel m_identity;
+    MoneyModel m_money;
+    OptionsModel m_options;
+    CountersModel m_counters;
+    SerialTestModel m_test;
+    bool m_busy = false;
+};

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "CloneGroups.h"
+
+#include <QString>
+#include <optional>
+
+struct ConfigImage;
+class TMonnayeur;
+
+// Where the editor keeps validators in the tables: one validator row and its channel rows per
+// identification.
+class ValidatorTables
+{
+public:
+    virtual ~ValidatorTables() = default;
+    enum class Outcome
+    {
+        Stored,
+        NotOverwritten,
+        Failed
+    };
+    // Asks "%s exist! Overwrite ?" itself when the identification is taken; says "File %s
+    // saved" when stored.
+    virtual Outcome storeValidator(const ConfigImage &image, const QString &identification,
+                                   const QString &description) = 0;
+};
+
+// What the editor asks of the world besides the link and the person's answers: the small
+// dialogs, the file dialogs and the tables. The GUI answers with its windows, the CLI with its
+// flags, the tests with canned answers.
+class EditorServices
+{
+public:
+    virtual ~EditorServices() = default;
+
+    // The cloning dialog: the groups to copy, nothing when cancelled.
+    virtual std::optional<CloneGroups> chooseCloneGroups() = 0;
+    // The warning dialog with Continue and Cancel: true for Continue.
+    virtual bool continueDespite(const QString &warning) = 0;
+    // The initialisation dialog over the image; false when cancelled.
+    virtual bool initialise(ConfigImage &image) = 0;
+    // The output dialog over the image; false when nothing was chosen.
+    virtual bool chooseOutput(ConfigImage &image) = 0;
+    // The file dialogs; empty when cancelled.
+    virtual QString openConfigFileName() = 0;
+    virtual QString saveConfigFileName(const QString &suggested) = 0;
+    // The mini-programmer asked for a firmware file (its request has been answered): the
+    // file dialog, then the transfer window.
+    virtual void firmwareRequested(TMonnayeur &link) = 0;
+    // The tables; nothing when they could not be opened.
+    virtual ValidatorTables *tables() = 0;
+    // Where every good read is kept; empty: nowhere.
+    virtual QString backupDirectory() = 0;
+};
+
+// Answers as a script would: every group, Continue, no dialogs, no files, no tables.
+class DefaultEditorServices : public EditorServices
+{
+public:
+    std::optional<CloneGroups> chooseCloneGroups() override { return CloneGroups{}; }
+    bool continueDespite(const QString &) override { return true; }
+    bool initialise(ConfigImage &) override { return false; }
+    bool chooseOutput(ConfigImage &) override { return false; }
+    QString openConfigFileName() override { return {}; }
+    QString saveConfigFileName(const QString &) override { return {}; }
+    void firmwareRequested(TMonnayeur &) override {}
+    ValidatorTables *tables() override { return nullptr; }
+    QString backupDirectory() override { return {}; }
+};

@@ -1,0 +1,48 @@
+#include "EditorState.h"
+
+#include "UserPrompt.h"
+
+void EditorState::tell(const QString &text) const
+{
+    if (prompt)
+        prompt->tell(text, UserPrompt::Kind::Information);
+}
+
+DecimalWord EditorState::base(int channel) const
+{
+    const int at = channel < 30 ? Val::Base1 : Val::Base2;
+    return FormatDecimalWord({image.values[std::size_t(at)], image.values[std::size_t(at + 1)]});
+}
+
+QDate EditorState::firmwareDate() const
+{
+    const quint16 word = quint16(image.version[1] << 8 | image.version[2]);
+    if (word == 0 || word == 0xFFFF)
+        return {};
+    return DecodeDate16({image.version[1], image.version[2]});
+}
+
+int EditorState::outputType() const
+{
+    // The low three bits of the second byte give the type; the types 4, 6 and 7 share the code
+    // 0 and differ in bits 4 and 5 of the first byte.
+    switch (image.options[1] & 0x07) {
+    case 7:
+        return 0;
+    case 3:
+        return 1;
+    case 1:
+        return 2;
+    case 2:
+        return 3;
+    default:
+        switch (image.options[0] & 0x30) {
+        case 0x20:
+            return 6;
+        case 0x10:
+            return 7;
+        default:
+            return 4;
+        }
+    }
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "ConfigImage.h"
+#include "ControlSet.h"
+#include "Encodings.h"
+
+#include <QDate>
+
+class UserPrompt;
+
+// The editor's flags.
+struct EditorFlags
+{
+    bool editChanged = false;    // EditChanged: a box changed since it was entered
+    bool configModified = false; // ConfigModified: the image differs from what was read or saved
+    bool readOnOpen = false;     // the editor was opened with the request to read
+    bool openingRead = false;
+    bool readFailed = false;
+    bool promptFlag = false;     // a failed connect asks "Connect validator "
+    bool serialOverride = false; // the next full write writes the image's serial number
+    bool filling = false;        // the form is being refilled from the image
+};
+
+// What every group of the editor works on: the controls, the image, the flags and the person.
+struct EditorState
+{
+    ControlSet controls;
+    ConfigImage image = ConfigImage::blank();
+    EditorFlags flags;
+    UserPrompt *prompt = nullptr;
+
+    void tell(const QString &text) const;
+    QString text(const QString &name) const { return controls.state(name).text; }
+    bool checked(const QString &name) const { return controls.state(name).checked; }
+
+    // The credit bases of the channel values: base 1 for channels 1 to 30, base 2 above.
+    DecimalWord base(int channel) const;
+    // The firmware date of the version bytes 1-2; invalid when there is none.
+    QDate firmwareDate() const;
+    // The output type, the low three bits of the option word's second byte as the radio
+    // group's item.
+    int outputType() const;
+};
+
+// Names of the controls that have one per channel: prefix + channel index.
+inline QString channelControl(const char *prefix, int k)
+{
+    return QLatin1String(prefix) + QString::number(k);
+}

@@ -1,0 +1,132 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// The fixed texts of the editor's controls: captions, column headers, radio items, button
+// hints. Like the messages, the English text is the key that Qt Linguist translates (context
+// "Captions") and is kept exactly as the program has always shown it.
+enum class Cap
+{
+    FormTitle,
+    Page1,
+    Page2,
+    Page3,
+    Page4,
+    Page5,
+    Page6,
+    // channel columns, in the order of the row
+    ColHfuLowMin,
+    ColHfuLowMax,
+    ColHfuHighMin,
+    ColHfuHighMax,
+    ColDimMin,
+    ColDimMax,
+    ColLfMin,
+    ColLfMax,
+    ColHflLowMin,
+    ColHflLowMax,
+    ColHflHighMin,
+    ColHflHighMax,
+    ColHflAmpMin,
+    ColHflAmpMax,
+    ColEnable,
+    ColValue,
+    ColSub,
+    ChannelNumber, // "Channel %d "
+    // identification
+    GroupIdent,
+    SerialNumber,
+    Version,
+    FirmwareDate,
+    ProgrammingDate,
+    ProductionDate,
+    Identification,
+    Description,
+    // buttons
+    ReadValidator,
+    WriteValidator,
+    Clone,
+    StoreInTables,
+    Close,
+    OpenFile,
+    SaveFile,
+    Initialise,
+    Output,
+    // test value
+    TestValue,
+    TestStart,
+    TestStop,
+    TestChannel,
+    TestAmount,
+    // money
+    Prices,
+    ValueP1,
+    ValueP2,
+    ValueP3,
+    ValueP4,
+    ValueP5,
+    ValueP6,
+    BaseValue,
+    Base1,
+    Base2,
+    Ratio,
+    Code,
+    CodeOk,
+    CodeBad,
+    // type and options
+    Type,
+    Type0,
+    Type1,
+    Type2,
+    Type3,
+    Type4,
+    Type5,
+    Type6,
+    Type7,
+    Outlet,
+    VendingAntiJam,
+    Vending,
+    GameFast,
+    Game,
+    Options,
+    OptionBits,
+    Separator,
+    NormalOutput,
+    InvertedOutput,
+    DisplayOff,
+    BinaryOutput,
+    StandbyMode,
+    Confida,
+    DipInhibition,
+    Dip42,
+    DowCounting,
+    MultiPulse,
+    JamInhibition,
+    ResetHigh,
+    TogglingCounting,
+    Price1Limit,
+    Price2Limit,
+    TimeInMinutes,
+    Limit,
+    ExtCounterSignal,
+    ExtStart,
+    ExternalReset,
+    Rest,
+    // counters
+    CashCounters,
+    Counter1,
+    Counter2,
+    Actived,
+    Desactived,
+    Off,
+    Erasable,
+    VendLimit1,
+    VendLimit2,
+    Count_
+};
+
+// The translated text, with its %d place holders filled in order from args.
+QString captionText(Cap id, const QStringList &args = {});
+// The untranslated English text.
+const char *captionSource(Cap id);
