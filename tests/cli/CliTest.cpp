@@ -5,8 +5,11 @@
 #include "SimProcess.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -38,6 +41,8 @@ protected:
         if (!QCoreApplication::instance())
             new QCoreApplication(argc, argv);
     }
+    // Backups of reads and the tables go to this test's own directory.
+    void SetUp() override { qputenv("TARVIK_DB", dir.path().toLocal8Bit()); }
     QTemporaryDir dir;
 };
 
@@ -69,6 +74,65 @@ TEST_F(Cli, ReadsTheVirtualValidatorInProcess)
     const InProcess toStdout = cli({"--simulate", "read"});
     EXPECT_EQ(toStdout.code, kExitOk);
     EXPECT_TRUE(toStdout.out.contains("\"format\": \"tarvik-config\""));
+}
+
+TEST_F(Cli, EveryReadIsKeptAndAWriteOfAnotherFamilySendsNothing)
+{
+    const QString file = dir.filePath("v.json");
+    ASSERT_EQ(cli({"--simulate", "read", "-o", file}).code, kExitOk);
+    EXPECT_EQ(QDir(dir.filePath("backups")).entryList(QDir::Files).size(), 1);
+
+    const QString trace = dir.filePath("trace.txt");
+    const InProcess light = cli({"--sim-family", "0x33", "--trace", trace, "write", file});
+    EXPECT_EQ(light.code, kExitFailed);
+    EXPECT_TRUE(light.err.contains("The file holds a 5.3 validator but a Light validator is "
+                                   "connected: nothing was written."));
+    QFile sent(trace);
+    ASSERT_TRUE(sent.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(sent.readAll().contains("cmd    3")) << "no channel was written";
+    // --force sends it anyway: the Light validator then refuses channels 26 to 60.
+    cli({"--sim-family", "0x33", "--trace", trace, "write", file, "--force"});
+    QFile forced(trace);
+    ASSERT_TRUE(forced.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(forced.readAll().contains("cmd    3"));
+}
+
+TEST_F(Cli, ShowAndEditDriveTheEditorOverAFile)
+{
+    const QString file = dir.filePath("v.json");
+    ASSERT_EQ(cli({"--simulate", "read", "-o", file}).code, kExitOk);
+
+    const InProcess shown = cli({"show", file, "EHFUBMIN40", "Enable0", "GroupType"});
+    ASSERT_EQ(shown.code, kExitOk) << qPrintable(shown.err);
+    const QJsonObject o = QJsonDocument::fromJson(shown.out.toUtf8()).object();
+    EXPECT_EQ(o.keys(), (QStringList{"EHFUBMIN40", "Enable0", "GroupType"}));
+    EXPECT_EQ(o["EHFUBMIN40"].toObject()["text"].toString(), QString());
+    EXPECT_TRUE(o["Enable0"].toObject()["checked"].toBool());
+    EXPECT_EQ(o["GroupType"].toObject()["itemIndex"].toInt(), 0);
+
+    const QString out = dir.filePath("w.json");
+    const InProcess edited =
+        cli({"edit", file, "-o", out, "EHFUBMIN5=300", "Enable0", "ELFMAX2=abc", "ESerial=77"});
+    ASSERT_EQ(edited.code, kExitOk) << qPrintable(edited.err);
+    EXPECT_TRUE(edited.err.contains("Value must be between 0 and 255"));
+    ConfigImage image;
+    QString error;
+    ASSERT_TRUE(loadConfigFile(out, image, &error)) << qPrintable(error);
+    EXPECT_EQ(image.channels[5][3], 44);
+    EXPECT_EQ(image.channels[2][4], 255);
+    EXPECT_FALSE(image.enableBit(0));
+    EXPECT_EQ(image.serialNumber(), 77u);
+
+    EXPECT_EQ(cli({"edit", file, "NoSuchBox=1"}).code, kExitUsage);
+    EXPECT_EQ(cli({"edit", file, "Enable0=1"}).code, kExitUsage);
+    EXPECT_EQ(cli({"edit", file, "GroupType#x"}).code, kExitUsage);
+    EXPECT_EQ(cli({"show", file, "NoSuchBox"}).code, kExitUsage);
+
+    // Close after a change asks; the answer writes to the validator named on the command line.
+    const InProcess closed =
+        cli({"--simulate", "edit", "--answer", "yes", file, "EHFUBMIN6=12", "BitBtn1"});
+    EXPECT_TRUE(closed.err.contains("Save on validator? -> yes"));
+    EXPECT_TRUE(closed.err.contains("Finished operation!"));
 }
 
 TEST_F(Cli, BadFilesFailBeforeAnythingIsSent)
