@@ -240,6 +240,26 @@ TEST_F(Cli, ReadWriteReadBackBetweenTwoValidators)
     EXPECT_NE(reread.ident[0], 0xFF); // programmed today, no longer "By Mini-Pgm"
 }
 
+TEST_F(Cli, EditorEditsAndWritesAValidatorOverAPseudoTerminal)
+{
+    SimProcess sim({"--family", "0x23", "--serial", "2002"});
+    const QString file = dir.filePath("v.json");
+    const QString back = dir.filePath("back.json");
+    ASSERT_EQ(runTarvikCli({"--device", sim.path(), "read", "-o", file}).exitCode, 0);
+    const CliRun edit =
+        runTarvikCli({"--device", sim.path(), "edit", file, "-o", dir.filePath("edited.json"),
+                      "EHFUBMIN5=300", "Enable1", "SpeedButton8"});
+    ASSERT_EQ(edit.exitCode, 0) << qPrintable(edit.err);
+    EXPECT_TRUE(edit.err.contains("Finished operation!"));
+    ASSERT_EQ(runTarvikCli({"--device", sim.path(), "read", "-o", back}).exitCode, 0);
+    ConfigImage reread;
+    QString error;
+    ASSERT_TRUE(loadConfigFile(back, reread, &error));
+    EXPECT_EQ(reread.channels[5][3], 44);
+    EXPECT_FALSE(reread.enableBit(1));
+    EXPECT_EQ(reread.enable[0] & 0xF0, 0xF0);
+}
+
 TEST_F(Cli, DeviceThatStopsAnsweringFailsQuicklyAndWritesNoFile)
 {
     SimProcess sim({"--family", "0x13", "--silent-after", "20"});
