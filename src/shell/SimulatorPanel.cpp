@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -29,9 +30,11 @@ SimulatorPanel::SimulatorPanel(VirtualValidator *device, QWidget *parent)
       m_coinBox(named(new QComboBox(this), "CoinBox")),
       m_insertBtn(named(new QPushButton(this), "InsertBtn")),
       m_queueLabel(named(new QLabel(this), "QueueLabel")),
+      m_testModeLabel(named(new QLabel(this), "TestModeLabel")),
       m_doorBox(named(new QCheckBox(this), "DoorBox")),
       m_cableBox(named(new QCheckBox(this), "CableBox")),
-      m_miniPgmBox(named(new QCheckBox(this), "MiniPgmBox"))
+      m_miniPgmBox(named(new QCheckBox(this), "MiniPgmBox")),
+      m_firmwareRequestBtn(named(new QPushButton(this), "FirmwareRequestBtn"))
 {
     setObjectName(QStringLiteral("SimulatorPanel"));
     for (quint8 family : kFamilies)
@@ -56,12 +59,14 @@ SimulatorPanel::SimulatorPanel(VirtualValidator *device, QWidget *parent)
     coins->addWidget(m_coinBox, 0, 0);
     coins->addWidget(m_insertBtn, 0, 1);
     coins->addWidget(m_queueLabel, 1, 0, 1, 2);
+    coins->addWidget(m_testModeLabel, 2, 0, 1, 2);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_validatorGroup);
     layout->addWidget(m_coinGroup);
     layout->addWidget(m_doorBox);
     layout->addWidget(m_cableBox);
     layout->addWidget(m_miniPgmBox);
+    layout->addWidget(m_firmwareRequestBtn);
 
     connect(m_fitBtn, &QPushButton::clicked, this, &SimulatorPanel::fitValidator);
     connect(m_insertBtn, &QPushButton::clicked, this, &SimulatorPanel::insertCoin);
@@ -71,7 +76,9 @@ SimulatorPanel::SimulatorPanel(VirtualValidator *device, QWidget *parent)
             [this](bool plugged) { m_device->setConnected(plugged); });
     connect(m_miniPgmBox, &QCheckBox::toggled, this,
             [this](bool on) { m_device->setMiniProgrammer(on); });
-    // The host takes coins out of the queue as it polls.
+    connect(m_firmwareRequestBtn, &QPushButton::clicked, this, &SimulatorPanel::requestFirmware);
+    // The host takes coins out of the queue as it polls, and its commands switch test mode and
+    // the mini-programmer.
     m_refresh.setInterval(250);
     connect(&m_refresh, &QTimer::timeout, this, &SimulatorPanel::refresh);
     m_refresh.start();
@@ -90,6 +97,10 @@ void SimulatorPanel::retranslateUi()
     m_doorBox->setText(tr("Door open"));
     m_cableBox->setText(tr("Cable plugged in"));
     m_miniPgmBox->setText(tr("Mini-programmer (firmware upgrade)"));
+    m_firmwareRequestBtn->setText(tr("Ask for firmware (code 11)"));
+    m_firmwareRequestBtn->setAccessibleName(m_firmwareRequestBtn->text());
+    m_testModeLabel->setText(tr("Test mode"));
+    m_testModeLabel->setAccessibleName(m_testModeLabel->text());
     refresh();
 }
 
@@ -113,7 +124,20 @@ void SimulatorPanel::insertCoin()
     refresh();
 }
 
+void SimulatorPanel::requestFirmware()
+{
+    m_device->requestFirmware();
+    refresh();
+}
+
 void SimulatorPanel::refresh()
 {
     m_queueLabel->setText(tr("Coins waiting : %1").arg(m_device->queuedCoins()));
+    m_testModeLabel->setVisible(m_device->testMode());
+    // The host's answer to a firmware request switches the mini-programmer on by itself; the
+    // box follows without starting a new collection.
+    if (m_miniPgmBox->isChecked() != m_device->miniProgrammer()) {
+        const QSignalBlocker blocker(m_miniPgmBox);
+        m_miniPgmBox->setChecked(m_device->miniProgrammer());
+    }
 }

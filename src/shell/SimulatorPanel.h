@@ -12,7 +12,7 @@ class QSpinBox;
 class VirtualValidator;
 
 // The bench around the virtual validator: fit a validator of a family, insert coins, open the
-// door, pull the cable, switch to the mini-programmer.
+// door, pull the cable, switch to the mini-programmer or have it ask for firmware.
 class SimulatorPanel final : public QWidget
 {
     Q_OBJECT
@@ -24,6 +24,8 @@ public:
     // A factory-fresh validator of the chosen family and serial number.
     void fitValidator();
     void insertCoin();
+    // The mini-programmer asks the host for a firmware file (request code 11).
+    void requestFirmware();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -43,8 +45,10 @@ private:
     QComboBox *m_coinBox;
     QPushButton *m_insertBtn;
     QLabel *m_queueLabel;
+    QLabel *m_testModeLabel;
     QCheckBox *m_doorBox;
     QCheckBox *m_cableBox;
     QCheckBox *m_miniPgmBox;
+    QPushButton *m_firmwareRequestBtn;
     QTimer m_refresh;
 };

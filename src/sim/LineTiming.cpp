@@ -12,21 +12,29 @@ LineTiming::Clock::time_point LineTiming::hostByteArrives(Clock::time_point sent
 
 void LineTiming::schedule(Clock::time_point heard, const QList<DeviceOutput> &outputs)
 {
-    for (const DeviceOutput &output : outputs) {
-        Clock::time_point at = heard + m_latency + std::chrono::milliseconds(output.delayMs);
-        // One wire: a byte never overtakes the bytes sent before it.
-        if (!m_pending.empty())
-            at = std::max(at, m_pending.back().readyAt);
+    for (const DeviceOutput &output : outputs)
+        put(heard + m_latency + std::chrono::milliseconds(output.delayMs), output.bytes);
+}
+
+void LineTiming::scheduleUnasked(Clock::time_point sent, const QByteArray &bytes)
+{
+    put(sent, bytes);
+}
+
+void LineTiming::put(Clock::time_point at, const QByteArray &bytes)
+{
+    // One wire: a byte never overtakes the bytes sent before it.
+    if (!m_pending.empty())
+        at = std::max(at, m_pending.back().readyAt);
+    if (m_pacing)
+        at = std::max(at, m_deviceLineFree);
+    for (const char b : bytes) {
         if (m_pacing)
-            at = std::max(at, m_deviceLineFree);
-        for (const char b : output.bytes) {
-            if (m_pacing)
-                at += kByteTime;
-            m_pending.push_back({at, b});
-        }
-        if (m_pacing)
-            m_deviceLineFree = at;
+            at += kByteTime;
+        m_pending.push_back({at, b});
     }
+    if (m_pacing)
+        m_deviceLineFree = at;
 }
 
 QByteArray LineTiming::take(Clock::time_point now, int max)

@@ -26,6 +26,9 @@ public:
     Clock::time_point hostByteArrives(Clock::time_point sent);
     // Puts the device's answers to a byte heard at `heard` on the line.
     void schedule(Clock::time_point heard, const QList<DeviceOutput> &outputs);
+    // Puts bytes the device sent unasked on the line, readable from `sent` on: there is no
+    // turn-around, but they still queue behind what is on the line and keep its pace.
+    void scheduleUnasked(Clock::time_point sent, const QByteArray &bytes);
 
     // Removes and returns up to max bytes that are readable at `now`.
     QByteArray take(Clock::time_point now, int max);
@@ -36,6 +39,8 @@ public:
     void clear() { m_pending.clear(); }
 
 private:
+    void put(Clock::time_point at, const QByteArray &bytes);
+
     struct PendingByte
     {
         Clock::time_point readyAt;

@@ -10,6 +10,7 @@
 #include <termios.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 // How often the loop looks at the stop flag while nothing happens.
@@ -75,10 +76,15 @@ void PtyServer::serve(const volatile std::sig_atomic_t *stop)
 {
     char buffer[512];
     while (!*stop) {
+        runDueActions();
+        collectUnsolicited();
         sendDue();
+        const auto now = LineTiming::Clock::now();
         auto wait = std::chrono::duration_cast<std::chrono::nanoseconds>(kIdleWait);
         if (const auto next = m_timing->readyTime(1))
-            wait = std::min(wait, *next - LineTiming::Clock::now());
+            wait = std::min(wait, *next - now);
+        for (const TimedAction &timed : m_actions)
+            wait = std::min(wait, timed.due - now);
         pollfd fd{m_master, POLLIN, 0};
         const timespec timeout = toTimespec(wait);
         const int ready = ::ppoll(&fd, 1, &timeout, nullptr);
@@ -105,8 +111,42 @@ void PtyServer::serve(const volatile std::sig_atomic_t *stop)
     }
 }
 
+void PtyServer::runAfter(std::chrono::milliseconds after, std::function<void()> action)
+{
+    m_actions.push_back({LineTiming::Clock::now() + after, std::move(action)});
+}
+
+void PtyServer::runDueActions()
+{
+    const auto now = LineTiming::Clock::now();
+    std::vector<TimedAction> due;
+    for (auto it = m_actions.begin(); it != m_actions.end();) {
+        if (it->due <= now) {
+            due.push_back(std::move(*it));
+            it = m_actions.erase(it);
+        } else {
+            ++it;
+        }
+    }
+    for (const TimedAction &timed : due)
+        timed.action();
+}
+
+void PtyServer::collectUnsolicited()
+{
+    if (!m_device->hasUnsolicited())
+        return;
+    const QByteArray bytes = m_device->takeUnsolicited();
+    if (m_verbose) {
+        for (const char b : bytes)
+            std::fprintf(stderr, "tarvik-sim: unasked byte %d\n", quint8(b));
+    }
+    m_timing->scheduleUnasked(LineTiming::Clock::now(), bytes);
+}
+
 void PtyServer::hostBytes(const char *bytes, int n)
 {
+    collectUnsolicited(); // what the device said before it heard these goes first
     const auto now = LineTiming::Clock::now();
     for (int i = 0; i < n; ++i) {
         const auto heard = m_timing->hostByteArrives(now);

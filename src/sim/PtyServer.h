@@ -4,6 +4,8 @@
 
 #include <QString>
 #include <csignal>
+#include <functional>
+#include <vector>
 
 class VirtualValidator;
 
@@ -24,10 +26,23 @@ public:
     // Prints each exchange to stderr.
     void setVerbose(bool on) { m_verbose = on; }
 
-    // Serves until *stop becomes non-zero (set from a signal handler).
+    // Runs `action` on the serving loop once `after` has passed, such as a request the device
+    // makes unasked. Call before serve().
+    void runAfter(std::chrono::milliseconds after, std::function<void()> action);
+
+    // Serves until *stop becomes non-zero (set from a signal handler). Bytes the device sends
+    // unasked go out as soon as they are made, whether the host is sending or not.
     void serve(const volatile std::sig_atomic_t *stop);
 
 private:
+    struct TimedAction
+    {
+        LineTiming::Clock::time_point due;
+        std::function<void()> action;
+    };
+
+    void runDueActions();
+    void collectUnsolicited();
     void hostBytes(const char *bytes, int n);
     void sendDue();
     void report();
@@ -40,4 +55,5 @@ private:
     bool m_verbose = false;
     int m_printedExchanges = 0;
     int m_reportedBlocks = 0;
+    std::vector<TimedAction> m_actions;
 };

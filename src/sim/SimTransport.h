@@ -7,7 +7,8 @@ class VirtualValidator;
 
 // An in-process port to a virtual validator that keeps real time: each read waits at most the
 // per-read time-out plus 2 ms per requested byte, as the serial port does, and returns what has
-// arrived by then (a partial read consumes its bytes).
+// arrived by then (a partial read consumes its bytes). Bytes the device sent unasked are on the
+// line by the next read, write or purge, so a read with no time-out still finds them.
 class SimTransport final : public Transport
 {
 public:
@@ -21,13 +22,17 @@ public:
     // 9600 baud pacing, one byte every 1.0417 ms, in both directions.
     void setPacing(bool on) { m_timing.setPacing(on); }
 
-    // Opens the port again after close().
-    void open() { m_open = true; }
+    // Opens the port again after close(); what the device sent meanwhile is lost.
+    void open()
+    {
+        purge();
+        m_open = true;
+    }
 
     bool isOpen() const override { return m_open; }
     qint64 write(const QByteArray &bytes) override;
     QByteArray read(int count) override;
-    void purge() override { m_timing.clear(); }
+    void purge() override;
     void close() override;
     int readTimeout() const override { return m_readTimeout; }
     void setReadTimeout(int ms) override { m_readTimeout = ms; }
@@ -37,6 +42,8 @@ public:
     static constexpr int kPerByteAllowanceMs = 2;
 
 private:
+    void collectUnsolicited();
+
     VirtualValidator *m_device;
     LineTiming m_timing;
     bool m_open = true;

@@ -5,6 +5,7 @@
 #include <QDate>
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -82,6 +83,7 @@ void VirtualValidator::setMemory(const ConfigImage &memory)
 {
     m_memory = memory;
     m_sensorOffset = calibrationOffset(memory.serialNumber());
+    m_testMode = false;
 }
 
 int VirtualValidator::calibrationOffset(quint32 serial)
@@ -92,7 +94,14 @@ int VirtualValidator::calibrationOffset(quint32 serial)
 ConfigImage VirtualValidator::factoryImage(quint8 familyByte, quint32 serial)
 {
     ConfigImage image = ConfigImage::blank();
-    image.version = {familyByte, 0x20, quint8(0x10 + serial % 16)};
+    // Firmware of spring 2002: the editor shows its date-gated controls only for firmware
+    // strictly later than 2 Jan, 26 Mar, 14 May and 2 Jun 2002. The default serial 1001 has the
+    // newest, which shows them all; the others sit exactly on a threshold. All are before
+    // August, so the first date byte is the same for every serial and clones still match.
+    const std::array<QDate, 4> firmwareDates = {QDate(2002, 1, 2), QDate(2002, 7, 1),
+                                                QDate(2002, 3, 26), QDate(2002, 5, 14)};
+    const Word2 firmware = EncodeDate16(firmwareDates[serial % firmwareDates.size()]);
+    image.version = {familyByte, firmware[0], firmware[1]};
 
     // Programmed at the factory through the mini-programmer (255, 0); made on a day in
     // 2003-2004 that follows from the serial.
@@ -150,9 +159,53 @@ ConfigImage VirtualValidator::factoryImage(quint8 familyByte, quint32 serial)
     return image;
 }
 
+void VirtualValidator::queueCoin(const SampleBytes &sample)
+{
+    if (!m_testMode) {
+        m_coins.push_back(sample);
+        return;
+    }
+    // A coin no channel accepts is returned and says nothing.
+    if (const int channel = acceptingChannel(sample); channel > 0)
+        sendUnasked(quint8(channel));
+}
+
 void VirtualValidator::insertCoin(CoinKind kind)
 {
     queueCoin(m_coinGenerator.sample(kind, m_sensorOffset));
+}
+
+int VirtualValidator::acceptingChannel(const SampleBytes &sample) const
+{
+    // Family 0 does not measure the amplitude: its records hold no amplitude window and its
+    // samples no amplitude reading, so only the first six windows decide.
+    const std::size_t windows = m_memory.longForm() ? kWindowBytes.size() : kWindowBytes.size() - 1;
+    for (int k = 0; k < m_memory.channelCount(); ++k) {
+        if (!m_memory.enableBit(k)) // the bitmap of command 22, not the record's copy
+            continue;
+        const ChannelRecord &record = m_memory.channels[std::size_t(k)];
+        bool holds = true;
+        for (std::size_t m = 0; m < windows && holds; ++m) {
+            const quint8 max = record[std::size_t(kWindowBytes[m].first)];
+            const quint8 min = record[std::size_t(kWindowBytes[m].second)];
+            // A window with 255 at either end is not set and holds nothing.
+            holds = min != 0xFF && max != 0xFF && min <= sample[m] && sample[m] <= max;
+        }
+        if (holds)
+            return k + 1;
+    }
+    return 0;
+}
+
+QByteArray VirtualValidator::takeUnsolicited()
+{
+    return std::exchange(m_unsolicited, {});
+}
+
+void VirtualValidator::sendUnasked(quint8 byte)
+{
+    if (m_connected && !m_silenced)
+        m_unsolicited.append(char(byte));
 }
 
 void VirtualValidator::setDoorOpen(bool open)
@@ -218,6 +271,14 @@ void VirtualValidator::setMiniProgrammer(bool on)
     m_data.clear();
 }
 
+void VirtualValidator::requestFirmware()
+{
+    if (!m_connected || m_silenced)
+        return; // nobody hears the request
+    sendUnasked(kFirmwareRequest);
+    m_firmwareRequested = true;
+}
+
 QList<DeviceOutput> VirtualValidator::receive(const QByteArray &bytes)
 {
     QList<DeviceOutput> out;
@@ -230,6 +291,16 @@ void VirtualValidator::hear(quint8 byte, QList<DeviceOutput> &out)
 {
     if (!m_connected || m_silenced)
         return;
+    // The byte after request code 11 is the host's answer when it is 0, and not command 0.
+    // Anything else means the host did not hear the request: it lapses, and the byte is heard
+    // as usual.
+    if (m_firmwareRequested && !m_awaitingData) {
+        m_firmwareRequested = false;
+        if (byte == 0) {
+            setMiniProgrammer(true);
+            return;
+        }
+    }
     if (m_miniProgrammer) {
         hearFirmware(byte, out);
         return;
@@ -295,6 +366,10 @@ void VirtualValidator::finishExchange(QList<DeviceOutput> &out)
 {
     m_awaitingData = false;
     const quint8 command = m_command;
+    if (command == Cmd::Execute24)
+        m_testMode = true;
+    else if (command == Cmd::Execute29)
+        m_testMode = false;
     switch (command) {
     case Cmd::WriteChannel:
     case Cmd::ReadChannel:

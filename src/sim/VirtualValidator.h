@@ -35,6 +35,9 @@ struct SimExchange
 // channel index past the model's channel count (25 on the Light model) or a value slice past 4
 // is refused with status 1 on a write and read back as a record of 255s. Unknown commands, and
 // command 0 while no coin is waiting, get no answer at all.
+//
+// A few bytes are sent unasked: the channel number of each coin accepted in test mode, and the
+// mini-programmer's request for firmware. They wait in an outbox that the line takes them from.
 class VirtualValidator final
 {
 public:
@@ -56,6 +59,7 @@ public:
 
     const ConfigImage &memory() const { return m_memory; }
     ConfigImage &memory() { return m_memory; }
+    // Another validator in the same place: it starts out of test mode.
     void setMemory(const ConfigImage &memory);
 
     // Every exchange answered since the last clear, in order.
@@ -64,13 +68,24 @@ public:
     // True while the device waits for the data block of the exchange logged last.
     bool exchangeInProgress() const { return m_awaitingData; }
 
-    // Coins waiting to be measured; command 0 stays silent while none is queued.
-    void queueCoin(const SampleBytes &sample) { m_coins.push_back(sample); }
+    // Coins waiting to be measured; command 0 stays silent while none is queued. In test mode
+    // the coin is not queued: the number of the channel that accepts it is sent unasked.
+    void queueCoin(const SampleBytes &sample);
     // Queues one insertion of a preset coin, read by this validator's own sensors.
     void insertCoin(CoinKind kind);
     void setCoinSeed(quint32 seed) { m_coinGenerator.reseed(seed); }
     int queuedCoins() const { return int(m_coins.size()); }
     void clearCoins() { m_coins.clear(); }
+
+    // Test mode, from command 24 to command 29: each accepted coin sends its channel number.
+    bool testMode() const { return m_testMode; }
+    // The number (1-based) of the first enabled channel whose seven windows all hold the
+    // sample; 0 when none does.
+    int acceptingChannel(const SampleBytes &sample) const;
+
+    // Bytes sent unasked since the last call, in the order they were sent.
+    QByteArray takeUnsolicited();
+    bool hasUnsolicited() const { return !m_unsolicited.isEmpty(); }
 
     // The door shows in the second half of the status word (command 9): 00 01 while open.
     void setDoorOpen(bool open);
@@ -105,6 +120,12 @@ public:
     static constexpr int kFirmwareBlock = 64;
     // Turning the mode on starts a new collection.
     void setMiniProgrammer(bool on);
+    // The mini-programmer asks for a firmware file with request code 11. If the next byte it
+    // hears is the host's answer, 0, it switches to mini-programmer mode, ready for the
+    // transfer; any other byte ends the request unanswered.
+    static constexpr quint8 kFirmwareRequest = 11;
+    void requestFirmware();
+    bool firmwareRequested() const { return m_firmwareRequested; }
     bool miniProgrammer() const { return m_miniProgrammer; }
     void setFirmwareAck(FirmwareAck ack) { m_firmwareAck = ack; }
     // After block n (1-based) answer 55 AA and then 55 A5, and stop collecting (0: never).
@@ -121,6 +142,7 @@ private:
     };
 
     void hear(quint8 byte, QList<DeviceOutput> &out);
+    void sendUnasked(quint8 byte);
     void hearFirmware(quint8 byte, QList<DeviceOutput> &out);
     void startExchange(quint8 command, QList<DeviceOutput> &out);
     void finishExchange(QList<DeviceOutput> &out);
@@ -149,7 +171,11 @@ private:
     int m_answeredSinceSilence = 0;
     bool m_silenced = false;
 
+    bool m_testMode = false;
+    QByteArray m_unsolicited;
+
     bool m_miniProgrammer = false;
+    bool m_firmwareRequested = false;
     FirmwareAck m_firmwareAck = FirmwareAck::NotAccepted;
     int m_stopAfterBlock = 0;
     bool m_firmwareStopped = false;

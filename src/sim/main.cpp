@@ -118,10 +118,15 @@ int main(int argc, char *argv[])
     const QCommandLineOption silentAfter({QStringLiteral("silent-after")},
                                          QStringLiteral("Go silent after N exchanges."),
                                          QStringLiteral("n"));
+    const QCommandLineOption requestFirmware(
+        {QStringLiteral("request-firmware-after")},
+        QStringLiteral("Ask for a firmware file (request code 11) MS milliseconds after start."),
+        QStringLiteral("ms"));
     const QCommandLineOption quiet({QStringLiteral("quiet")},
                                    QStringLiteral("Do not print exchanges to stderr."));
     parser.addOptions({family, serial, load, save, pace, latency, doorOpen, mini, stopAfter,
-                       silentAck, firmwareOut, wrongEcho, refuse, delay, silentAfter, quiet});
+                       silentAck, firmwareOut, wrongEcho, refuse, delay, silentAfter,
+                       requestFirmware, quiet});
     parser.process(app);
 
     const auto familyByte = number(parser.value(family), 0xFF);
@@ -133,6 +138,12 @@ int main(int argc, char *argv[])
     const auto latencyMs = number(parser.value(latency), 10000);
     if (!latencyMs)
         return fail(QStringLiteral("--latency needs milliseconds from 0 to 10000"));
+    std::optional<quint32> requestAfterMs;
+    if (parser.isSet(requestFirmware)) {
+        requestAfterMs = number(parser.value(requestFirmware), 3600000);
+        if (!requestAfterMs)
+            return fail(QStringLiteral("--request-firmware-after needs milliseconds"));
+    }
 
     VirtualValidator device(quint8(*familyByte), *serialNumber);
     if (parser.isSet(load)) {
@@ -189,6 +200,9 @@ int main(int argc, char *argv[])
     QString error;
     if (!server.open(&error))
         return fail(QStringLiteral("cannot open a pseudo-terminal: %1").arg(error));
+    if (requestAfterMs)
+        server.runAfter(std::chrono::milliseconds(*requestAfterMs),
+                        [&device] { device.requestFirmware(); });
 
     installStopHandlers();
     std::printf("%s\n", qPrintable(server.slavePath()));

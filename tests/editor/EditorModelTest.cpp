@@ -32,6 +32,8 @@ class TestServices final : public DefaultEditorServices
 {
 public:
     ValidatorTables *tables() override { return &fakeTables; }
+    void firmwareRequested(TMonnayeur &) override { ++firmwareRequests; }
+    int firmwareRequests = 0;
     QString backupDirectory() override { return backups; }
     FakeTables fakeTables;
     QString backups;
@@ -338,4 +340,34 @@ TEST(EditorWriting, StoringNeedsAnIdentification)
     e.model->SpeedButton4Click();
     EXPECT_EQ(e.services.fakeTables.stored, QStringList{"SHOP-12|Bar"});
     EXPECT_EQ(e.services.fakeTables.lastSerial, 4242u); // the form was copied first
+}
+
+TEST(EditorTimer, SerialTestShowsEachAcceptedCoinUntilTheEditorCloses)
+{
+    Editor e;
+    e.open();
+    ASSERT_TRUE(e.model->click("BtnTest"));
+    EXPECT_TRUE(e.device->testMode());
+    EXPECT_EQ(e.text("BtnTest"), QStringLiteral("Stop"));
+    e.device->insertCoin(CoinKind::Euro050); // channel 4, worth 10 x 0.05
+    e.model->tick();
+    EXPECT_EQ(e.text("LTestChannelValue"), QStringLiteral("4"));
+    EXPECT_EQ(e.text("LTestAmountValue"), QStringLiteral("0.50"));
+    // A coin that arrives while the test is off is no request of the mini-programmer.
+    e.model->BitBtn1Click();
+    EXPECT_FALSE(e.device->testMode());
+    EXPECT_EQ(e.closes, 1);
+    EXPECT_EQ(e.text("BtnTest"), QStringLiteral("Start"));
+}
+
+TEST(EditorTimer, TheMiniProgrammersRequestIsAnsweredAndOpensTheFirmwareTransfer)
+{
+    Editor e;
+    e.open();
+    e.model->tick(); // nothing waiting: nothing happens
+    EXPECT_EQ(e.services.firmwareRequests, 0);
+    e.device->requestFirmware();
+    e.model->tick();
+    EXPECT_EQ(e.services.firmwareRequests, 1);
+    EXPECT_TRUE(e.device->miniProgrammer()); // it heard the answer
 }

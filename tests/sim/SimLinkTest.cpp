@@ -1,6 +1,7 @@
 // The link object against the virtual validator: every command of the protocol for the four
 // families, and each injected fault giving exactly the program's message.
 
+#include "FirmwareTransfer.h"
 #include "RecordingPrompt.h"
 #include "SimTransport.h"
 #include "TMonnayeur.h"
@@ -211,6 +212,61 @@ TEST(SimLinkTest, SampleIsSilentWithoutACoinAndDoorShowsInStatus)
 
     b.device.setDoorOpen(true);
     EXPECT_EQ(readHex(b.link, Cmd::ReadStatus), "00000001");
+}
+
+TEST(SimLinkTest, TestModeSendsTheAcceptingChannelUnasked)
+{
+    for (quint8 family : {0x03, 0x13}) { // family 0 has no amplitude window to match
+        Bench b{family};
+        ASSERT_TRUE(b.link.ExecuteCommand(Cmd::Execute24));
+        EXPECT_TRUE(b.device.testMode());
+        b.transport.setReadTimeout(0); // the byte is already waiting
+        b.device.insertCoin(CoinKind::Euro020);
+        EXPECT_EQ(b.transport.read(1).toHex(), "03") << int(family);
+        // The reference channel holds the token but is not enabled; no channel holds a blank.
+        b.device.insertCoin(CoinKind::ReferenceToken);
+        b.device.queueCoin({0, 0, 0, 0, 0, 0, 0});
+        b.transport.setReadTimeout(SimTransport::kDefaultReadTimeoutMs);
+        EXPECT_TRUE(b.transport.read(1).isEmpty());
+        EXPECT_EQ(b.device.queuedCoins(), 0);
+
+        ASSERT_TRUE(b.link.ExecuteCommand(Cmd::Execute29));
+        EXPECT_FALSE(b.device.testMode());
+        b.device.insertCoin(CoinKind::Euro020);
+        EXPECT_TRUE(b.transport.read(1).isEmpty());
+        SampleBytes sample{};
+        EXPECT_TRUE(b.link.ReadSample(1, family != 0x03, sample));
+    }
+}
+
+TEST(SimLinkTest, FirmwareRequestIsAnsweredByOneZeroAndTheTransferFollows)
+{
+    Bench b;
+    // A host that starts an exchange instead has not heard the request: it lapses, and the
+    // channel index 0 is not taken for the answer.
+    b.device.requestFirmware();
+    ChannelBytes record{};
+    ASSERT_TRUE(b.link.ReadChannel(0, true, record));
+    EXPECT_FALSE(b.device.firmwareRequested());
+    EXPECT_FALSE(b.device.miniProgrammer());
+
+    b.transport.setReadTimeout(0);
+    EXPECT_TRUE(b.transport.read(1).isEmpty()); // the exchange's purge dropped it
+    b.device.requestFirmware();
+    EXPECT_EQ(b.transport.read(1).toHex(), "0b");
+    b.transport.setReadTimeout(SimTransport::kDefaultReadTimeoutMs);
+    b.device.queueCoin({10, 20, 30, 40, 50, 60, 70}); // a command 0 would be answered
+    b.device.clearExchangeLog();
+    b.transport.write(QByteArray(1, '\0'));
+    EXPECT_TRUE(b.transport.read(1).isEmpty());
+    EXPECT_TRUE(b.device.exchangeLog().isEmpty());
+    EXPECT_TRUE(b.device.miniProgrammer());
+    EXPECT_FALSE(b.device.firmwareRequested());
+
+    const QByteArray firmware = QByteArray("S00600004844521B\r\n").repeated(9);
+    FirmwareTransfer transfer(&b.transport);
+    EXPECT_EQ(transfer.FormTransfert(firmware), FirmwareTransfer::Result::UpgradeOver);
+    EXPECT_EQ(b.device.firmwareBytes(), firmware);
 }
 
 TEST(SimLinkTest, PacedLineCarriesWholeRecords)

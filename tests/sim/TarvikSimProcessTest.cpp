@@ -10,24 +10,39 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-TEST(TarvikSimProcessTest, ServesTheProtocolOverAPseudoTerminal)
+namespace {
+
+// Starts tarvik-sim and returns the port it serves, empty when it did not say.
+QString startSim(QProcess &sim, const QStringList &arguments)
+{
+    sim.start(QStringLiteral(TARVIK_SIM_PATH), arguments + QStringList{QStringLiteral("--quiet")});
+    if (!sim.waitForStarted(5000))
+        return {};
+    while (!sim.canReadLine() && sim.waitForReadyRead(5000)) {
+    }
+    return QString::fromLocal8Bit(sim.readLine()).trimmed();
+}
+
+struct App
 {
     int argc = 1;
-    char name[] = "sim_tests";
-    char *argv[] = {name, nullptr};
-    QCoreApplication app(argc, argv);
+    char name[10] = "sim_tests";
+    char *argv[2] = {name, nullptr};
+    QCoreApplication app{argc, argv};
+};
 
+} // namespace
+
+TEST(TarvikSimProcessTest, ServesTheProtocolOverAPseudoTerminal)
+{
+    App app;
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
     const QString saved = dir.filePath(QStringLiteral("memory.json"));
     QProcess sim;
-    sim.start(QStringLiteral(TARVIK_SIM_PATH),
-              {QStringLiteral("--family"), QStringLiteral("0x03"), QStringLiteral("--serial"),
-               QStringLiteral("77"), QStringLiteral("--save"), saved, QStringLiteral("--quiet")});
-    ASSERT_TRUE(sim.waitForStarted(5000));
-    while (!sim.canReadLine() && sim.waitForReadyRead(5000)) {
-    }
-    const QString path = QString::fromLocal8Bit(sim.readLine()).trimmed();
+    const QString path = startSim(sim, {QStringLiteral("--family"), QStringLiteral("0x03"),
+                                        QStringLiteral("--serial"), QStringLiteral("77"),
+                                        QStringLiteral("--save"), saved});
     ASSERT_TRUE(path.startsWith(QStringLiteral("/dev/"))) << qPrintable(path);
 
     RecordingPrompt prompt;
@@ -56,4 +71,23 @@ TEST(TarvikSimProcessTest, ServesTheProtocolOverAPseudoTerminal)
     QString error;
     ASSERT_TRUE(loadConfigFile(saved, image, &error)) << qPrintable(error);
     EXPECT_EQ(image.serialNumber(), 43u);
+}
+
+TEST(TarvikSimProcessTest, FirmwareRequestReachesAnIdleHost)
+{
+    App app;
+    QProcess sim;
+    const QString path =
+        startSim(sim, {QStringLiteral("--request-firmware-after"), QStringLiteral("1500")});
+    ASSERT_TRUE(path.startsWith(QStringLiteral("/dev/"))) << qPrintable(path);
+    SerialTransport port;
+    ASSERT_TRUE(port.open(path)) << qPrintable(port.errorString());
+    port.setReadTimeout(5000);
+    EXPECT_EQ(port.read(1).toHex(), "0b");
+    port.write(QByteArray(1, '\0'));
+    port.write(QByteArray(64, 'S')); // one firmware block
+    EXPECT_EQ(port.read(2).toHex(), "5500");
+    port.close();
+    sim.terminate();
+    ASSERT_TRUE(sim.waitForFinished(5000));
 }

@@ -53,6 +53,18 @@ TEST(VirtualValidatorTest, FactoryImagesAreProgrammedAndDistinct)
     EXPECT_NE(VirtualValidator::factoryImage(0x13, 1), VirtualValidator::factoryImage(0x23, 1));
 }
 
+TEST(VirtualValidatorTest, FirmwareDateFollowsTheSerial)
+{
+    // Packed dates of 2 Jan, 1 Jul, 26 Mar and 14 May 2002, after the family byte.
+    const char *expected[] = {"132c22", "132ce1", "132c7a", "132cae"};
+    for (quint32 serial : {1000u, 1001u, 1002u, 1003u, 1004u}) {
+        const VersionBlock v = VirtualValidator::factoryImage(0x13, serial).version;
+        EXPECT_EQ(QByteArray(reinterpret_cast<const char *>(v.data()), 3).toHex(),
+                  expected[serial % 4])
+            << serial;
+    }
+}
+
 TEST(VirtualValidatorTest, InsertedCoinsFallInTheirFactoryChannel)
 {
     for (quint8 family : {0x03, 0x33}) {
