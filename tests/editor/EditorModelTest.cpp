@@ -1,6 +1,7 @@
 // The editor model: display, channel editing, writing and closing, against the in-process
 // virtual validator.
 #include "EditorModel.h"
+#include "ConfigFile.h"
 #include "EditorServices.h"
 #include "Encodings.h"
 #include "RecordingPrompt.h"
@@ -8,6 +9,7 @@
 #include "VirtualValidator.h"
 
 #include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <memory>
@@ -33,6 +35,9 @@ class TestServices final : public DefaultEditorServices
 public:
     ValidatorTables *tables() override { return &fakeTables; }
     void firmwareRequested(TMonnayeur &) override { ++firmwareRequests; }
+    QString openConfigFileName() override { return openPath; }
+    QString saveConfigFileName(const QString &) override { return savePath; }
+    QString openPath, savePath;
     int firmwareRequests = 0;
     QString backupDirectory() override { return backups; }
     FakeTables fakeTables;
@@ -370,4 +375,32 @@ TEST(EditorTimer, TheMiniProgrammersRequestIsAnsweredAndOpensTheFirmwareTransfer
     e.model->tick();
     EXPECT_EQ(e.services.firmwareRequests, 1);
     EXPECT_TRUE(e.device->miniProgrammer()); // it heard the answer
+}
+
+TEST(EditorFiles, ASavedFileOpensAgainAndAMalformedOneChangesNothing)
+{
+    Editor e;
+    e.open();
+    e.edit("EHFUBMIN2", "99");
+    e.services.savePath = e.backupDir.filePath("saved.json");
+    e.model->BtnSaveFileClick();
+    const ConfigImage saved = e.image();
+
+    QFile bad(e.backupDir.filePath("bad.json"));
+    ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
+    bad.write(QByteArray(configToJson(saved)).replace("\"prices\"", "\"pricez\""));
+    bad.close();
+    e.edit("EHFUBMIN2", "11");
+    const ConfigImage edited = e.image();
+    e.services.openPath = bad.fileName();
+    e.model->BtnOpenFileClick();
+    ASSERT_EQ(e.prompt.told().size(), 1);
+    EXPECT_TRUE(e.prompt.told().first().contains(QLatin1String("prices")));
+    EXPECT_EQ(e.image(), edited);
+
+    e.services.openPath = e.services.savePath;
+    e.model->BtnOpenFileClick();
+    EXPECT_EQ(e.image().channels[2][Rec::HfuLowMin], 99);
+    EXPECT_EQ(e.text("EHFUBMIN2"), QStringLiteral(" 99"));
+    EXPECT_TRUE(e.model->flags().configModified);
 }
