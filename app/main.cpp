@@ -2,7 +2,6 @@
 #include "ConsolePrompt.h"
 #include "DataDirectory.h"
 #include "DevicePortOpener.h"
-#include "EditorStandIn.h"
 #include "EffectSoundPlayer.h"
 #include "Languages.h"
 #include "MessageBoxPrompt.h"
@@ -11,6 +10,7 @@
 #include "SimulatorPanel.h"
 #include "TCommunication.h"
 #include "TDBModule.h"
+#include "TFormData.h"
 #include "TFormMain.h"
 #include "VirtualValidator.h"
 
@@ -20,24 +20,14 @@
 
 namespace {
 
-// The stand-in editor, closed by itself once its read has ended (unattended runs); with a
-// file name it first grabs the windows into it.
-void showEditorUnattended(ValidatorLink &link, QWidget *mainWindow, QWidget *panel,
-                          const QString &screenshot)
+// Unattended runs close the editor by themselves once its opening read has ended; with a file
+// name they first grab the windows into it.
+void closeUnattended(TFormData &editor, QWidget *mainWindow, QWidget *panel,
+                     const QString &screenshot)
 {
-    if (!link.monnayeur())
-        return;
-    EditorStandIn editor(*link.monnayeur(), link.comPortNumber(), mainWindow);
-    editor.setWindowModality(Qt::WindowModal);
-    QObject::connect(
-        &editor, &EditorStandIn::readFinished, &editor,
-        [&] {
-            if (!screenshot.isEmpty() && !saveScreenshot({mainWindow, &editor, panel}, screenshot))
-                std::fprintf(stderr, "tarvik: cannot write %s\n", qPrintable(screenshot));
-            editor.accept();
-        },
-        Qt::QueuedConnection);
-    editor.exec();
+    if (!screenshot.isEmpty() && !saveScreenshot({mainWindow, &editor, panel}, screenshot))
+        std::fprintf(stderr, "tarvik: cannot write %s\n", qPrintable(screenshot));
+    editor.close();
 }
 
 } // namespace
@@ -82,19 +72,27 @@ int main(int argc, char *argv[])
     context.languages = &languages;
     context.sounds = &sounds;
     context.prompt = &prompt;
-    context.createDataModule = [&prompt]() -> std::shared_ptr<void> {
+    // The editor stores validators in the tables of the data module; the main window frees the
+    // module on Exit, after the last editor has closed.
+    TDBModule *dataModule = nullptr;
+    context.createDataModule = [&prompt, &dataModule]() -> std::shared_ptr<void> {
         // Tables that cannot be opened have been reported; the program goes on without them.
         auto module = std::make_shared<TDBModule>();
         module->open(DataDirectory::resolve(), &prompt);
+        dataModule = module.get();
         return module;
     };
     context.linkSource =
         options.useVirtualValidator() ? static_cast<LinkSource *>(&simulated) : &probing;
-    if (options.unattended()) {
-        context.showEditor = [&](ValidatorLink &link, QWidget *mainWindow) {
-            showEditorUnattended(link, mainWindow, panel.get(), options.screenshot);
-        };
-    }
+    context.showEditor = [&](ValidatorLink &link, QWidget *mainWindow) {
+        std::function<void(TFormData &)> afterOpeningRead;
+        if (options.unattended()) {
+            afterOpeningRead = [&](TFormData &editor) {
+                closeUnattended(editor, mainWindow, panel.get(), options.screenshot);
+            };
+        }
+        TFormData::showModal(link, mainWindow, prompt, dataModule, afterOpeningRead);
+    };
 
     TFormMain window(context);
     QObject::connect(&window, &TFormMain::formClosed, &app, &QCoreApplication::quit,

@@ -21,7 +21,7 @@ struct ShellContext
     UserPrompt *prompt = nullptr;
     // Creates the data module for the run (it opens the tables); freed by Exit.
     std::function<std::shared_ptr<void>()> createDataModule;
-    // Creates the editor on the open link and shows it modally over the main window (none:
-    // the stand-in editor).
+    // Creates the editor on the open link and shows it modally over the main window (none: no
+    // editor).
     std::function<void(ValidatorLink &link, QWidget *mainWindow)> showEditor;
 };

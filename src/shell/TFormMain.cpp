@@ -1,6 +1,5 @@
 #include "TFormMain.h"
 
-#include "EditorStandIn.h"
 #include "Encodings.h"
 #include "Languages.h"
 #include "Messages.h"
@@ -226,8 +225,6 @@ void TFormMain::showEditor()
 {
     if (m_context.showEditor)
         m_context.showEditor(m_link, this);
-    else
-        EditorStandIn::showModal(m_link, this);
 }
 
 void TFormMain::BitBtn2Click()

@@ -1,4 +1,5 @@
-#include "EditorStandIn.h"
+#include "EditorModel.h"
+#include "EditorServices.h"
 #include "Languages.h"
 #include "MessageBoxPrompt.h"
 #include "Messages.h"
@@ -7,6 +8,7 @@
 #include "ShellTestSupport.h"
 #include "SimulatorPanel.h"
 #include "TCommunication.h"
+#include "TFormData.h"
 #include "TFormMain.h"
 #include "TTarvikFormInit.h"
 #include "ValidatorLink.h"
@@ -50,8 +52,10 @@ struct Start
         // The editor reads the validator and is closed again.
         context.showEditor = [this](ValidatorLink &link, QWidget *main) {
             ++editorsShown;
-            EditorStandIn editor(*link.monnayeur(), link.comPortNumber(), main);
-            editor.readNow();
+            DefaultEditorServices services;
+            TFormData editor(prompt, services, link.monnayeur(), main);
+            editor.model().flags().readOnOpen = true;
+            editor.model().FormActivate();
             lastFamily = editor.findChild<QLabel *>(QStringLiteral("LVERSIONH"))->text();
         };
         window = std::make_unique<TFormMain>(context);
@@ -323,7 +327,7 @@ private Q_SLOTS:
         int queued = -1;
         QString family;
         whenModal("TFormData", [&](QWidget *editor) {
-            QTRY_VERIFY(static_cast<EditorStandIn *>(editor)->readDone());
+            QTRY_VERIFY(static_cast<TFormData *>(editor)->hasOpened());
             // Modal over the main window only: the bench panel stays usable.
             QCOMPARE(editor->windowModality(), Qt::WindowModal);
             family = editor->findChild<QLabel *>(QStringLiteral("LVERSIONH"))->text();
@@ -331,10 +335,10 @@ private Q_SLOTS:
             QTest::mouseClick(panel.findChild<QPushButton *>(QStringLiteral("InsertBtn")),
                               Qt::LeftButton);
             queued = device.queuedCoins();
-            QTest::mouseClick(editor->findChild<QPushButton *>(QStringLiteral("CloseBtn")),
+            QTest::mouseClick(editor->findChild<QPushButton *>(QStringLiteral("BitBtn1")),
                               Qt::LeftButton);
         });
-        EditorStandIn::showModal(link, &main);
+        TFormData::showModal(link, &main, m_boxes);
         QCOMPARE(family, QStringLiteral("5.3"));
         QCOMPARE(queued, 1);
 

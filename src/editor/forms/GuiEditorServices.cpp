@@ -1,0 +1,127 @@
+#include "GuiEditorServices.h"
+
+#include "Captions.h"
+#include "FileDialog.h"
+#include "Messages.h"
+#include "TCloningChk.h"
+#include "TConnectForm.h"
+#include "TDBModule.h"
+#include "TFormAvertissementDif.h"
+#include "TFormCondotto.h"
+#include "TMajFirmware.h"
+#include "TMonnayeur.h"
+#include "TTarvikFormInit.h"
+#include "UserPrompt.h"
+#include "ValidatorStoreTables.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+
+namespace {
+
+std::optional<QString> g_nextSaveName;
+
+const QString kConfigFilter = QStringLiteral("*.json");
+
+} // namespace
+
+GuiEditorServices::GuiEditorServices(UserPrompt &prompt, TDBModule *db) : m_prompt(prompt), m_db(db)
+{}
+
+GuiEditorServices::~GuiEditorServices() = default;
+
+void GuiEditorServices::setNextSaveFileName(const QString &fileName)
+{
+    g_nextSaveName = fileName;
+}
+
+// The dialogs below free themselves when closed; their answers come back through the
+// references they were given.
+
+std::optional<CloneGroups> GuiEditorServices::chooseCloneGroups()
+{
+    CloneGroups groups;
+    if ((new TCloningChk(groups, m_window))->exec() != QDialog::Accepted)
+        return std::nullopt;
+    return groups;
+}
+
+bool GuiEditorServices::continueDespite(const QString &warning)
+{
+    int answer = 1;
+    (new TFormAvertissementDif(warning, answer, m_window))->exec();
+    return answer == 0;
+}
+
+bool GuiEditorServices::initialise(ConfigImage &image)
+{
+    bool cancelled = false;
+    const int result = (new TTarvikFormInit(image, cancelled, m_window))->exec();
+    return result == QDialog::Accepted && !cancelled;
+}
+
+bool GuiEditorServices::chooseOutput(ConfigImage &image)
+{
+    return (new TFormCondotto(image, m_window))->exec() == QDialog::Accepted;
+}
+
+QString GuiEditorServices::openConfigFileName()
+{
+    return FileDialog::getOpenFileName(m_window, captionText(Cap::OpenFile), kConfigFilter,
+                                       QStringLiteral("json"));
+}
+
+QString GuiEditorServices::saveConfigFileName(const QString &suggested)
+{
+    if (g_nextSaveName) {
+        const QString name = *g_nextSaveName;
+        g_nextSaveName.reset();
+        return name;
+    }
+    QFileDialog dialog(m_window, captionText(Cap::SaveFile), QString(), kConfigFilter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("json"));
+    dialog.selectFile(suggested);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return dialog.selectedFiles().constFirst();
+}
+
+void GuiEditorServices::firmwareRequested(TMonnayeur &link)
+{
+    // The mini-programmer waits for its file; the reminder stays up while the file is chosen.
+    QPointer<TConnectForm> reminder = new TConnectForm(m_window);
+    reminder->show();
+    const QString fileName = FileDialog::getOpenFileName(
+        m_window, QCoreApplication::translate("TMajFirmware", "Firmware upgrade"),
+        TMajFirmware::fileFilter(), QStringLiteral("S19"), QStringLiteral("*.s19"));
+    if (reminder)
+        reminder->close();
+    if (fileName.isEmpty())
+        return;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        m_prompt.tell(messageText(Msg::FileNotReadable, {fileName}), UserPrompt::Kind::Error);
+        return;
+    }
+    TMajFirmware transfer(link.transport(), file.readAll(), m_window);
+    transfer.exec();
+}
+
+ValidatorTables *GuiEditorServices::tables()
+{
+    if (!m_db)
+        return nullptr;
+    if (!m_tables)
+        m_tables = std::make_unique<ValidatorStoreTables>(*m_db, m_prompt);
+    return m_tables.get();
+}
+
+QString GuiEditorServices::backupDirectory()
+{
+    if (!m_db || m_db->dataDirectory().isEmpty())
+        return {};
+    return QDir(m_db->dataDirectory()).filePath(QStringLiteral("backups"));
+}

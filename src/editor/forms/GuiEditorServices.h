@@ -1,0 +1,45 @@
+#pragma once
+
+#include "EditorServices.h"
+
+#include <QPointer>
+#include <QWidget>
+#include <memory>
+
+class TDBModule;
+class UserPrompt;
+class ValidatorStoreTables;
+
+// What the editor asks of the world, answered with the program's windows: the small dialogs,
+// the file dialogs, the firmware window and the tables of the data module.
+class GuiEditorServices final : public EditorServices
+{
+public:
+    // db may be null: no tables and no backups.
+    GuiEditorServices(UserPrompt &prompt, TDBModule *db);
+    ~GuiEditorServices() override;
+    Q_DISABLE_COPY_MOVE(GuiEditorServices)
+
+    // The window the dialogs open over.
+    void setWindow(QWidget *window) { m_window = window; }
+
+    // The next save dialog returns this name without showing (an empty name: cancelled); the
+    // open dialogs are answered through FileDialog.
+    static void setNextSaveFileName(const QString &fileName);
+
+    std::optional<CloneGroups> chooseCloneGroups() override;
+    bool continueDespite(const QString &warning) override;
+    bool initialise(ConfigImage &image) override;
+    bool chooseOutput(ConfigImage &image) override;
+    QString openConfigFileName() override;
+    QString saveConfigFileName(const QString &suggested) override;
+    void firmwareRequested(TMonnayeur &link) override;
+    ValidatorTables *tables() override;
+    QString backupDirectory() override;
+
+private:
+    UserPrompt &m_prompt;
+    TDBModule *m_db;
+    QPointer<QWidget> m_window;
+    std::unique_ptr<ValidatorStoreTables> m_tables;
+};
