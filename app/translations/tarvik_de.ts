@@ -437,29 +437,6 @@
     </message>
 </context>
 <context>
-    <name>EditorStandIn</name>
-    <message>
-        <source>Validator</source>
-        <translation>Münzprüfer</translation>
-    </message>
-    <message>
-        <source>Port :</source>
-        <translation>Anschluss :</translation>
-    </message>
-    <message>
-        <source>Firmware family :</source>
-        <translation>Firmware-Familie :</translation>
-    </message>
-    <message>
-        <source>Serial number :</source>
-        <translation>Seriennummer :</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Schließen</translation>
-    </message>
-</context>
-<context>
     <name>Messages</name>
     <message>
         <source>Internal or Comunication Error</source>

@@ -437,29 +437,6 @@
     </message>
 </context>
 <context>
-    <name>EditorStandIn</name>
-    <message>
-        <source>Validator</source>
-        <translation>Validator</translation>
-    </message>
-    <message>
-        <source>Port :</source>
-        <translation>Port:</translation>
-    </message>
-    <message>
-        <source>Firmware family :</source>
-        <translation>Firmware family:</translation>
-    </message>
-    <message>
-        <source>Serial number :</source>
-        <translation>Serial number:</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Close</translation>
-    </message>
-</context>
-<context>
     <name>Messages</name>
     <message>
         <source>Internal or Comunication Error</source>

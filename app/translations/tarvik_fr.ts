@@ -437,29 +437,6 @@
     </message>
 </context>
 <context>
-    <name>EditorStandIn</name>
-    <message>
-        <source>Validator</source>
-        <translation>Monnayeur</translation>
-    </message>
-    <message>
-        <source>Port :</source>
-        <translation>Port :</translation>
-    </message>
-    <message>
-        <source>Firmware family :</source>
-        <translation>Famille du micrologiciel :</translation>
-    </message>
-    <message>
-        <source>Serial number :</source>
-        <translation>Numéro de série :</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Fermer</translation>
-    </message>
-</context>
-<context>
     <name>Messages</name>
     <message>
         <source>Internal or Comunication Error</source>

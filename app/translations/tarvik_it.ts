@@ -437,29 +437,6 @@
     </message>
 </context>
 <context>
-    <name>EditorStandIn</name>
-    <message>
-        <source>Validator</source>
-        <translation>Gettoniera</translation>
-    </message>
-    <message>
-        <source>Port :</source>
-        <translation>Porta :</translation>
-    </message>
-    <message>
-        <source>Firmware family :</source>
-        <translation>Famiglia del firmware :</translation>
-    </message>
-    <message>
-        <source>Serial number :</source>
-        <translation>Numero di serie :</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Chiudi</translation>
-    </message>
-</context>
-<context>
     <name>Messages</name>
     <message>
         <source>Internal or Comunication Error</source>
