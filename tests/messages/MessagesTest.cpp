@@ -1,5 +1,5 @@
-#include "Captions.h"
 #include "Messages.h"
+#include "Captions.h"
 
 #include <QSet>
 #include <gtest/gtest.h>

@@ -279,6 +279,14 @@ void EditorModel::EHFUBMIN0Exit()
     flush();
 }
 
+const Control *EditorModel::lookup(const QString &name, QString *error) const
+{
+    const Control *control = m_s.controls.find(name);
+    if (!control && error)
+        *error = QStringLiteral("no control ") + name;
+    return control;
+}
+
 bool EditorModel::canAct(const Control &control, QString *error) const
 {
     auto fail = [&](const QString &why) {
@@ -298,12 +306,9 @@ bool EditorModel::canAct(const Control &control, QString *error) const
 
 bool EditorModel::type(const QString &name, const QString &text, QString *error)
 {
-    const Control *control = m_s.controls.find(name);
-    if (!control) {
-        if (error)
-            *error = QStringLiteral("no control ") + name;
+    const Control *control = lookup(name, error);
+    if (!control)
         return false;
-    }
     if (control->kind != ControlKind::Edit || control->state.readOnly) {
         if (error)
             *error = name + QStringLiteral(" takes no typing: it is ") +
@@ -322,12 +327,9 @@ bool EditorModel::type(const QString &name, const QString &text, QString *error)
 
 bool EditorModel::leave(const QString &name, QString *error)
 {
-    const Control *control = m_s.controls.find(name);
-    if (!control) {
-        if (error)
-            *error = QStringLiteral("no control ") + name;
+    const Control *control = lookup(name, error);
+    if (!control)
         return false;
-    }
     if (control->kind != ControlKind::Edit && control->kind != ControlKind::Check) {
         if (error)
             *error = name + QStringLiteral(" takes no focus: it is ") + kindName(control->kind);
@@ -341,12 +343,9 @@ bool EditorModel::leave(const QString &name, QString *error)
 
 bool EditorModel::click(const QString &name, QString *error)
 {
-    const Control *control = m_s.controls.find(name);
-    if (!control) {
-        if (error)
-            *error = QStringLiteral("no control ") + name;
+    const Control *control = lookup(name, error);
+    if (!control)
         return false;
-    }
     if (control->kind != ControlKind::Button && control->kind != ControlKind::Check) {
         if (error)
             *error = name + QStringLiteral(" cannot be clicked: it is ") + kindName(control->kind);
@@ -388,12 +387,9 @@ bool EditorModel::click(const QString &name, QString *error)
 
 bool EditorModel::pick(const QString &name, int item, QString *error)
 {
-    const Control *control = m_s.controls.find(name);
-    if (!control) {
-        if (error)
-            *error = QStringLiteral("no control ") + name;
+    const Control *control = lookup(name, error);
+    if (!control)
         return false;
-    }
     if (control->kind != ControlKind::Radio) {
         if (error)
             *error = name + QStringLiteral(" has no items: it is ") + kindName(control->kind);

@@ -88,6 +88,7 @@ private:
     void setGauge(int value);
     void showProgress(bool shown, const QString &label = {});
     void stopExchange();
+    const Control *lookup(const QString &name, QString *error) const;
     bool canAct(const Control &control, QString *error) const;
     void keepBackup();
 
