@@ -435,6 +435,38 @@
         <source>Vend Limit 2 : </source>
         <translation>Verkaufslimit 2: </translation>
     </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Limit / P1 :</source>
+        <translation>Limit / P1:</translation>
+    </message>
+    <message>
+        <source>Value P1 :</source>
+        <translation>Wert P1:</translation>
+    </message>
+    <message>
+        <source>Service Width in min.</source>
+        <translation>Servicedauer in Min.</translation>
+    </message>
+    <message>
+        <source>Service Width in sec.</source>
+        <translation>Servicedauer in Sek.</translation>
+    </message>
+    <message>
+        <source>Minimum Reset Width in ms</source>
+        <translation>Minimale Rücksetzdauer in ms</translation>
+    </message>
+    <message>
+        <source>Reset Width in sec. :</source>
+        <translation>Rücksetzdauer in Sek.:</translation>
+    </message>
+    <message>
+        <source>Code %d, bit %d</source>
+        <translation>Code %d, Bit %d</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

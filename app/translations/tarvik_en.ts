@@ -435,6 +435,38 @@
         <source>Vend Limit 2 : </source>
         <translation>Vend Limit 2 : </translation>
     </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Limit / P1 :</source>
+        <translation>Limit / P1 :</translation>
+    </message>
+    <message>
+        <source>Value P1 :</source>
+        <translation>Value P1 :</translation>
+    </message>
+    <message>
+        <source>Service Width in min.</source>
+        <translation>Service Width in min.</translation>
+    </message>
+    <message>
+        <source>Service Width in sec.</source>
+        <translation>Service Width in sec.</translation>
+    </message>
+    <message>
+        <source>Minimum Reset Width in ms</source>
+        <translation>Minimum Reset Width in ms</translation>
+    </message>
+    <message>
+        <source>Reset Width in sec. :</source>
+        <translation>Reset Width in sec. :</translation>
+    </message>
+    <message>
+        <source>Code %d, bit %d</source>
+        <translation>Code %d, bit %d</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

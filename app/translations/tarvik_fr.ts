@@ -435,6 +435,38 @@
         <source>Vend Limit 2 : </source>
         <translation>Limite vente 2 : </translation>
     </message>
+    <message>
+        <source>Reset</source>
+        <translation>Remise à zéro</translation>
+    </message>
+    <message>
+        <source>Limit / P1 :</source>
+        <translation>Limite / P1 :</translation>
+    </message>
+    <message>
+        <source>Value P1 :</source>
+        <translation>Valeur P1 :</translation>
+    </message>
+    <message>
+        <source>Service Width in min.</source>
+        <translation>Durée de service en min.</translation>
+    </message>
+    <message>
+        <source>Service Width in sec.</source>
+        <translation>Durée de service en s</translation>
+    </message>
+    <message>
+        <source>Minimum Reset Width in ms</source>
+        <translation>Durée min. de remise à zéro en ms</translation>
+    </message>
+    <message>
+        <source>Reset Width in sec. :</source>
+        <translation>Durée de remise à zéro en s :</translation>
+    </message>
+    <message>
+        <source>Code %d, bit %d</source>
+        <translation>Code %d, bit %d</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

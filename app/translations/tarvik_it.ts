@@ -435,6 +435,38 @@
         <source>Vend Limit 2 : </source>
         <translation>Limite vendita 2: </translation>
     </message>
+    <message>
+        <source>Reset</source>
+        <translation>Azzera</translation>
+    </message>
+    <message>
+        <source>Limit / P1 :</source>
+        <translation>Limite / P1:</translation>
+    </message>
+    <message>
+        <source>Value P1 :</source>
+        <translation>Valore P1:</translation>
+    </message>
+    <message>
+        <source>Service Width in min.</source>
+        <translation>Durata servizio in min.</translation>
+    </message>
+    <message>
+        <source>Service Width in sec.</source>
+        <translation>Durata servizio in sec.</translation>
+    </message>
+    <message>
+        <source>Minimum Reset Width in ms</source>
+        <translation>Durata minima azzeramento in ms</translation>
+    </message>
+    <message>
+        <source>Reset Width in sec. :</source>
+        <translation>Durata azzeramento in sec.:</translation>
+    </message>
+    <message>
+        <source>Code %d, bit %d</source>
+        <translation>Codice %d, bit %d</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

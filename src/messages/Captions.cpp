@@ -121,6 +121,14 @@ constexpr Entry kTable[] = {
     {Cap::Erasable, QT_TRANSLATE_NOOP("Captions", "Erasable :")},
     {Cap::VendLimit1, QT_TRANSLATE_NOOP("Captions", "Vend Limit1 : ")},
     {Cap::VendLimit2, QT_TRANSLATE_NOOP("Captions", "Vend Limit 2 : ")},
+    {Cap::Reset, QT_TRANSLATE_NOOP("Captions", "Reset")},
+    {Cap::LimitP1, QT_TRANSLATE_NOOP("Captions", "Limit / P1 :")},
+    {Cap::ValueP1Colon, QT_TRANSLATE_NOOP("Captions", "Value P1 :")},
+    {Cap::ServiceWidthMin, QT_TRANSLATE_NOOP("Captions", "Service Width in min.")},
+    {Cap::ServiceWidthSec, QT_TRANSLATE_NOOP("Captions", "Service Width in sec.")},
+    {Cap::MinimumResetWidthMs, QT_TRANSLATE_NOOP("Captions", "Minimum Reset Width in ms")},
+    {Cap::ResetWidthSec, QT_TRANSLATE_NOOP("Captions", "Reset Width in sec. :")},
+    {Cap::CodeBit, QT_TRANSLATE_NOOP("Captions", "Code %d, bit %d")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

@@ -123,6 +123,14 @@ enum class Cap
     Erasable,
     VendLimit1,
     VendLimit2,
+    Reset,
+    LimitP1,
+    ValueP1Colon,
+    ServiceWidthMin,
+    ServiceWidthSec,
+    MinimumResetWidthMs,
+    ResetWidthSec,
+    CodeBit,
     Count_
 };
 

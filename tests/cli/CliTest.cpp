@@ -123,6 +123,19 @@ TEST_F(Cli, ShowAndEditDriveTheEditorOverAFile)
     EXPECT_FALSE(image.enableBit(0));
     EXPECT_EQ(image.serialNumber(), 77u);
 
+    // The money and option rules are reached the same way.
+    const QString totalizer = dir.filePath("t.json");
+    const InProcess typed = cli({"edit", file, "-o", totalizer, "GroupType#1", "RazEnable",
+                                 "CounterEnable", "ChkLimit1", "LabeledEdit3=1234.6"});
+    ASSERT_EQ(typed.code, kExitOk) << qPrintable(typed.err);
+    ASSERT_TRUE(loadConfigFile(totalizer, image, &error)) << qPrintable(error);
+    EXPECT_EQ(image.options[0], 0xE6); // type 1, price 1 limit on
+    EXPECT_EQ(image.prices[3], 50);
+    EXPECT_EQ(image.counters[2], 0x04);
+    EXPECT_EQ(image.counters[3], 0xD3);
+    const InProcess pulse = cli({"edit", file, "Eprix6=700"});
+    EXPECT_TRUE(pulse.err.contains("Value over 630 ms, it will be adjusted!"));
+
     EXPECT_EQ(cli({"edit", file, "NoSuchBox=1"}).code, kExitUsage);
     EXPECT_EQ(cli({"edit", file, "Enable0=1"}).code, kExitUsage);
     EXPECT_EQ(cli({"edit", file, "GroupType#x"}).code, kExitUsage);

@@ -274,11 +274,12 @@ TEST(EditorEditing, ActionsThatDoNotFitTheControlAreRefused)
     EXPECT_FALSE(e.model->type("NoSuchBox", "1", &error));
     EXPECT_EQ(error, QStringLiteral("no control NoSuchBox"));
     EXPECT_FALSE(e.model->type("Enable3", "1", &error));
-    EXPECT_FALSE(e.model->type("Eprix1", "1", &error)); // shown only, for now
-    EXPECT_TRUE(error.contains(QLatin1String("read-only")));
+    EXPECT_FALSE(e.model->type("LabeledEdit3", "1", &error)); // not under this output type
+    EXPECT_TRUE(error.contains(QLatin1String("hidden")));
     EXPECT_FALSE(e.model->pick("EHFUBMIN0", 1, &error));
     EXPECT_FALSE(e.model->click("LVERSIONH", &error));
-    EXPECT_FALSE(e.model->pick("GroupType", 2, &error));
+    EXPECT_FALSE(e.model->pick("GroupType", 8, &error));
+    EXPECT_EQ(error, QStringLiteral("GroupType has no item 8"));
 }
 
 TEST(EditorWriting, WriteSendsTheEditAndClosingAsksOnlyAfterAChange)

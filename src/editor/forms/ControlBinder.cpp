@@ -9,11 +9,36 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
+
+namespace {
+
+// A lit or a dark lamp.
+QIcon lamp(bool lit)
+{
+    static QIcon lamps[2];
+    QIcon &icon = lamps[lit ? 1 : 0];
+    if (icon.isNull()) {
+        QPixmap pixmap(12, 12);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QColor(60, 60, 60));
+        painter.setBrush(lit ? QColor(220, 40, 30) : QColor(170, 170, 170));
+        painter.drawEllipse(1, 1, 10, 10);
+        painter.end();
+        icon = QIcon(pixmap);
+    }
+    return icon;
+}
+
+} // namespace
 
 ControlBinder::ControlBinder(EditorModel &model, QObject *parent) : QObject(parent), m_model(&model)
 {}
@@ -87,6 +112,15 @@ QWidget *ControlBinder::make(const Control &control, QWidget *parent)
     case ControlKind::Label:
         widget = new QLabel(parent);
         break;
+    case ControlKind::Image: {
+        auto *image = new QToolButton(parent);
+        image->setAutoRaise(true);
+        image->setIconSize(QSize(12, 12));
+        image->setFocusPolicy(Qt::NoFocus);
+        connect(image, &QToolButton::clicked, this, [this, name] { clicked(name); });
+        widget = image;
+        break;
+    }
     }
     widget->setObjectName(name);
     m_widgets.insert(name, widget);
@@ -156,6 +190,9 @@ void ControlBinder::apply(const Control &control, QWidget *widget)
     }
     case ControlKind::Label:
         static_cast<QLabel *>(widget)->setText(s.text);
+        break;
+    case ControlKind::Image:
+        static_cast<QToolButton *>(widget)->setIcon(lamp(s.checked));
         break;
     case ControlKind::Check: {
         auto *check = static_cast<QCheckBox *>(widget);

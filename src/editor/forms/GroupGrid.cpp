@@ -14,12 +14,27 @@ const QList<QStringList> &sharedLines()
         QList<QStringList> out = {
             {QStringLiteral("LTestChannel"), QStringLiteral("LTestChannelValue")},
             {QStringLiteral("LTestAmount"), QStringLiteral("LTestAmountValue")},
-            {QStringLiteral("ChkCode"), QStringLiteral("Edit1"), QStringLiteral("Edit2"),
-             QStringLiteral("Edit3"), QStringLiteral("LCodeState")},
+            {QStringLiteral("ChkCode"), QStringLiteral("LCodeState")},
             {QStringLiteral("LCounter1"), QStringLiteral("LCounterValue1")},
             {QStringLiteral("LCounter2"), QStringLiteral("LCounterValue2")},
             {QStringLiteral("CounterEnable"), QStringLiteral("RazEnable")},
+            {QStringLiteral("Button1"), QStringLiteral("Button2")},
         };
+        // Each code box with its lamps, an on and an off lamp per bit, bit 5 first.
+        const char *const lamps[3][12] = {
+            {"ImageLed", "Image38", "Image15", "Image39", "Image16", "Image40", "Image17",
+             "Image41", "Image18", "Image42", "Image19", "Image43"},
+            {"Image20", "Image44", "Image21", "Image45", "Image22", "Image46", "Image23", "Image47",
+             "Image24", "Image48", "Image25", "Image49"},
+            {"Image32", "Image56", "Image33", "Image57", "Image34", "Image58", "Image35", "Image59",
+             "Image36", "Image60", "Image37", "Image61"},
+        };
+        for (int i = 0; i < 3; ++i) {
+            QStringList line{QStringLiteral("Edit%1").arg(i + 1)};
+            for (const char *lamp : lamps[i])
+                line.append(QLatin1String(lamp));
+            out.append(line);
+        }
         QStringList bits;
         for (int i = 0; i < 16; ++i)
             bits.append(QStringLiteral("LBit%1").arg(i));

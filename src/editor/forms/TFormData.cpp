@@ -117,6 +117,11 @@ TFormData::TFormData(UserPrompt &prompt, EditorServices &services, TMonnayeur *l
         m_closeWanted = true;
         QTimer::singleShot(0, this, &TFormData::closeWhenIdle);
     };
+    // A refused entry gives the box the focus back, once the focus change is over.
+    m_model->focusRequested = [this](const QString &name) {
+        if (QWidget *box = findChild<QWidget *>(name))
+            QTimer::singleShot(0, box, [box] { box->setFocus(Qt::OtherFocusReason); });
+    };
     connect(m_binder, &ControlBinder::actionEnded, this, [this] {
         if (m_closeWanted)
             QTimer::singleShot(0, this, &TFormData::closeWhenIdle);
@@ -133,6 +138,7 @@ TFormData::~TFormData()
     m_model->changed = nullptr;
     m_model->repaintNow = nullptr;
     m_model->closeRequested = nullptr;
+    m_model->focusRequested = nullptr;
     m_binder->detach();
 }
 

@@ -169,6 +169,11 @@ bool ChannelGridModel::isChannelBox(const QString &name)
     return false;
 }
 
+int ChannelGridModel::channelIndex(const QString &name, const char *prefix)
+{
+    return channelOf(name, prefix);
+}
+
 bool ChannelGridModel::isEnableBox(const QString &name)
 {
     return channelOf(name, kColumnTable[kEnableColumn].prefix) >= 0;

@@ -37,6 +37,8 @@ public:
     // True for the boxes that the general exit handler stores.
     static bool isChannelBox(const QString &name);
     static bool isEnableBox(const QString &name);
+    // The channel index of a per-channel control with the given prefix ("Value", "Sub"), or -1.
+    static int channelIndex(const QString &name, const char *prefix);
 
 private:
     EditorState &m_s;

@@ -16,7 +16,8 @@ enum class ControlKind
     Panel,  // a row or a frame holding other controls
     Page,   // a page of a tab widget
     Group,  // a group box
-    Gauge   // a progress bar 0 to 100
+    Gauge,  // a progress bar 0 to 100
+    Image   // a small picture one can click: lit while checked, dark otherwise
 };
 
 // What one control shows.

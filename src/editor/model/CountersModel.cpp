@@ -1,6 +1,10 @@
 #include "CountersModel.h"
 
 #include "Captions.h"
+#include "Messages.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -20,16 +24,14 @@ void CountersModel::addControls()
         c.add(QLatin1String(name), ControlKind::Label, group);
     c.add(QStringLiteral("CounterEnable"), ControlKind::Check, group);
     c.add(QStringLiteral("RazEnable"), ControlKind::Check, group);
+    c.add(QStringLiteral("Button1"), ControlKind::Button, group);
+    c.add(QStringLiteral("Button2"), ControlKind::Button, group);
     for (auto [label, box] :
          {std::pair{"LVendLimit1", "LabeledEdit3"}, std::pair{"LVendLimit2", "LabeledEdit4"}}) {
         c.add(QLatin1String(label), ControlKind::Label, group);
         c.add(QLatin1String(box), ControlKind::Edit, group);
         c.setBuddy(QLatin1String(box), QLatin1String(label));
-        c.setReadOnly(QLatin1String(box), true);
     }
-    // The counter rules come with the counters group; until then it is shown only.
-    c.setEnabled(QStringLiteral("CounterEnable"), false);
-    c.setEnabled(QStringLiteral("RazEnable"), false);
     retranslate();
 }
 
@@ -44,6 +46,12 @@ void CountersModel::retranslate()
     c.setText(QStringLiteral("RazEnable"), captionText(Cap::Erasable));
     c.setText(QStringLiteral("LVendLimit1"), captionText(Cap::VendLimit1));
     c.setText(QStringLiteral("LVendLimit2"), captionText(Cap::VendLimit2));
+    for (auto [button, counter] :
+         {std::pair{"Button1", Cap::Counter1}, std::pair{"Button2", Cap::Counter2}}) {
+        c.setText(QLatin1String(button), captionText(Cap::Reset));
+        c.setAccessibleName(QLatin1String(button),
+                            captionText(counter) + QLatin1Char(' ') + captionText(Cap::Reset));
+    }
     display();
 }
 
@@ -69,7 +77,8 @@ void CountersModel::display()
     c.setChecked(QStringLiteral("CounterEnable"), counting);
     c.setText(QStringLiteral("CounterEnable"),
               captionText(counting ? Cap::Actived : Cap::Desactived));
-    c.setChecked(QStringLiteral("RazEnable"), word[1] & 0x20);
+    const bool erasable = word[1] & 0x20;
+    c.setChecked(QStringLiteral("RazEnable"), erasable);
 
     // The vend limits belong to the two-price totalizer and its limit switches.
     const bool twoPrices = m_s.outputType() == 1;
@@ -81,4 +90,84 @@ void CountersModel::display()
                  twoPrices && m_s.checked(QStringLiteral("ChkLimit2")));
     c.setVisible(QStringLiteral("LVendLimit2"),
                  m_s.controls.state(QStringLiteral("LabeledEdit4")).visible);
+    // A counter can be reset only while the counters are erasable.
+    c.setVisible(QStringLiteral("Button1"), erasable);
+    c.setVisible(QStringLiteral("Button2"), erasable && twoPrices);
+}
+
+void CountersModel::CounterEnableClick()
+{
+    // Counting cannot be switched off unless the counters are erasable.
+    if (!m_s.checked(QStringLiteral("RazEnable")))
+        return;
+    OptionWord &word = m_s.image.options;
+    word[1] ^= 0x40;
+    m_s.flags.configModified = true;
+    if (word[1] & 0x40)
+        return;
+    // Counting starts: counters not set start from zero.
+    CounterBlock &block = m_s.image.counters;
+    auto unset = [&](int from, int to) {
+        return std::all_of(block.begin() + from, block.begin() + to,
+                           [](quint8 b) { return b == 0xFF; });
+    };
+    bool zeroed = false;
+    if (m_s.outputType() == 1) {
+        for (int at : {0, 4}) {
+            if (unset(at, at + 2)) {
+                block[std::size_t(at)] = block[std::size_t(at + 1)] = 0;
+                zeroed = true;
+            }
+        }
+    } else if (unset(0, 4)) {
+        block.fill(0);
+        zeroed = true;
+    }
+    if (zeroed)
+        m_s.flags.editChanged = true;
+}
+
+void CountersModel::RazEnableClick()
+{
+    OptionWord &word = m_s.image.options;
+    word[1] ^= 0x20;
+    // Counters that cannot be erased keep counting.
+    if (!(word[1] & 0x20))
+        word[1] &= quint8(~0x40);
+    m_s.flags.configModified = true;
+}
+
+void CountersModel::resetClick(int counter)
+{
+    // The counter reaches the validator with the next full write.
+    CounterBlock &block = m_s.image.counters;
+    const int at = counter == 1 ? 0 : 4;
+    block[std::size_t(at)] = block[std::size_t(at + 1)] = 0;
+    m_s.flags.configModified = true;
+}
+
+void CountersModel::limitExit(int limit)
+{
+    if (!m_s.flags.editChanged)
+        return;
+    m_s.flags.editChanged = false;
+    const QString box =
+        limit == 1 ? QStringLiteral("LabeledEdit3") : QStringLiteral("LabeledEdit4");
+    const int at = limit == 1 ? 2 : 6;
+    CounterBlock &block = m_s.image.counters;
+    QString text = m_s.text(box).trimmed();
+    text.replace(encodingSettings().decimalChar, u'.');
+    // An empty box is a limit not set.
+    bool ok = text.isEmpty();
+    const double value = ok ? 65535.0 : text.toDouble(&ok);
+    if (!ok || !std::isfinite(value)) {
+        m_s.tell(messageText(Msg::ValueBetween0And255));
+        return; // the old limit stays, and shows again
+    }
+    const qint64 rounded = std::llround(std::clamp(value, -1e15, 1e15));
+    block[std::size_t(at)] = quint8((rounded >> 8) & 0xFF);
+    block[std::size_t(at + 1)] = quint8(rounded & 0xFF);
+    m_s.flags.configModified = true;
+    m_s.controls.setText(box, rounded < 65535 ? QString::asprintf("%10d", int(quint16(rounded)))
+                                              : QString());
 }

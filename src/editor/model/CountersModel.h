@@ -13,6 +13,12 @@ public:
     void retranslate();
     void display();
 
+    // "Actived", "Erasable :", the two "Reset" buttons and the vend limit boxes (1 or 2).
+    void CounterEnableClick();
+    void RazEnableClick();
+    void resetClick(int counter);
+    void limitExit(int limit);
+
 private:
     EditorState &m_s;
 };

@@ -154,6 +154,7 @@ void EditorModel::showPagesOfImage()
 void EditorModel::loadImage(const ConfigImage &image, bool modified)
 {
     m_s.image = image;
+    m_money.takeCodeFromImage();
     showModel(image.isLight());
     showPagesOfImage();
     display();
@@ -236,6 +237,7 @@ void EditorModel::SpeedButton1Click()
         }
         m_s.flags.readOnOpen = false;
         m_s.flags.editChanged = false;
+        m_money.takeCodeFromImage();
         display();
         m_s.flags.promptFlag = true;
         m_s.flags.configModified = false;
@@ -335,10 +337,43 @@ bool EditorModel::leave(const QString &name, QString *error)
             *error = name + QStringLiteral(" takes no focus: it is ") + kindName(control->kind);
         return false;
     }
-    if (!isTableBox(name))
-        EHFUBMIN0Exit();
+    exitBox(name);
     flush();
+    const QString focus = m_money.takeFocusRequest();
+    if (!focus.isEmpty() && focusRequested)
+        focusRequested(focus);
     return true;
+}
+
+// Each box's exit handler; most boxes share the general one.
+void EditorModel::exitBox(const QString &name)
+{
+    if (isTableBox(name))
+        return;
+    const bool changed = m_s.flags.editChanged;
+    if (const int slot = MoneyModel::priceSlot(name); slot >= 0) {
+        m_money.priceExit(slot);
+    } else if (const int box = MoneyModel::codeBox(name); box >= 0) {
+        m_money.codeExit(box);
+    } else if (name == QLatin1String("EBase1")) {
+        m_money.EBase1Exit();
+        if (changed)
+            display(); // every channel of base 1 is shown against it
+    } else if (name == QLatin1String("Ebase2")) {
+        if (m_money.Ebase2Exit())
+            EHFUBMIN0Exit();
+    } else if (const int k = ChannelGridModel::channelIndex(name, "Value"); k >= 0) {
+        m_money.Value0Exit(k);
+    } else if (const int k = ChannelGridModel::channelIndex(name, "Sub"); k >= 0) {
+        if (m_money.Sub0Exit(k))
+            EHFUBMIN0Exit();
+    } else if (name == QLatin1String("LabeledEdit3") || name == QLatin1String("LabeledEdit4")) {
+        m_counters.limitExit(name == QLatin1String("LabeledEdit3") ? 1 : 2);
+        if (changed)
+            display();
+    } else {
+        EHFUBMIN0Exit();
+    }
 }
 
 bool EditorModel::click(const QString &name, QString *error)
@@ -346,7 +381,8 @@ bool EditorModel::click(const QString &name, QString *error)
     const Control *control = lookup(name, error);
     if (!control)
         return false;
-    if (control->kind != ControlKind::Button && control->kind != ControlKind::Check) {
+    if (control->kind != ControlKind::Button && control->kind != ControlKind::Check &&
+        control->kind != ControlKind::Image) {
         if (error)
             *error = name + QStringLiteral(" cannot be clicked: it is ") + kindName(control->kind);
         return false;
@@ -356,6 +392,8 @@ bool EditorModel::click(const QString &name, QString *error)
     if (ChannelGridModel::isEnableBox(name)) {
         m_s.controls.setChecked(name, !control->state.checked);
         EHFUBMIN0Change();
+    } else if (clickSetting(name)) {
+        display();
     } else if (name == QLatin1String("SpeedButton1")) {
         SpeedButton1Click();
     } else if (name == QLatin1String("SpeedButton8")) {
@@ -402,7 +440,52 @@ bool EditorModel::pick(const QString &name, int item, QString *error)
             *error = name + QStringLiteral(" has no item %1").arg(item);
         return false;
     }
-    m_s.controls.setItemIndex(name, item);
+    if (name == QLatin1String("GroupType")) {
+        pickType(item);
+    } else if (name == QLatin1String("GroupTypeLight")) {
+        // The short form of the same choice.
+        pickType(item == 1 ? 2 : 0);
+    } else if (name == QLatin1String("GroupSortie")) {
+        m_options.pickOutlet(item);
+        display();
+    }
     flush();
+    return true;
+}
+
+void EditorModel::pickType(int item)
+{
+    // "50 - " has no function of its own: it is "20 - Totalizer - video game".
+    const int type = item == 5 ? 2 : item;
+    m_money.loadTypeDefaults(type);
+    m_options.applyType(type);
+    m_s.flags.configModified = true;
+    m_s.flags.editChanged = true;
+    display();
+}
+
+// The switches of the options, the code table and the counters.
+bool EditorModel::clickSetting(const QString &name)
+{
+    if (m_options.click(name)) {
+        if (name == QLatin1String("ChkResetEx") && m_s.outputType() == 4) {
+            // Price 3 becomes the reset width in seconds, or in steps of 10 ms.
+            m_money.rescaleResetWidth(!(m_s.image.options[0] & 0x01));
+            m_s.flags.editChanged = true;
+        }
+        return true;
+    }
+    if (name == QLatin1String("ChkCode"))
+        m_money.ChkCodeClick();
+    else if (m_s.controls.at(name).kind == ControlKind::Image)
+        m_money.codeImageClick(name);
+    else if (name == QLatin1String("CounterEnable"))
+        m_counters.CounterEnableClick();
+    else if (name == QLatin1String("RazEnable"))
+        m_counters.RazEnableClick();
+    else if (name == QLatin1String("Button1") || name == QLatin1String("Button2"))
+        m_counters.resetClick(name == QLatin1String("Button1") ? 1 : 2);
+    else
+        return false;
     return true;
 }

@@ -44,6 +44,8 @@ public:
     std::function<void()> repaintNow;
     // The editor closes itself (a read that failed, Close).
     std::function<void()> closeRequested;
+    // The focus goes back to a box whose entry was refused.
+    std::function<void(const QString &name)> focusRequested;
 
     const ConfigImage &image() const { return m_s.image; }
     // Takes an image from a file or a saved validator and shows it.
@@ -91,6 +93,9 @@ private:
     const Control *lookup(const QString &name, QString *error) const;
     bool canAct(const Control &control, QString *error) const;
     void keepBackup();
+    void exitBox(const QString &name);
+    bool clickSetting(const QString &name);
+    void pickType(int item);
 
     EditorState m_s;
     EditorServices *m_services;

@@ -1,18 +1,32 @@
 #include "MoneyModel.h"
 
 #include "Captions.h"
+#include "Messages.h"
+#include "UserPrompt.h"
 
 const char *const MoneyModel::kPriceBoxes[6] = {"Eprix1", "Eprix2", "EPrix3",
                                                 "Eprix4", "EPrix5", "Eprix6"};
 
 namespace {
 
+// The images of the three code boxes, bit 5 first.
+constexpr const char *kCodeOn[3][6] = {
+    {"ImageLed", "Image15", "Image16", "Image17", "Image18", "Image19"},
+    {"Image20", "Image21", "Image22", "Image23", "Image24", "Image25"},
+    {"Image32", "Image33", "Image34", "Image35", "Image36", "Image37"},
+};
+constexpr const char *kCodeOff[3][6] = {
+    {"Image38", "Image39", "Image40", "Image41", "Image42", "Image43"},
+    {"Image44", "Image45", "Image46", "Image47", "Image48", "Image49"},
+    {"Image56", "Image57", "Image58", "Image59", "Image60", "Image61"},
+};
+
 QString priceLabel(int slot)
 {
     return QStringLiteral("LValueP%1").arg(slot + 1);
 }
 
-QString codeBox(int i)
+QString codeEdit(int i)
 {
     return QStringLiteral("Edit%1").arg(i + 1);
 }
@@ -20,6 +34,17 @@ QString codeBox(int i)
 Word2 word(const ValueBlock &values, int at)
 {
     return {values[std::size_t(at)], values[std::size_t(at + 1)]};
+}
+
+void setWord(ValueBlock &values, int at, Word2 w)
+{
+    values[std::size_t(at)] = w[0];
+    values[std::size_t(at + 1)] = w[1];
+}
+
+bool chainedType(int type)
+{
+    return type == 2 || type == 4 || type == 6 || type == 7;
 }
 
 } // namespace
@@ -33,8 +58,10 @@ MoneyModel::SlotForm MoneyModel::slotForm(int slot, int type, bool externalReset
     case 2:
         if (type == 1)
             return externalReset ? SlotForm::Tenths : SlotForm::Plain;
-        return type == 2 || type == 4 || type == 5 || type == 7 ? SlotForm::Tenths
-                                                                : SlotForm::Plain;
+        // Under type 4 "External reset" gives the reset width in seconds.
+        if (type == 4)
+            return externalReset ? SlotForm::Plain : SlotForm::Tenths;
+        return type == 2 || type == 5 || type == 7 ? SlotForm::Tenths : SlotForm::Plain;
     case 3:
         return type == 2 || type == 4 || type == 6 || type == 7 ? SlotForm::Price : SlotForm::Plain;
     case 5:
@@ -42,6 +69,40 @@ MoneyModel::SlotForm MoneyModel::slotForm(int slot, int type, bool externalReset
     default:
         return SlotForm::Plain;
     }
+}
+
+int MoneyModel::priceSlot(const QString &name)
+{
+    for (int slot = 0; slot < 6; ++slot) {
+        if (name == QLatin1String(kPriceBoxes[slot]))
+            return slot;
+    }
+    return -1;
+}
+
+int MoneyModel::codeBox(const QString &name)
+{
+    for (int i = 0; i < 3; ++i) {
+        if (name == codeEdit(i))
+            return i;
+    }
+    return -1;
+}
+
+bool MoneyModel::codeImage(const QString &name, int *box, int *bit, bool *on)
+{
+    for (int i = 0; i < 3; ++i) {
+        for (int b = 0; b < 6; ++b) {
+            const bool isOn = name == QLatin1String(kCodeOn[i][b]);
+            if (isOn || name == QLatin1String(kCodeOff[i][b])) {
+                *box = i;
+                *bit = 5 - b;
+                *on = isOn;
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 void MoneyModel::addControls()
@@ -53,16 +114,18 @@ void MoneyModel::addControls()
         c.add(priceLabel(slot), ControlKind::Label, prices);
         c.add(QLatin1String(kPriceBoxes[slot]), ControlKind::Edit, prices);
         c.setBuddy(QLatin1String(kPriceBoxes[slot]), priceLabel(slot));
-        // The price rules come with the prices group; until then it is shown only.
-        c.setReadOnly(QLatin1String(kPriceBoxes[slot]), true);
     }
     c.add(QStringLiteral("ChkCode"), ControlKind::Check, prices);
-    c.setEnabled(QStringLiteral("ChkCode"), false);
-    for (int i = 0; i < 3; ++i) {
-        c.add(codeBox(i), ControlKind::Edit, prices);
-        c.setReadOnly(codeBox(i), true);
-    }
     c.add(QStringLiteral("LCodeState"), ControlKind::Label, prices);
+    for (int i = 0; i < 3; ++i) {
+        c.add(codeEdit(i), ControlKind::Edit, prices);
+        // One on and one off image per bit, side by side: exactly one of them shows.
+        for (int b = 0; b < 6; ++b) {
+            c.add(QLatin1String(kCodeOn[i][b]), ControlKind::Image, prices);
+            c.setChecked(QLatin1String(kCodeOn[i][b]), true);
+            c.add(QLatin1String(kCodeOff[i][b]), ControlKind::Image, prices);
+        }
+    }
 
     const QString bases = QStringLiteral("GroupBase");
     c.add(bases, ControlKind::Group);
@@ -79,17 +142,22 @@ void MoneyModel::retranslate()
 {
     ControlSet &c = m_s.controls;
     c.setText(QStringLiteral("GroupPrices"), captionText(Cap::Prices));
-    for (int slot = 0; slot < 6; ++slot)
-        c.setText(priceLabel(slot), captionText(Cap(int(Cap::ValueP1) + slot)));
     c.setText(QStringLiteral("ChkCode"), captionText(Cap::Code));
     c.setText(QStringLiteral("GroupBase"), captionText(Cap::BaseValue));
     c.setText(QStringLiteral("LBase1"), captionText(Cap::Base1));
     c.setText(QStringLiteral("LBase2"), captionText(Cap::Base2));
     c.setText(QStringLiteral("LConversion"), captionText(Cap::Ratio));
     c.setAccessibleName(QStringLiteral("LCodeState"), captionText(Cap::Code));
-    for (int i = 0; i < 3; ++i)
-        c.setAccessibleName(codeBox(i),
+    for (int i = 0; i < 3; ++i) {
+        c.setAccessibleName(codeEdit(i),
                             captionText(Cap::Code) + QLatin1Char(' ') + QString::number(i + 1));
+        for (int b = 0; b < 6; ++b) {
+            const QString name =
+                captionText(Cap::CodeBit, {QString::number(i + 1), QString::number(5 - b)});
+            c.setAccessibleName(QLatin1String(kCodeOn[i][b]), name);
+            c.setAccessibleName(QLatin1String(kCodeOff[i][b]), name);
+        }
+    }
     showModel(m_light);
 }
 
@@ -112,12 +180,11 @@ void MoneyModel::display()
     const int type = m_s.outputType();
     const DecimalWord base1 = m_s.base(0);
     const DecimalWord base2 = m_s.base(30);
-    const bool externalReset = m_s.checked(QStringLiteral("ChkResetEx"));
 
     for (int slot = 0; slot < 6; ++slot) {
         const quint8 byte = image.prices[std::size_t(slot)];
         QString text;
-        switch (slotForm(slot, type, externalReset)) {
+        switch (slotForm(slot, type, m_s.checked(QStringLiteral("ChkResetEx")))) {
         case SlotForm::Price:
             text = FormatChannelValue(base1.decimals, 6, base1.magnitude, byte);
             break;
@@ -129,19 +196,37 @@ void MoneyModel::display()
             break;
         }
         c.setText(QLatin1String(kPriceBoxes[slot]), text);
+        c.setText(priceLabel(slot), captionText(Cap(int(Cap::ValueP1) + slot)));
     }
+    // Captions that follow the type and the options.
+    auto shownAndChecked = [&](const char *box) {
+        return m_s.controls.state(QLatin1String(box)).visible && m_s.checked(QLatin1String(box));
+    };
+    if (c.state(QStringLiteral("ChkLimit")).visible)
+        c.setText(priceLabel(1),
+                  captionText(shownAndChecked("ChkLimit") ? Cap::LimitP1 : Cap::ValueP1Colon));
+    if (type == 3)
+        c.setText(priceLabel(2), captionText(shownAndChecked("ChkTime") ? Cap::ServiceWidthMin
+                                                                        : Cap::ServiceWidthSec));
+    if (type == 4)
+        c.setText(priceLabel(2),
+                  captionText(shownAndChecked("ChkResetEx") ? Cap::ResetWidthSec
+                                                            : Cap::MinimumResetWidthMs));
+    // "Ext Counter signal (3C)" takes the place of price 4.
+    const bool price4 = !shownAndChecked("ChkActEx");
+    c.setVisible(priceLabel(3), price4);
+    c.setVisible(QLatin1String(kPriceBoxes[3]), price4);
+    chainEnabling();
 
-    // Under the validator output slots 3 to 5 may hold a code table of three 6-bit codes.
-    const bool codes =
-        type == 0 && (image.prices[2] != 255 || image.prices[3] != 255 || image.prices[4] != 255);
-    c.setChecked(QStringLiteral("ChkCode"), codes);
+    c.setVisible(QStringLiteral("ChkCode"), type == 0);
+    c.setChecked(QStringLiteral("ChkCode"), m_codeShown);
     bool valid = true;
     for (int i = 0; i < 3; ++i) {
+        showCode(i);
         const quint8 byte = image.prices[std::size_t(2 + i)];
-        c.setText(codeBox(i), codes ? ByteToText(5, byte) : QString());
-        c.setVisible(codeBox(i), codes);
         valid = valid && byte != 0 && byte != 255;
     }
+    const bool codes = type == 0 && m_codeShown;
     c.setVisible(QStringLiteral("LCodeState"), codes);
     c.setText(QStringLiteral("LCodeState"), captionText(valid ? Cap::CodeOk : Cap::CodeBad));
 
@@ -153,18 +238,46 @@ void MoneyModel::display()
               FormatExponentLong(ratio, base1.decimals, base2.decimals));
 }
 
+void MoneyModel::chainEnabling()
+{
+    ControlSet &c = m_s.controls;
+    // Under types 2, 4, 6 and 7 price 4 needs price 1, price 5 needs price 4, price 6 both.
+    const bool chained = chainedType(m_s.outputType());
+    const bool p1 = !m_s.text(QLatin1String(kPriceBoxes[0])).trimmed().isEmpty();
+    const bool p4 = !m_s.text(QLatin1String(kPriceBoxes[3])).trimmed().isEmpty();
+    const bool enabled[6] = {true,           true,           true,
+                             !chained || p1, !chained || p4, !chained || (p1 && p4)};
+    for (int slot = 3; slot < 6; ++slot) {
+        c.setEnabled(priceLabel(slot), enabled[slot]);
+        c.setEnabled(QLatin1String(kPriceBoxes[slot]), enabled[slot]);
+    }
+}
+
+void MoneyModel::showCode(int i)
+{
+    ControlSet &c = m_s.controls;
+    const bool shown = m_s.outputType() == 0 && m_codeShown;
+    const quint8 byte = m_s.image.prices[std::size_t(2 + i)];
+    const bool isCode = byte >= 1 && byte <= 63;
+    c.setVisible(codeEdit(i), shown);
+    c.setText(codeEdit(i), isCode ? ByteToText(5, byte) : QString());
+    for (int b = 0; b < 6; ++b) {
+        const bool bit = isCode && ((byte >> (5 - b)) & 1);
+        c.setVisible(QLatin1String(kCodeOn[i][b]), shown && bit);
+        c.setVisible(QLatin1String(kCodeOff[i][b]), shown && !bit);
+    }
+}
+
 QStringList MoneyModel::store()
 {
     ValueBlock &values = m_s.image.values;
     QStringList notNumbers;
     for (auto [box, at] : {std::pair{"EBase1", Val::Base1}, std::pair{"Ebase2", Val::Base2}}) {
         const auto parsed = ParseDecimalWord(m_s.text(QLatin1String(box)));
-        if (!parsed) {
+        if (parsed)
+            setWord(values, at, *parsed);
+        else
             notNumbers.append(QLatin1String(box));
-            continue;
-        }
-        values[std::size_t(at)] = (*parsed)[0];
-        values[std::size_t(at + 1)] = (*parsed)[1];
     }
     // The ratio's decimals follow the bases just stored.
     const DecimalWord base1 = FormatDecimalWord(word(values, Val::Base1));

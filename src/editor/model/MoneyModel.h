@@ -2,8 +2,8 @@
 
 #include "EditorState.h"
 
-// The money side: six price slots, the two credit bases, the conversion ratio and the code
-// table of the validator output.
+// The money side: six price slots, the two credit bases, the conversion ratio, the channel
+// values and substitutes, and the code table of the validator output.
 class MoneyModel final
 {
 public:
@@ -26,8 +26,45 @@ public:
     };
     static SlotForm slotForm(int slot, int outputType, bool externalReset);
     static const char *const kPriceBoxes[6];
+    // The price slot of a price box, or -1.
+    static int priceSlot(const QString &name);
+    // The code box (0 to 2) of Edit1 to Edit3, or -1; the box and bit of a code image.
+    static int codeBox(const QString &name);
+    static bool codeImage(const QString &name, int *box, int *bit, bool *on);
+
+    // The exit handlers; each acts only when EditChanged is set. True when the general exit
+    // handler is to run after it.
+    void priceExit(int slot);
+    void codeExit(int box);
+    void codeImageClick(const QString &name);
+    void ChkCodeClick();
+    void EBase1Exit();
+    bool Ebase2Exit();
+    void Value0Exit(int k);
+    bool Sub0Exit(int k);
+    bool subAccepted() const { return m_subAccepted; }
+    // The box that wants the focus back after a refusal; taken once.
+    QString takeFocusRequest() { return std::exchange(m_focusRequest, {}); }
+
+    // The output type's default prices (item 5 is item 2); the "Code" box as the type wants.
+    void loadTypeDefaults(int type);
+    // Whether the code group shows: taken from the image when a new one comes in.
+    void takeCodeFromImage();
+    // Under type 4 "External reset" changes slot 3 between tenths of a 10 ms step and seconds.
+    void rescaleResetWidth(bool seconds);
+    // The multi-pulse rule between channel k and its substitute s (1-based): true when the
+    // value of k is one to five times that of s; a substitute worth nothing fails.
+    bool multiPulseAllows(quint8 value, int substitute) const;
+    bool multiPulseActive() const;
 
 private:
+    void chainEnabling();
+    void showCode(int box);
+    void tellMultiPulse(int channel, int substitute) const;
+
     EditorState &m_s;
     bool m_light = false;
+    bool m_codeShown = false;
+    bool m_subAccepted = true;
+    QString m_focusRequest;
 };

@@ -90,11 +90,6 @@ void OptionsModel::addControls()
         c.add(bitLabel(i), ControlKind::Label, QStringLiteral("GroupBits"));
     c.add(QStringLiteral("LOptionHex"), ControlKind::Label, QStringLiteral("GroupBits"));
 
-    // Read only for now: the options are shown as the validator holds them.
-    for (const char *name : {"GroupType", "GroupTypeLight", "GroupSortie"})
-        c.setEnabled(QLatin1String(name), false);
-    for (const char *name : kCheckBoxes)
-        c.setEnabled(QLatin1String(name), false);
     retranslate();
 }
 
@@ -148,6 +143,8 @@ void OptionsModel::display(const IdentityModel::Gates &gates)
         c.setChecked(QLatin1String(box.name), box.activeLow ? !bitSet : bitSet);
         c.setVisible(QLatin1String(box.name), (box.types >> type) & 1);
     }
+    // "Confida" goes with the binary output.
+    c.setEnabled(QStringLiteral("ChkConfida"), m_s.checked(QStringLiteral("ChkBinaire")));
     // The separator's three-way choice: off, with normal output, with inverted output.
     const bool separatorOn = !(word[0] & 0x04);
     c.setChecked(QStringLiteral("CheckBox6"), separatorOn && (word[0] & 0x08));

@@ -17,11 +17,25 @@ public:
     void display(const IdentityModel::Gates &gates);
     void showModel(bool light) { m_light = light; }
 
+    // A click on one of the option boxes; false when the name is none of them. Every box
+    // except the outlet marks the configuration modified.
+    bool click(const QString &name);
+    // The output type's bits in the option word (item 5 is item 2).
+    void applyType(int type);
+    void pickOutlet(int item);
+    // "Separator" and "Binary output" together need firmware later than 26 March 2002.
+    bool separatorWithBinary() const;
+
     // The check boxes in the order of the options group.
     static const char *const kCheckBoxes[];
     static const int kCheckBoxCount;
 
 private:
+    bool checkedAfterClick(const QString &name, const QString &clicked) const;
+    void setBit(int byte, quint8 mask, bool on);
+    void flip(int byte, quint8 mask);
+    bool visibleAndChecked(const char *name) const;
+    void multiPulse(bool checked);
     void displayBits();
     void displayOutletItems();
 

@@ -5,6 +5,7 @@
 #include "FileDialog.h"
 #include "GuiEditorServices.h"
 #include "Messages.h"
+#include "RadioGroup.h"
 #include "RecordingPrompt.h"
 #include "SimTransport.h"
 #include "VirtualValidator.h"
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -229,6 +231,33 @@ private Q_SLOTS:
         QVERIFY(editor.open());
         QTRY_VERIFY(!editor.form.isVisible());
         QVERIFY(editor.prompt.asked().isEmpty()); // the opening read does not ask to connect
+    }
+
+    void theSettingsAnswerClicksAndTyping()
+    {
+        Editor editor;
+        QVERIFY(editor.open());
+        // A type click loads its default prices into the boxes.
+        auto *types = editor.find<RadioGroup>("GroupType");
+        QTest::mouseClick(types->item(4), Qt::LeftButton);
+        QCOMPARE(editor.form.model().image().options[0], quint8(0xF5));
+        QCOMPARE(editor.find<QLineEdit>("EPrix5")->text(), QStringLiteral("     3"));
+        QVERIFY(editor.find<QLineEdit>("Eprix4")->isEnabled() == false); // no price 1 yet
+
+        // Back to the validator output: a pulse too long is brought to 630 ms.
+        QTest::mouseClick(types->item(0), Qt::LeftButton);
+        editor.typeAndLeave("Eprix6", QStringLiteral("700"));
+        QCOMPARE(editor.prompt.told().last(),
+                 QStringLiteral("Value over 630 ms, it will be adjusted!"));
+        QCOMPARE(editor.find<QLineEdit>("Eprix6")->text(), QStringLiteral("   630"));
+
+        // The code table: its box shows the lamps, a lamp click changes the code.
+        QTest::mouseClick(editor.find<QCheckBox>("ChkCode"), Qt::LeftButton);
+        editor.typeAndLeave("Edit1", QStringLiteral("1"));
+        QVERIFY(editor.find<QWidget>("Image19")->isVisible());
+        QTest::mouseClick(editor.find<QAbstractButton>("Image38"), Qt::LeftButton);
+        QCOMPARE(editor.form.model().image().prices[2], quint8(33));
+        QCOMPARE(editor.find<QLineEdit>("Edit1")->text(), QStringLiteral("   33"));
     }
 
     void theButtonsReachTheModel()

@@ -1,0 +1,304 @@
+// The money, option and counter rules of the editor model, over a factory image.
+#include "EditorModel.h"
+#include "EditorServices.h"
+#include "Encodings.h"
+#include "RecordingPrompt.h"
+#include "VirtualValidator.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Rules
+{
+    explicit Rules(quint8 family = 0x13)
+    {
+        setEncodingSettings(EncodingSettings{u'.', u'/', 1});
+        model.loadImage(VirtualValidator::factoryImage(family, 1001), false);
+    }
+    void edit(const QString &name, const QString &text)
+    {
+        ASSERT_TRUE(model.type(name, text)) << name.toStdString();
+        ASSERT_TRUE(model.leave(name));
+    }
+    void click(const QString &name) { ASSERT_TRUE(model.click(name)) << name.toStdString(); }
+    void pick(const QString &name, int item) { ASSERT_TRUE(model.pick(name, item)); }
+    QString text(const QString &name) const { return model.control(name).text; }
+    bool checked(const QString &name) const { return model.control(name).checked; }
+    bool visible(const QString &name) const { return model.control(name).visible; }
+    bool enabled(const QString &name) const { return model.control(name).enabled; }
+    const ConfigImage &image() const { return model.image(); }
+    quint8 option(int byte) const { return image().options[std::size_t(byte)]; }
+
+    RecordingPrompt prompt;
+    DefaultEditorServices services;
+    EditorModel model{&prompt, &services};
+};
+
+} // namespace
+
+TEST(OutputType, EachTypeSetsItsBitsAndDefaultPrices)
+{
+    Rules r;
+    ASSERT_EQ(r.option(1), 0xCF);
+    r.pick("GroupType", 4);
+    EXPECT_EQ(r.option(0), 0xF5);
+    EXPECT_EQ(r.option(1), 0xC8); // bits 3-5 kept, 6-7 set, 0-2 cleared
+    EXPECT_EQ(r.image().prices, (PriceBlock{255, 1, 10, 255, 3, 2}));
+    EXPECT_TRUE(r.model.flags().configModified);
+    EXPECT_EQ(r.model.control("GroupType").itemIndex, 4);
+
+    // "50 - " ends on "20 - Totalizer - video game".
+    r.pick("GroupType", 5);
+    EXPECT_EQ(r.model.control("GroupType").itemIndex, 2);
+    EXPECT_EQ(r.option(0), 0xF7);
+    EXPECT_EQ(r.option(1) & 0x07, 1);
+
+    for (int type : {6, 7, 3, 1, 0}) {
+        r.pick("GroupType", type);
+        EXPECT_EQ(r.model.control("GroupType").itemIndex, type);
+    }
+    EXPECT_EQ(r.image().prices, (PriceBlock{255, 255, 255, 255, 255, 10}));
+
+    Rules light(0x33);
+    light.pick("GroupTypeLight", 1);
+    EXPECT_EQ(light.option(1) & 0x07, 1);
+    EXPECT_EQ(light.model.control("GroupTypeLight").itemIndex, 1);
+}
+
+TEST(Prices, SlotsStoreByTypeAndPulseWidthIsLimited)
+{
+    Rules r;
+    r.edit("Eprix6", "700");
+    EXPECT_EQ(r.prompt.told(), QStringList{"Value over 630 ms, it will be adjusted!"});
+    EXPECT_EQ(r.image().prices[5], 63);
+    EXPECT_EQ(r.text("Eprix6"), QStringLiteral("   630"));
+    r.edit("Eprix6", "125");
+    EXPECT_EQ(r.image().prices[5], 12);
+    EXPECT_EQ(r.text("Eprix6"), QStringLiteral("   120"));
+    r.edit("Eprix1", "0.50"); // a price against base 1 (0.05)
+    EXPECT_EQ(r.image().prices[0], 10);
+    r.prompt.clear();
+    r.edit("Eprix2", "abc");
+    EXPECT_EQ(r.prompt.told(), QStringList{"Value must be between 0 and 255"});
+    EXPECT_EQ(r.image().prices[1], 255);
+
+    // Passing through a box changes nothing.
+    r.model.flags().configModified = false;
+    ASSERT_TRUE(r.model.leave("Eprix6"));
+    EXPECT_EQ(r.text("Eprix6"), QStringLiteral("   120"));
+    EXPECT_FALSE(r.model.flags().configModified);
+
+    // Type 1: slot 3 in tens while "External reset" is checked, as the type's bits start it.
+    r.pick("GroupType", 1);
+    ASSERT_TRUE(r.checked("ChkResetEx"));
+    r.edit("EPrix3", "55");
+    EXPECT_EQ(r.image().prices[2], 5);
+    EXPECT_EQ(r.text("EPrix3"), QStringLiteral("    50"));
+    r.click("ChkResetEx");
+    r.edit("EPrix3", "55");
+    EXPECT_EQ(r.image().prices[2], 55);
+}
+
+TEST(Prices, ChainedEnablingUnderTheCreditTypes)
+{
+    Rules r;
+    r.pick("GroupType", 2);
+    r.edit("Eprix1", "0.10");
+    EXPECT_TRUE(r.enabled("Eprix4"));
+    r.edit("Eprix1", "");
+    for (const char *name : {"Eprix4", "LValueP4", "Eprix6", "LValueP6"})
+        EXPECT_FALSE(r.enabled(name)) << name;
+    r.edit("Eprix1", "0.10");
+    r.edit("Eprix4", "0.20");
+    EXPECT_TRUE(r.enabled("EPrix5"));
+    EXPECT_TRUE(r.enabled("Eprix6"));
+    r.pick("GroupType", 1); // not a chained type
+    EXPECT_TRUE(r.enabled("Eprix4"));
+}
+
+TEST(Bases, EqualBasesFollowAndTheSecondIsNeverClearedAlone)
+{
+    Rules r;
+    r.edit("EBase1", "0.10");
+    EXPECT_EQ(r.prompt.told(),
+              QStringList{"Modifing this value will take effect on channels from 1 to 30 !"});
+    EXPECT_EQ(r.text("Ebase2"), QStringLiteral("  0.10"));
+    EXPECT_EQ(r.image().values[3], 10);
+    // Bytes stay; amounts follow the base.
+    EXPECT_EQ(r.image().valueByte(0), 1);
+    EXPECT_EQ(r.text("Value0"), QStringLiteral("  0.10"));
+
+    r.prompt.clear();
+    r.edit("Ebase2", "0.20");
+    EXPECT_EQ(r.prompt.told(),
+              QStringList{"Modifing this value will take effect on channels from 31 to 60 !"});
+    r.edit("EBase1", "0.05");
+    EXPECT_EQ(r.text("Ebase2"), QStringLiteral("  0.20"));
+
+    r.prompt.clear();
+    r.edit("Ebase2", "");
+    EXPECT_TRUE(r.prompt.told().isEmpty());
+    EXPECT_EQ(r.text("Ebase2"), QStringLiteral("  0.05"));
+    EXPECT_EQ(r.image().values[2], r.image().values[0]);
+    EXPECT_EQ(r.image().values[3], r.image().values[1]);
+}
+
+TEST(Bases, ClearingBaseOneNeedsTheCounterOff)
+{
+    Rules r;
+    r.click("RazEnable");
+    r.click("CounterEnable"); // counting on
+    ASSERT_TRUE(r.checked("CounterEnable"));
+    r.edit("EBase1", "");
+    EXPECT_EQ(r.prompt.told().first(), QStringLiteral("Wrong way! Please the counter must be "
+                                                      "desactived if the base value is clear"));
+    EXPECT_EQ(r.text("EBase1"), QStringLiteral("  0.05"));
+
+    r.click("CounterEnable"); // counting off
+    r.edit("EBase1", "");
+    EXPECT_EQ(r.image().values[0], 0xFF);
+    EXPECT_EQ(r.image().values[1], 0xFF);
+    EXPECT_EQ(r.image().counters, CounterBlock{});
+}
+
+TEST(MultiPulse, ValueAndSubstituteAreCheckedFromBothSides)
+{
+    // Channels 1 to 6 are worth 1, 2, 4, 10, 20 and 40 units of 0.05.
+    Rules r;
+    r.click("CheckBox5");
+    ASSERT_TRUE(r.checked("CheckBox5"));
+    EXPECT_EQ(r.option(0) & 0x10, 0);
+    const QString refused =
+        QStringLiteral("The value of channels 6 and 1 is incompatible for the function "
+                       "multi-pulse (max 5 pulses)");
+    r.edit("Sub5", "1"); // 40 times: refused
+    EXPECT_EQ(r.prompt.told(), QStringList{refused});
+    EXPECT_EQ(r.image().channels[5][Rec::Substitute], 255);
+    EXPECT_EQ(r.text("Sub5"), QString());
+    r.edit("Sub2", "1"); // 4 times
+    EXPECT_EQ(r.image().channels[2][Rec::Substitute], 1);
+    r.edit("Sub0", "3"); // worth less than its substitute: refused from this side
+    EXPECT_EQ(r.image().channels[0][Rec::Substitute], 255);
+
+    r.prompt.clear();
+    r.edit("Value2", "0.30"); // 6 times its substitute
+    EXPECT_EQ(r.prompt.told().size(), 1);
+    EXPECT_EQ(r.image().valueByte(2), 4);
+    r.edit("Value2", "0.25"); // 5 times
+    EXPECT_EQ(r.image().valueByte(2), 5);
+    r.edit("Value2", "0.00"); // below its substitute: accepted from this side
+    EXPECT_EQ(r.image().valueByte(2), 0);
+
+    // Checking the box again tests every channel.
+    r.edit("Value2", "0.25");
+    r.click("CheckBox5");
+    r.model.flags().editChanged = false;
+    ConfigImage image = r.image();
+    image.values[Val::Channel0 + 2] = 6;
+    r.model.loadImage(image, false);
+    r.prompt.clear();
+    r.click("CheckBox5");
+    EXPECT_EQ(r.prompt.told().size(), 1);
+    EXPECT_FALSE(r.checked("CheckBox5"));
+    EXPECT_EQ(r.option(0) & 0x10, 0x10);
+}
+
+TEST(Options, ExclusionsAndSharedHandlers)
+{
+    Rules r;
+    r.click("ChkInibhition");
+    EXPECT_TRUE(r.checked("ChkInibhition"));
+    r.click("ChkDip");
+    EXPECT_FALSE(r.checked("ChkInibhition"));
+    EXPECT_EQ(r.option(0) & 0x88, 0x08); // bit 3 = 1, bit 7 = 0
+
+    // Under a totalizer: the separator's three ways, and the display.
+    r.pick("GroupType", 2);
+    r.click("CheckBox6");
+    r.click("CheckBox7");
+    EXPECT_FALSE(r.checked("CheckBox6"));
+    EXPECT_TRUE(r.checked("CheckBox7"));
+    EXPECT_EQ(r.option(0) & 0x0C, 0x00);
+    r.click("ChkAfficheur"); // display off
+    r.click("ChkAfficheur"); // display on again: no separator
+    EXPECT_FALSE(r.checked("CheckBox7"));
+    EXPECT_EQ(r.option(0) & 0x04, 0x04);
+
+    // "Standby mode" sets bit 0 from "Binary output", not from its own box.
+    const quint8 before = r.option(0);
+    r.click("ChkStandby");
+    EXPECT_EQ(r.option(0), before);
+
+    // The outlet does not mark the configuration modified.
+    r.model.flags().configModified = false;
+    r.pick("GroupSortie", 0);
+    EXPECT_EQ(r.option(1) & 0x08, 0);
+    EXPECT_FALSE(r.model.flags().configModified);
+    r.click("ChkTmpDsp");
+    EXPECT_TRUE(r.model.flags().configModified);
+}
+
+TEST(Counters, CountingNeedsErasableCountersAndStartsFromZero)
+{
+    Rules r;
+    const OptionWord word = r.image().options;
+    r.click("CounterEnable");
+    EXPECT_EQ(r.image().options, word);
+    EXPECT_FALSE(r.checked("CounterEnable"));
+    EXPECT_EQ(r.text("CounterEnable"), QStringLiteral("Desactived"));
+
+    r.pick("GroupType", 1);
+    r.click("RazEnable");
+    EXPECT_TRUE(r.visible("Button1"));
+    EXPECT_TRUE(r.visible("Button2"));
+    r.click("CounterEnable");
+    EXPECT_EQ(r.text("CounterEnable"), QStringLiteral("Actived"));
+    EXPECT_EQ(r.image().counters, (CounterBlock{0, 0, 0xFF, 0xFF, 0, 0, 0xFF, 0xFF}));
+    EXPECT_EQ(r.text("LCounterValue1"), QStringLiteral("0"));
+
+    r.click("ChkLimit1");
+    ASSERT_TRUE(r.visible("LabeledEdit3"));
+    r.edit("LabeledEdit3", "1234.6");
+    EXPECT_EQ(r.image().counters[2], 0x04);
+    EXPECT_EQ(r.image().counters[3], 0xD3);
+    EXPECT_EQ(r.text("LabeledEdit3"), QStringLiteral("      1235"));
+    r.edit("LabeledEdit3", "abc");
+    EXPECT_EQ(r.image().counters[3], 0xD3);
+    r.edit("LabeledEdit3", "65535");
+    EXPECT_EQ(r.text("LabeledEdit3"), QString());
+    r.edit("LabeledEdit3", "");
+    EXPECT_EQ(r.image().counters[2], 0xFF);
+
+    ConfigImage counted = r.image();
+    counted.counters[0] = 0x12;
+    r.model.loadImage(counted, false);
+    r.click("Button1");
+    EXPECT_EQ(r.image().counters[0], 0);
+    EXPECT_TRUE(r.model.flags().configModified);
+}
+
+TEST(CodeTable, CodesAndTheirLamps)
+{
+    Rules r;
+    EXPECT_FALSE(r.visible("Edit1"));
+    r.click("ChkCode");
+    ASSERT_TRUE(r.visible("Edit1"));
+    r.edit("Edit1", "5"); // 000101
+    EXPECT_EQ(r.image().prices[2], 5);
+    EXPECT_EQ(r.text("EPrix3"), QStringLiteral("     5"));
+    EXPECT_TRUE(r.visible("Image17"));
+    EXPECT_TRUE(r.visible("Image19"));
+    EXPECT_TRUE(r.visible("Image38"));
+    EXPECT_FALSE(r.visible("ImageLed"));
+    r.click("Image19"); // bit 0 off
+    EXPECT_EQ(r.image().prices[2], 4);
+    r.click("Image38"); // bit 5 on
+    EXPECT_EQ(r.image().prices[2], 36);
+    EXPECT_EQ(r.text("Edit1"), QStringLiteral("   36"));
+    EXPECT_EQ(r.text("LCodeState"), QStringLiteral("BAD")); // codes 2 and 3 not set
+    r.edit("Edit1", "64");
+    EXPECT_EQ(r.image().prices[2], 255);
+    EXPECT_TRUE(r.visible("Image38"));
+    EXPECT_FALSE(r.visible("Image17"));
+}
