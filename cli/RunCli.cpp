@@ -75,6 +75,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerWriteCommands(table);
     registerRecordCommands(table);
     registerEditorCommands(table);
+    registerLearnCommands(table);
 
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {

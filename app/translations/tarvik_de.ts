@@ -822,6 +822,14 @@
         <source>The file holds a %s validator but a %s validator is connected: nothing was written.</source>
         <translation>Die Datei enthält einen Münzprüfer %s, angeschlossen ist aber ein Münzprüfer %s: Es wurde nichts geschrieben.</translation>
     </message>
+    <message>
+        <source>%d Overlapping</source>
+        <translation>%d Überschneidungen</translation>
+    </message>
+    <message>
+        <source>%d superposition(s)</source>
+        <translation>%d Überlagerung(en)</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -876,6 +884,14 @@
     <message>
         <source>Test mode</source>
         <translation>Testmodus</translation>
+    </message>
+    <message>
+        <source>Golden token</source>
+        <translation>Goldener Jeton</translation>
+    </message>
+    <message>
+        <source>Silver token</source>
+        <translation>Silberner Jeton</translation>
     </message>
 </context>
 <context>

@@ -822,6 +822,14 @@
         <source>The file holds a %s validator but a %s validator is connected: nothing was written.</source>
         <translation>The file holds a %s validator but a %s validator is connected: nothing was written.</translation>
     </message>
+    <message>
+        <source>%d Overlapping</source>
+        <translation>%d Overlapping</translation>
+    </message>
+    <message>
+        <source>%d superposition(s)</source>
+        <translation>%d superposition(s)</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -876,6 +884,14 @@
     <message>
         <source>Test mode</source>
         <translation>Test mode</translation>
+    </message>
+    <message>
+        <source>Golden token</source>
+        <translation>Golden token</translation>
+    </message>
+    <message>
+        <source>Silver token</source>
+        <translation>Silver token</translation>
     </message>
 </context>
 <context>

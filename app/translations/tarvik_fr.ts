@@ -822,6 +822,14 @@
         <source>The file holds a %s validator but a %s validator is connected: nothing was written.</source>
         <translation>Le fichier contient un monnayeur %s mais un monnayeur %s est connecté : rien n&apos;a été écrit.</translation>
     </message>
+    <message>
+        <source>%d Overlapping</source>
+        <translation>%d chevauchement(s)</translation>
+    </message>
+    <message>
+        <source>%d superposition(s)</source>
+        <translation>%d superposition(s)</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -876,6 +884,14 @@
     <message>
         <source>Test mode</source>
         <translation>Mode test</translation>
+    </message>
+    <message>
+        <source>Golden token</source>
+        <translation>Jeton doré</translation>
+    </message>
+    <message>
+        <source>Silver token</source>
+        <translation>Jeton argenté</translation>
     </message>
 </context>
 <context>

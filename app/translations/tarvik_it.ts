@@ -822,6 +822,14 @@
         <source>The file holds a %s validator but a %s validator is connected: nothing was written.</source>
         <translation>Il file contiene una gettoniera %s ma è collegata una gettoniera %s: non è stato scritto nulla.</translation>
     </message>
+    <message>
+        <source>%d Overlapping</source>
+        <translation>%d sovrapposizioni</translation>
+    </message>
+    <message>
+        <source>%d superposition(s)</source>
+        <translation>%d sovrapposizione/i</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -876,6 +884,14 @@
     <message>
         <source>Test mode</source>
         <translation>Modalità test</translation>
+    </message>
+    <message>
+        <source>Golden token</source>
+        <translation>Gettone dorato</translation>
+    </message>
+    <message>
+        <source>Silver token</source>
+        <translation>Gettone argentato</translation>
     </message>
 </context>
 <context>

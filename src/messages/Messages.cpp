@@ -84,6 +84,8 @@ constexpr Entry kTable[] = {
     {Msg::ProgrammingError, QT_TRANSLATE_NOOP("Messages", "Programming Error !")},
     {Msg::ChannelEmpty, QT_TRANSLATE_NOOP("Messages", "Channel %d is empty! No data to control.")},
     {Msg::NoOverlapping, QT_TRANSLATE_NOOP("Messages", "No overlapping !")},
+    {Msg::Overlapping, QT_TRANSLATE_NOOP("Messages", "%d Overlapping")},
+    {Msg::Superpositions, QT_TRANSLATE_NOOP("Messages", "%d superposition(s)")},
     {Msg::TableTransferred,
      QT_TRANSLATE_NOOP("Messages", "Table of values transferred in the validator!")},
     {Msg::AllDataTransferred, QT_TRANSLATE_NOOP("Messages", "All data transfered !")},

@@ -58,6 +58,8 @@ enum class Msg
     ProgrammingError,
     ChannelEmpty,
     NoOverlapping,
+    Overlapping,
+    Superpositions,
     // value tables
     TableTransferred,
     AllDataTransferred,

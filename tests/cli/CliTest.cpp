@@ -3,6 +3,7 @@
 #include "CliContext.h"
 #include "ConfigFile.h"
 #include "SimProcess.h"
+#include "VirtualValidator.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -146,6 +147,24 @@ TEST_F(Cli, ShowAndEditDriveTheEditorOverAFile)
         cli({"--simulate", "edit", "--answer", "yes", file, "EHFUBMIN6=12", "BitBtn1"});
     EXPECT_TRUE(closed.err.contains("Save on validator? -> yes"));
     EXPECT_TRUE(closed.err.contains("Finished operation!"));
+}
+
+TEST_F(Cli, OverlapListsThePairsOfAFile)
+{
+    const QString file = dir.filePath("v.json");
+    ConfigImage image = VirtualValidator::factoryImage(0x13, 1001);
+    QString error;
+    ASSERT_TRUE(saveConfigFile(file, image, &error));
+    const InProcess none = cli({"overlap", file});
+    EXPECT_EQ(none.code, kExitOk);
+    EXPECT_EQ(none.out, QStringLiteral("No overlapping !\n"));
+
+    image.channels[9] = image.channels[2]; // channel 10 learned the coin of channel 3
+    ASSERT_TRUE(saveConfigFile(file, image, &error));
+    const InProcess found = cli({"overlap", file});
+    EXPECT_EQ(found.code, kExitOk);
+    EXPECT_EQ(found.out, QStringLiteral("   1 | C   3 <--> C  10        \n1 Overlapping\n"));
+    EXPECT_EQ(cli({"overlap", dir.filePath("missing.json")}).code, kExitFailed);
 }
 
 TEST_F(Cli, BadFilesFailBeforeAnythingIsSent)
