@@ -44,7 +44,7 @@ SimulatorPanel::SimulatorPanel(VirtualValidator *device, QWidget *parent)
     m_familyBox->setCurrentIndex(qBound(0, int(memory.familyNibble()), 3));
     m_serialBox->setValue(int(qBound<quint32>(1, memory.serialNumber(), 99999999)));
     for (int k = 0; k < CoinGenerator::kindCount(); ++k)
-        m_coinBox->addItem(QString::fromLatin1(CoinGenerator::preset(CoinKind(k)).name));
+        m_coinBox->addItem(QString(), k); // named in retranslateUi
     m_doorBox->setChecked(m_device->doorOpen());
     m_cableBox->setChecked(m_device->connected());
     m_miniPgmBox->setChecked(m_device->miniProgrammer());
@@ -101,7 +101,22 @@ void SimulatorPanel::retranslateUi()
     m_firmwareRequestBtn->setAccessibleName(m_firmwareRequestBtn->text());
     m_testModeLabel->setText(tr("Test mode"));
     m_testModeLabel->setAccessibleName(m_testModeLabel->text());
+    for (int i = 0; i < m_coinBox->count(); ++i)
+        m_coinBox->setItemText(i, coinName(CoinKind(m_coinBox->itemData(i).toInt())));
     refresh();
+}
+
+QString SimulatorPanel::coinName(CoinKind kind)
+{
+    // Coins go by their face value in every language; the tokens by what they are.
+    switch (kind) {
+    case CoinKind::GoldenToken:
+        return tr("Golden token");
+    case CoinKind::SilverToken:
+        return tr("Silver token");
+    default:
+        return QString::fromLatin1(CoinGenerator::preset(kind).name);
+    }
 }
 
 void SimulatorPanel::changeEvent(QEvent *event)
@@ -120,7 +135,7 @@ void SimulatorPanel::fitValidator()
 
 void SimulatorPanel::insertCoin()
 {
-    m_device->insertCoin(CoinKind(m_coinBox->currentIndex()));
+    m_device->insertCoin(CoinKind(m_coinBox->currentData().toInt()));
     refresh();
 }
 

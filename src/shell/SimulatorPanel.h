@@ -10,6 +10,7 @@ class QLabel;
 class QPushButton;
 class QSpinBox;
 class VirtualValidator;
+enum class CoinKind;
 
 // The bench around the virtual validator: fit a validator of a family, insert coins, open the
 // door, pull the cable, switch to the mini-programmer or have it ask for firmware.
@@ -20,6 +21,9 @@ public:
     explicit SimulatorPanel(VirtualValidator *device, QWidget *parent = nullptr);
 
     static constexpr quint8 kFamilies[] = {0x03, 0x13, 0x23, 0x33};
+
+    // How the coin list names a coin or token, in the current language.
+    static QString coinName(CoinKind kind);
 
     // A factory-fresh validator of the chosen family and serial number.
     void fitValidator();

@@ -3,11 +3,13 @@
 #include "TMonnayeur.h"
 
 #include <QString>
+#include <QStringView>
 #include <array>
+#include <optional>
 #include <random>
 
-// The coins a technician has at the bench. Readings are in measurement order: HFU low, HFU high,
-// DIM, LF, HFL low, HFL high, AMP.
+// The coins and reference tokens a technician has at the bench. Readings are in measurement
+// order: HFU low, HFU high, DIM, LF, HFL low, HFL high, AMP.
 enum class CoinKind
 {
     Euro005,
@@ -16,15 +18,19 @@ enum class CoinKind
     Euro050,
     Euro100,
     Euro200,
-    ReferenceToken,
+    // The two tokens of the reference set: a recalibration takes HFU low, DIM, LF, HFL low and
+    // AMP from the golden tokens, HFU high and HFL high from the silver ones.
+    GoldenToken,
+    SilverToken,
     Count_
 };
 
 struct CoinPreset
 {
     CoinKind kind;
-    const char *name;    // "0.05 EUR", ..., "Reference token"
-    quint16 cents;       // face value, 0 for the token
+    const char *name;    // "0.05 EUR", ..., "Golden token", "Silver token"
+    const char *key;     // the name typed at the bench: "euro005", ..., "golden", "silver"
+    quint16 cents;       // face value, 0 for the tokens
     SampleBytes typical; // what a validator with no calibration offset reads on average
 };
 
@@ -39,8 +45,15 @@ public:
 
     static const CoinPreset &preset(CoinKind kind);
     static constexpr int kindCount() { return int(CoinKind::Count_); }
+    static bool isToken(CoinKind kind)
+    {
+        return kind == CoinKind::GoldenToken || kind == CoinKind::SilverToken;
+    }
+    // The kind a bench script names, case aside: its key ("euro050", "golden"), or its face
+    // value in euros ("0.50", "0,5", "2"), optionally followed by " EUR".
+    static std::optional<CoinKind> kindNamed(QStringView name);
     // The largest deviation of one reading from the typical value, per measurement. Reference
-    // tokens are made to tight tolerances and scatter by one unit at most.
+    // tokens are made to tighter tolerances than coins and stay within two units.
     static int scatter(CoinKind kind, int measurement);
     // The typical reading on a validator whose sensors read `offset` units high or low.
     static SampleBytes typical(CoinKind kind, int offset);

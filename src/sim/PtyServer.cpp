@@ -17,6 +17,11 @@ namespace {
 constexpr auto kIdleWait = std::chrono::milliseconds(100);
 // While no host holds the port the master reports errors; retry at this pace.
 constexpr auto kNoHostRetry = std::chrono::milliseconds(20);
+// A background job may not read its terminal; it looks again at this pace, so that commands
+// are heard once it is brought to the foreground.
+constexpr auto kBackgroundRetry = std::chrono::seconds(1);
+// A command line longer than this is taken as it is, so that endless input cannot fill memory.
+constexpr qsizetype kLongestLine = 4096;
 
 timespec toTimespec(std::chrono::nanoseconds d)
 {
@@ -85,9 +90,12 @@ void PtyServer::serve(const volatile std::sig_atomic_t *stop)
             wait = std::min(wait, *next - now);
         for (const TimedAction &timed : m_actions)
             wait = std::min(wait, timed.due - now);
-        pollfd fd{m_master, POLLIN, 0};
+        const bool watchInput = m_input >= 0 && now >= m_inputResumes;
+        if (m_input >= 0 && !watchInput)
+            wait = std::min(wait, m_inputResumes - now);
+        pollfd fds[2] = {{m_master, POLLIN, 0}, {m_input, POLLIN, 0}};
         const timespec timeout = toTimespec(wait);
-        const int ready = ::ppoll(&fd, 1, &timeout, nullptr);
+        const int ready = ::ppoll(fds, watchInput ? 2 : 1, &timeout, nullptr);
         if (ready < 0) {
             if (errno == EINTR)
                 continue;
@@ -95,6 +103,11 @@ void PtyServer::serve(const volatile std::sig_atomic_t *stop)
             continue;
         }
         if (ready == 0)
+            continue;
+        if (watchInput && fds[1].revents != 0)
+            readCommands();
+        const pollfd &fd = fds[0];
+        if (fd.revents == 0)
             continue;
         if (fd.revents & POLLIN) {
             const ssize_t n = ::read(m_master, buffer, sizeof buffer);
@@ -114,6 +127,42 @@ void PtyServer::serve(const volatile std::sig_atomic_t *stop)
 void PtyServer::runAfter(std::chrono::milliseconds after, std::function<void()> action)
 {
     m_actions.push_back({LineTiming::Clock::now() + after, std::move(action)});
+}
+
+void PtyServer::setCommandInput(int fd, std::function<void(const QByteArray &)> onLine)
+{
+    m_input = fd;
+    m_onLine = std::move(onLine);
+    m_partialLine.clear();
+}
+
+void PtyServer::readCommands()
+{
+    char buffer[512];
+    const ssize_t n = ::read(m_input, buffer, sizeof buffer);
+    if (n < 0 && (errno == EINTR || errno == EAGAIN))
+        return;
+    if (n < 0 && errno == EIO) { // a background job reading its terminal, SIGTTIN ignored
+        m_inputResumes = LineTiming::Clock::now() + kBackgroundRetry;
+        return;
+    }
+    if (n <= 0) {
+        // The end of the script; a last line without its line end still counts.
+        m_input = -1;
+        if (!m_partialLine.isEmpty())
+            m_onLine(std::exchange(m_partialLine, {}));
+        return;
+    }
+    m_partialLine.append(buffer, qsizetype(n));
+    for (qsizetype end; (end = m_partialLine.indexOf('\n')) >= 0;) {
+        QByteArray line = m_partialLine.left(end);
+        m_partialLine.remove(0, end + 1);
+        if (line.endsWith('\r'))
+            line.chop(1);
+        m_onLine(line);
+    }
+    if (m_partialLine.size() > kLongestLine)
+        m_onLine(std::exchange(m_partialLine, {}));
 }
 
 void PtyServer::runDueActions()

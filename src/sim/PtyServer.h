@@ -2,6 +2,7 @@
 
 #include "LineTiming.h"
 
+#include <QByteArray>
 #include <QString>
 #include <csignal>
 #include <functional>
@@ -30,6 +31,11 @@ public:
     // makes unasked. Call before serve().
     void runAfter(std::chrono::milliseconds after, std::function<void()> action);
 
+    // Reads lines from `fd` (standard input) on the serving loop, between exchanges, and hands
+    // each to `onLine` without its line end. The end of the input ends the reading, not the
+    // service. Call before serve().
+    void setCommandInput(int fd, std::function<void(const QByteArray &line)> onLine);
+
     // Serves until *stop becomes non-zero (set from a signal handler). Bytes the device sends
     // unasked go out as soon as they are made, whether the host is sending or not.
     void serve(const volatile std::sig_atomic_t *stop);
@@ -42,6 +48,7 @@ private:
     };
 
     void runDueActions();
+    void readCommands();
     void collectUnsolicited();
     void hostBytes(const char *bytes, int n);
     void sendDue();
@@ -56,4 +63,9 @@ private:
     int m_printedExchanges = 0;
     int m_reportedBlocks = 0;
     std::vector<TimedAction> m_actions;
+    int m_input = -1;
+    std::function<void(const QByteArray &)> m_onLine;
+    QByteArray m_partialLine;
+    // A background job on a terminal may not read it; it tries again after a while.
+    LineTiming::Clock::time_point m_inputResumes;
 };

@@ -21,8 +21,12 @@ constexpr std::array<std::pair<int, int>, 7> kWindowBytes = {{
 }};
 // The learning tolerances a factory applies on top of the coins' own scatter.
 constexpr std::array<int, 7> kFactoryTolerance = {4, 4, 1, 2, 8, 8, 8};
-// Reference windows are four units wide.
+// Reference windows are four units wide, as a recalibration makes them; the tokens' readings
+// stay inside.
 constexpr int kReferenceHalfWidth = 2;
+// The reference channel holds the silver token's readings on HFU high and HFL high (record
+// bytes 0/1 and 8/9) and the golden token's on the other five windows.
+constexpr std::array<bool, 7> kSilverWindow = {false, true, false, false, false, true, false};
 
 // The coins of a factory set-up, channel k holding coin k, valued in multiples of 0.05.
 struct FactoryCoin
@@ -145,9 +149,14 @@ ConfigImage VirtualValidator::factoryImage(quint8 familyByte, quint32 serial)
 
     std::array<int, 7> referenceHalfWidth{};
     referenceHalfWidth.fill(kReferenceHalfWidth);
+    SampleBytes referenceCentre = CoinGenerator::typical(CoinKind::GoldenToken, offset);
+    const SampleBytes silver = CoinGenerator::typical(CoinKind::SilverToken, offset);
+    for (std::size_t m = 0; m < referenceCentre.size(); ++m) {
+        if (kSilverWindow[m])
+            referenceCentre[m] = silver[m];
+    }
     ChannelRecord &reference = image.channels[std::size_t(image.referenceChannel())];
-    setWindows(reference, CoinGenerator::typical(CoinKind::ReferenceToken, offset), withAmplitude,
-               referenceHalfWidth);
+    setWindows(reference, referenceCentre, withAmplitude, referenceHalfWidth);
     reference[Rec::Enabled] = 0;
 
     for (auto &record : image.channels) {

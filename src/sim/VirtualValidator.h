@@ -48,8 +48,8 @@ public:
     Q_DISABLE_COPY_MOVE(VirtualValidator)
 
     // A realistic, fully programmed memory: versions, dates, serial, six coin channels learned
-    // with the usual tolerances, the reference token in the last channel, values, prices,
-    // options and enable bits. Different serials and families give different images.
+    // with the usual tolerances, the reference tokens' windows in the last channel, values,
+    // prices, options and enable bits. Different serials and families give different images.
     static ConfigImage factoryImage(quint8 familyByte, quint32 serial);
     // How many units this serial's sensors read above (or below) a typical validator.
     static int calibrationOffset(quint32 serial);

@@ -1,6 +1,8 @@
 // tarvik-sim: a virtual validator on a pseudo-terminal. The first line on stdout is the path of
-// the port to open; the device is served until SIGTERM or SIGINT.
+// the port to open; the device is served until SIGTERM or SIGINT. Bench commands (coins, door,
+// cable) come one a line on stdin.
 
+#include "BenchCommands.h"
 #include "ConfigFile.h"
 #include "LineTiming.h"
 #include "PtyServer.h"
@@ -12,6 +14,7 @@
 #include <csignal>
 #include <cstdio>
 #include <optional>
+#include <unistd.h>
 
 namespace {
 
@@ -30,6 +33,8 @@ void installStopHandlers()
     action.sa_flags = 0; // no restart: a waiting poll returns at once
     sigaction(SIGTERM, &action, nullptr);
     sigaction(SIGINT, &action, nullptr);
+    // Started in the background from a shell, reading the terminal must not stop the device.
+    std::signal(SIGTTIN, SIG_IGN);
 }
 
 int fail(const QString &text)
@@ -72,7 +77,9 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Virtual coin validator on a pseudo-terminal. Prints the port path as the "
-                       "first line and serves until SIGTERM or SIGINT."));
+                       "first line and serves until SIGTERM or SIGINT.\n\n"
+                       "Bench commands, one a line on standard input, act between exchanges:\n") +
+        BenchCommands::help().trimmed());
     parser.addHelpOption();
     const QCommandLineOption family({QStringLiteral("family")},
                                     QStringLiteral("Firmware family byte (default 0x13)."),
@@ -203,6 +210,17 @@ int main(int argc, char *argv[])
     if (requestAfterMs)
         server.runAfter(std::chrono::milliseconds(*requestAfterMs),
                         [&device] { device.requestFirmware(); });
+
+    BenchCommands commands(&device);
+    server.setCommandInput(STDIN_FILENO, [&commands](const QByteArray &line) {
+        const BenchCommands::Reply reply = commands.run(QString::fromLocal8Bit(line));
+        if (!reply.output.isEmpty()) {
+            std::fputs(qPrintable(reply.output), stdout);
+            std::fflush(stdout);
+        }
+        if (!reply.error.isEmpty())
+            std::fprintf(stderr, "tarvik-sim: %s\n", qPrintable(reply.error));
+    });
 
     installStopHandlers();
     std::printf("%s\n", qPrintable(server.slavePath()));

@@ -223,8 +223,9 @@ TEST(SimLinkTest, TestModeSendsTheAcceptingChannelUnasked)
         b.transport.setReadTimeout(0); // the byte is already waiting
         b.device.insertCoin(CoinKind::Euro020);
         EXPECT_EQ(b.transport.read(1).toHex(), "03") << int(family);
-        // The reference channel holds the token but is not enabled; no channel holds a blank.
-        b.device.insertCoin(CoinKind::ReferenceToken);
+        // The reference channel holds the tokens but is not enabled; no channel holds a blank.
+        b.device.insertCoin(CoinKind::GoldenToken);
+        b.device.insertCoin(CoinKind::SilverToken);
         b.device.queueCoin({0, 0, 0, 0, 0, 0, 0});
         b.transport.setReadTimeout(SimTransport::kDefaultReadTimeoutMs);
         EXPECT_TRUE(b.transport.read(1).isEmpty());

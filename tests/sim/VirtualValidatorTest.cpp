@@ -71,9 +71,9 @@ TEST(VirtualValidatorTest, InsertedCoinsFallInTheirFactoryChannel)
         for (quint32 serial : {1000u, 1001u, 1002u, 1003u, 1004u}) {
             VirtualValidator device(family, serial);
             for (int kind = 0; kind < CoinGenerator::kindCount(); ++kind) {
-                const int expected = kind == int(CoinKind::ReferenceToken)
-                                         ? device.memory().referenceChannel()
-                                         : kind;
+                // The reference channel mixes the two tokens' windows: neither token matches
+                // all of it, and no coin channel takes a token.
+                const int expected = CoinGenerator::isToken(CoinKind(kind)) ? -1 : kind;
                 for (int i = 0; i < 40; ++i) {
                     device.insertCoin(CoinKind(kind));
                     const QList<DeviceOutput> out = device.receive(QByteArray::fromHex("0001"));
@@ -81,6 +81,55 @@ TEST(VirtualValidatorTest, InsertedCoinsFallInTheirFactoryChannel)
                     SampleBytes s{};
                     std::copy(out[1].bytes.begin(), out[1].bytes.end(), s.begin());
                     EXPECT_EQ(matchingChannel(device.memory(), s, family != 0x03), expected);
+                }
+            }
+        }
+    }
+}
+
+TEST(VirtualValidatorTest, TokensScatterAFewUnitsThroughTheSensorOffsetIntoTheReferenceWindows)
+{
+    // Record bytes (max, min) of each measurement's window, and which token sets it.
+    const int windows[7][2] = {{2, 3}, {0, 1}, {6, 7}, {4, 5}, {10, 11}, {8, 9}, {12, 13}};
+    const bool setBySilver[7] = {false, true, false, false, false, true, false};
+    const bool followsOffset[7] = {true, true, false, true, true, true, false}; // not DIM, AMP
+    constexpr int kSamples = 60;
+    for (quint8 family : {0x03, 0x13}) {
+        for (quint32 serial : {1000u, 1002u, 1004u}) { // offsets -2, 0, 2
+            VirtualValidator device(family, serial);
+            const int offset = VirtualValidator::calibrationOffset(serial);
+            const ChannelRecord &reference =
+                device.memory().channels[std::size_t(device.memory().referenceChannel())];
+            for (CoinKind kind : {CoinKind::GoldenToken, CoinKind::SilverToken}) {
+                const bool silver = kind == CoinKind::SilverToken;
+                const int measured = family == 0x03 ? 6 : 7;
+                std::array<int, 7> low{}, high{};
+                low.fill(255);
+                high.fill(0);
+                for (int i = 0; i < kSamples; ++i) {
+                    device.insertCoin(kind);
+                    const QList<DeviceOutput> out = device.receive(QByteArray::fromHex("0001"));
+                    ASSERT_EQ(out.size(), 2);
+                    ASSERT_EQ(out[1].bytes.size(), measured);
+                    for (int m = 0; m < measured; ++m) {
+                        const int r = quint8(out[1].bytes[m]);
+                        low[m] = std::min(low[m], r);
+                        high[m] = std::max(high[m], r);
+                        if (setBySilver[m] == silver) {
+                            EXPECT_LE(reference[std::size_t(windows[m][1])], r) << m;
+                            EXPECT_LE(r, reference[std::size_t(windows[m][0])]) << m;
+                        }
+                    }
+                }
+                const SampleBytes &typical = CoinGenerator::preset(kind).typical;
+                for (int m = 0; m < measured; ++m) {
+                    const int centre = typical[std::size_t(m)] + (followsOffset[m] ? offset : 0);
+                    const std::string where = "kind " + std::to_string(int(kind)) + ", serial " +
+                                              std::to_string(serial) + ", measurement " +
+                                              std::to_string(m);
+                    EXPECT_GE(low[m], centre - 2) << where;
+                    EXPECT_LE(high[m], centre + 2) << where;
+                    EXPECT_GT(high[m], low[m]) << where; // a real token never reads the same
                 }
             }
         }

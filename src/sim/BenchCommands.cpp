@@ -1,0 +1,78 @@
+#include "BenchCommands.h"
+
+#include "VirtualValidator.h"
+
+namespace {
+
+BenchCommands::Reply failure(const QString &text)
+{
+    return {{}, text};
+}
+
+} // namespace
+
+QString BenchCommands::help()
+{
+    return QStringLiteral(
+        "coin NAME [COUNT]  insert COUNT coins (1 unless given); NAME is 0.05, 0.10, 0.20, 0.50,\n"
+        "                   1.00 or 2.00 (or euro005 ... euro200), golden or silver (tokens)\n"
+        "door open|closed   open or close the validator's door\n"
+        "cable out|in       pull the cable or plug it back in\n"
+        "help               list these commands\n");
+}
+
+BenchCommands::Reply BenchCommands::run(QStringView line)
+{
+    // Tabs and a carriage return from a script written elsewhere separate words too.
+    QStringList words = line.toString().simplified().split(u' ', Qt::SkipEmptyParts);
+    if (words.isEmpty())
+        return {};
+    const QString command = words.takeFirst().toLower();
+    const QString argument = words.size() == 1 ? words[0].toLower() : QString();
+    if (command == QLatin1String("coin"))
+        return coin(words);
+    if (command == QLatin1String("door")) {
+        if (argument != QLatin1String("open") && argument != QLatin1String("closed"))
+            return failure(QStringLiteral("door needs \"open\" or \"closed\""));
+        m_device->setDoorOpen(argument == QLatin1String("open"));
+        return {};
+    }
+    if (command == QLatin1String("cable")) {
+        if (argument != QLatin1String("out") && argument != QLatin1String("in"))
+            return failure(QStringLiteral("cable needs \"out\" or \"in\""));
+        m_device->setConnected(argument == QLatin1String("in"));
+        return {};
+    }
+    if (command == QLatin1String("help") && words.isEmpty())
+        return {help(), {}};
+    return failure(QStringLiteral("unknown command \"%1\"; \"help\" lists the commands")
+                       .arg(line.trimmed().toString()));
+}
+
+BenchCommands::Reply BenchCommands::coin(QStringList arguments)
+{
+    // "0.50 EUR" as the panel writes it is two words.
+    if (arguments.size() >= 2 &&
+        arguments[1].compare(QLatin1String("eur"), Qt::CaseInsensitive) == 0)
+        arguments.removeAt(1);
+    if (arguments.isEmpty() || arguments.size() > 2)
+        return failure(QStringLiteral("coin needs a name and an optional count, such as "
+                                      "\"coin 0.50 3\" or \"coin golden\""));
+    const std::optional<CoinKind> kind = CoinGenerator::kindNamed(arguments[0]);
+    if (!kind)
+        return failure(QStringLiteral("no coin named \"%1\"; the names are 0.05 to 2.00, "
+                                      "golden and silver")
+                           .arg(arguments[0]));
+    int count = 1;
+    if (arguments.size() == 2) {
+        bool ok = false;
+        count = arguments[1].toInt(&ok);
+        if (!ok || count < 1 || count > kMostCoins)
+            return failure(QStringLiteral("the count of coins is a number from 1 to %1, not \"%2\"")
+                               .arg(kMostCoins)
+                               .arg(arguments[1]));
+    }
+    for (int i = 0; i < count; ++i)
+        m_device->insertCoin(*kind);
+    return {};
+}
