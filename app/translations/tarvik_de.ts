@@ -467,6 +467,22 @@
         <source>Code %d, bit %d</source>
         <translation>Code %d, Bit %d</translation>
     </message>
+    <message>
+        <source>Coin learning</source>
+        <translation>Münze anlernen</translation>
+    </message>
+    <message>
+        <source>Reference calibration</source>
+        <translation>Referenzkalibrierung</translation>
+    </message>
+    <message>
+        <source>Channel control</source>
+        <translation>Kanalkontrolle</translation>
+    </message>
+    <message>
+        <source>Overlap check</source>
+        <translation>Überschneidungsprüfung</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -467,6 +467,22 @@
         <source>Code %d, bit %d</source>
         <translation>Code %d, bit %d</translation>
     </message>
+    <message>
+        <source>Coin learning</source>
+        <translation>Coin learning</translation>
+    </message>
+    <message>
+        <source>Reference calibration</source>
+        <translation>Reference calibration</translation>
+    </message>
+    <message>
+        <source>Channel control</source>
+        <translation>Channel control</translation>
+    </message>
+    <message>
+        <source>Overlap check</source>
+        <translation>Overlap check</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

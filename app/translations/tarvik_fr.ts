@@ -467,6 +467,22 @@
         <source>Code %d, bit %d</source>
         <translation>Code %d, bit %d</translation>
     </message>
+    <message>
+        <source>Coin learning</source>
+        <translation>Apprentissage de pièce</translation>
+    </message>
+    <message>
+        <source>Reference calibration</source>
+        <translation>Calibrage de référence</translation>
+    </message>
+    <message>
+        <source>Channel control</source>
+        <translation>Contrôle de canal</translation>
+    </message>
+    <message>
+        <source>Overlap check</source>
+        <translation>Contrôle de chevauchement</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -467,6 +467,22 @@
         <source>Code %d, bit %d</source>
         <translation>Codice %d, bit %d</translation>
     </message>
+    <message>
+        <source>Coin learning</source>
+        <translation>Apprendimento moneta</translation>
+    </message>
+    <message>
+        <source>Reference calibration</source>
+        <translation>Calibrazione di riferimento</translation>
+    </message>
+    <message>
+        <source>Channel control</source>
+        <translation>Controllo canale</translation>
+    </message>
+    <message>
+        <source>Overlap check</source>
+        <translation>Controllo sovrapposizioni</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -129,6 +129,10 @@ constexpr Entry kTable[] = {
     {Cap::MinimumResetWidthMs, QT_TRANSLATE_NOOP("Captions", "Minimum Reset Width in ms")},
     {Cap::ResetWidthSec, QT_TRANSLATE_NOOP("Captions", "Reset Width in sec. :")},
     {Cap::CodeBit, QT_TRANSLATE_NOOP("Captions", "Code %d, bit %d")},
+    {Cap::CoinLearning, QT_TRANSLATE_NOOP("Captions", "Coin learning")},
+    {Cap::ReferenceCalibration, QT_TRANSLATE_NOOP("Captions", "Reference calibration")},
+    {Cap::ChannelControl, QT_TRANSLATE_NOOP("Captions", "Channel control")},
+    {Cap::OverlapCheck, QT_TRANSLATE_NOOP("Captions", "Overlap check")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

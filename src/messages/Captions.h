@@ -131,6 +131,10 @@ enum class Cap
     MinimumResetWidthMs,
     ResetWidthSec,
     CodeBit,
+    CoinLearning,
+    ReferenceCalibration,
+    ChannelControl,
+    OverlapCheck,
     Count_
 };
 

@@ -179,6 +179,31 @@ void EditorModel::BtnOutputClick()
     });
 }
 
+void EditorModel::learningClick(const QString &button)
+{
+    if (!m_services)
+        return;
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        if (button == QLatin1String("BtnOverlap")) {
+            m_services->checkOverlap(m_s.image);
+            return;
+        }
+        if (!m_link)
+            return;
+        bool changed = false;
+        if (button == QLatin1String("BtnLearn"))
+            changed = m_services->learnCoins(*m_link, m_s.image);
+        else if (button == QLatin1String("BtnReference"))
+            changed = m_services->calibrateReference(*m_link, m_s.image);
+        else
+            changed = m_services->controlChannel(*m_link, m_s.image);
+        if (changed)
+            m_s.flags.configModified = true;
+        display();
+    });
+}
+
 void EditorModel::tick()
 {
     if (m_busy || !m_link)

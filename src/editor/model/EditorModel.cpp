@@ -29,8 +29,18 @@ constexpr Button kButtons[] = {
     {"BtnSaveFile", Cap::SaveFile, false},
     {"BtnInit", Cap::Initialise, false},
     {"BtnOutput", Cap::Output, false},
+    {"BtnLearn", Cap::CoinLearning, true},
+    {"BtnReference", Cap::ReferenceCalibration, true},
+    {"BtnControl", Cap::ChannelControl, true},
+    {"BtnOverlap", Cap::OverlapCheck, false},
     {"BitBtn1", Cap::Close, false},
 };
+
+bool isLearningButton(const QString &name)
+{
+    return name == QLatin1String("BtnLearn") || name == QLatin1String("BtnReference") ||
+           name == QLatin1String("BtnControl") || name == QLatin1String("BtnOverlap");
+}
 
 QString kindName(ControlKind kind)
 {
@@ -66,6 +76,8 @@ EditorModel::EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeu
     for (const Button &button : kButtons) {
         c.add(QLatin1String(button.name), ControlKind::Button);
         c.setEnabled(QLatin1String(button.name), !button.needsLink || link);
+        if (isLearningButton(QLatin1String(button.name)))
+            c.setVisible(QLatin1String(button.name), services && services->learningAvailable());
     }
     c.add(QStringLiteral("Gauge1"), ControlKind::Gauge);
     c.add(QStringLiteral("Label3"), ControlKind::Label);
@@ -412,6 +424,8 @@ bool EditorModel::click(const QString &name, QString *error)
         BtnInitClick();
     } else if (name == QLatin1String("BtnOutput")) {
         BtnOutputClick();
+    } else if (isLearningButton(name)) {
+        learningClick(name);
     } else if (name == QLatin1String("BtnTest")) {
         exclusive([&] { m_test.BtnTestClick(); });
     } else {

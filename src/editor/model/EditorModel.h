@@ -69,6 +69,8 @@ public:
     void BtnSaveFileClick();
     void BtnInitClick();
     void BtnOutputClick();
+    // Coin learning, reference calibration, channel control and the overlap check.
+    void learningClick(const QString &button);
 
     // The editor's timer, every kTimerMs: the serial test and the mini-programmer's requests.
     // It does nothing while another exchange or a dialog uses the link.

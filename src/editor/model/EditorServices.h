@@ -52,6 +52,17 @@ public:
     virtual ValidatorTables *tables() = 0;
     // Where every good read is kept; empty: nowhere.
     virtual QString backupDirectory() = 0;
+
+    // The coin learning windows, where the program has them: without them their buttons do
+    // not show.
+    virtual bool learningAvailable() { return false; }
+    // Coin learning (ten samples at least), the reference calibration (five tokens of each
+    // set), the channel control: each may change the image and says whether it did.
+    virtual bool learnCoins(TMonnayeur &, ConfigImage &) { return false; }
+    virtual bool calibrateReference(TMonnayeur &, ConfigImage &) { return false; }
+    virtual bool controlChannel(TMonnayeur &, ConfigImage &) { return false; }
+    // The list of overlapping channels, or "No overlapping !".
+    virtual void checkOverlap(const ConfigImage &) {}
 };
 
 // Answers as a script would: every group, Continue, no dialogs, no files, no tables.
