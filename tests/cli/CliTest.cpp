@@ -292,6 +292,46 @@ TEST_F(Cli, EditorEditsAndWritesAValidatorOverAPseudoTerminal)
     EXPECT_EQ(reread.enable[0] & 0xF0, 0xF0);
 }
 
+TEST_F(Cli, LearnsACoinAndCalibratesTheReferenceOverAPseudoTerminal)
+{
+    SimProcess sim({"--family", "0x13", "--serial", "1001"});
+    const QString out = dir.filePath("learned.json");
+    sim.send("coin 0.50 10");
+    const CliRun learn = runTarvikCli(
+        {"--device", sim.path(), "learn", "10", "--value", "0.50", "-o", out, "--timeout", "30"});
+    ASSERT_EQ(learn.exitCode, 0) << qPrintable(learn.err);
+    EXPECT_EQ(learn.out.count("matches channel 4"), 10);
+    EXPECT_TRUE(learn.err.contains("Values directly saved into validator"));
+    ConfigImage learned, reread;
+    QString error;
+    ASSERT_TRUE(loadConfigFile(out, learned, &error)) << qPrintable(error);
+    EXPECT_TRUE(learned.enableBit(9));
+    EXPECT_EQ(learned.valueByte(9), 10);
+    const QString back = dir.filePath("back.json");
+    ASSERT_EQ(runTarvikCli({"--device", sim.path(), "read", "-o", back}).exitCode, 0);
+    ASSERT_TRUE(loadConfigFile(back, reread, &error));
+    EXPECT_EQ(reread.channels[9], learned.channels[9]);
+
+    // Too few coins before the time-out: nothing is written.
+    sim.send("coin 0.50 2");
+    const CliRun shortOf =
+        runTarvikCli({"--device", sim.path(), "learn", "11", "--samples", "3", "--timeout", "2"});
+    EXPECT_EQ(shortOf.exitCode, 1);
+    EXPECT_TRUE(shortOf.err.contains("2 of 3 samples"));
+
+    sim.send("coin golden 5");
+    sim.send("coin silver 5");
+    const CliRun calibrate = runTarvikCli({"--device", sim.path(), "calibrate", "--timeout", "30"});
+    EXPECT_EQ(calibrate.exitCode, 0) << qPrintable(calibrate.err);
+    EXPECT_TRUE(calibrate.err.contains("Prepare the golden tokens."));
+    EXPECT_TRUE(calibrate.err.contains("Reference Channel saved !"));
+
+    sim.send("door open");
+    const CliRun door = runTarvikCli({"--device", sim.path(), "calibrate", "--timeout", "5"});
+    EXPECT_EQ(door.exitCode, 1);
+    EXPECT_TRUE(door.err.contains("Door open, no data will be transfered ;"));
+}
+
 TEST_F(Cli, DeviceThatStopsAnsweringFailsQuicklyAndWritesNoFile)
 {
     SimProcess sim({"--family", "0x13", "--silent-after", "20"});

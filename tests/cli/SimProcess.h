@@ -20,6 +20,12 @@ public:
     ~SimProcess() { stop(); }
 
     const QString &path() const { return m_path; }
+    // A line for the bench on the simulator's standard input ("coin golden 5").
+    void send(const QByteArray &line)
+    {
+        m_process.write(line + '\n');
+        m_process.waitForBytesWritten(2000);
+    }
     // Ends the simulator cleanly, so that it saves its memory when asked to.
     void stop()
     {
