@@ -1,5 +1,6 @@
 #include "EditorState.h"
 
+#include "Messages.h"
 #include "UserPrompt.h"
 
 void EditorState::tell(const QString &text) const
@@ -45,4 +46,27 @@ int EditorState::outputType() const
             return 4;
         }
     }
+}
+
+Word2 EditorState::valueWord(int at) const
+{
+    return {image.values[std::size_t(at)], image.values[std::size_t(at + 1)]};
+}
+
+void EditorState::setValueWord(int at, Word2 word)
+{
+    image.values[std::size_t(at)] = word[0];
+    image.values[std::size_t(at + 1)] = word[1];
+}
+
+quint8 EditorState::substituteValue(int s) const
+{
+    return s >= 1 && s <= kChannels ? image.valueByte(s - 1) : 0;
+}
+
+void EditorState::tellMultiPulse(int channel, int substitute) const
+{
+    tell(messageText(
+        Msg::MultiPulseIncompatible,
+        {QString::number(channel), QString::number(substitute), QString::number(kMaxPulses)}));
 }

@@ -37,6 +37,17 @@ struct EditorState
     DecimalWord base(int channel) const;
     // The firmware date of the version bytes 1-2; invalid when there is none.
     QDate firmwareDate() const;
+    // A word of the value block (the bases), most significant byte first.
+    Word2 valueWord(int at) const;
+    void setValueWord(int at, Word2 word);
+
+    // Under multi-pulse a coin gives at most five pulses of its substitute channel.
+    static constexpr int kMaxPulses = 5;
+    // The value byte of substitute channel s (1-based); 0 when s names no channel.
+    quint8 substituteValue(int s) const;
+    // "The value of channels %d and %d is incompatible for the function multi-pulse ..."
+    void tellMultiPulse(int channel, int substitute) const;
+
     // The output type, the low three bits of the option word's second byte as the radio
     // group's item.
     int outputType() const;

@@ -31,17 +31,6 @@ QString codeEdit(int i)
     return QStringLiteral("Edit%1").arg(i + 1);
 }
 
-Word2 word(const ValueBlock &values, int at)
-{
-    return {values[std::size_t(at)], values[std::size_t(at + 1)]};
-}
-
-void setWord(ValueBlock &values, int at, Word2 w)
-{
-    values[std::size_t(at)] = w[0];
-    values[std::size_t(at + 1)] = w[1];
-}
-
 bool chainedType(int type)
 {
     return type == 2 || type == 4 || type == 6 || type == 7;
@@ -275,13 +264,13 @@ QStringList MoneyModel::store()
     for (auto [box, at] : {std::pair{"EBase1", Val::Base1}, std::pair{"Ebase2", Val::Base2}}) {
         const auto parsed = ParseDecimalWord(m_s.text(QLatin1String(box)));
         if (parsed)
-            setWord(values, at, *parsed);
+            m_s.setValueWord(at, *parsed);
         else
             notNumbers.append(QLatin1String(box));
     }
     // The ratio's decimals follow the bases just stored.
-    const DecimalWord base1 = FormatDecimalWord(word(values, Val::Base1));
-    const DecimalWord base2 = FormatDecimalWord(word(values, Val::Base2));
+    const DecimalWord base1 = FormatDecimalWord(m_s.valueWord(Val::Base1));
+    const DecimalWord base2 = FormatDecimalWord(m_s.valueWord(Val::Base2));
     const auto ratio =
         ParseExponentLong(m_s.text(QStringLiteral("EConversion")), base1.decimals, base2.decimals);
     if (ratio)

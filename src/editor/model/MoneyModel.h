@@ -60,7 +60,6 @@ public:
 private:
     void chainEnabling();
     void showCode(int box);
-    void tellMultiPulse(int channel, int substitute) const;
 
     EditorState &m_s;
     bool m_light = false;

@@ -10,24 +10,12 @@
 namespace {
 
 constexpr quint8 kMaxPulseSteps = 63; // 630 ms in steps of 10 ms
-constexpr int kMaxPulses = 5;
 
 constexpr quint8 kDefaultPrices[8][6] = {
     {255, 255, 255, 255, 255, 10}, {255, 255, 10, 50, 255, 255}, {255, 1, 10, 255, 3, 2},
     {255, 1, 10, 180, 255, 255},   {255, 1, 10, 255, 3, 2},      {255, 1, 10, 255, 3, 2},
     {255, 1, 10, 255, 3, 2},       {255, 1, 10, 255, 3, 2},
 };
-
-Word2 word(const ValueBlock &values, int at)
-{
-    return {values[std::size_t(at)], values[std::size_t(at + 1)]};
-}
-
-void setWord(ValueBlock &values, int at, Word2 w)
-{
-    values[std::size_t(at)] = w[0];
-    values[std::size_t(at + 1)] = w[1];
-}
 
 quint16 number(Word2 w)
 {
@@ -138,7 +126,6 @@ void MoneyModel::EBase1Exit()
     if (!m_s.flags.editChanged)
         return;
     m_s.flags.editChanged = false;
-    ValueBlock &values = m_s.image.values;
     const QString text = m_s.text(QStringLiteral("EBase1")).trimmed();
     if (text.isEmpty() && m_s.checked(QStringLiteral("CounterEnable"))) {
         m_s.tell(messageText(Msg::WrongWayCounter));
@@ -151,11 +138,11 @@ void MoneyModel::EBase1Exit()
     }
     m_s.tell(messageText(Msg::ModifyingBase1));
     // Two equal bases stay equal; two different ones stay independent.
-    if (word(values, Val::Base2) == word(values, Val::Base1)) {
+    if (m_s.valueWord(Val::Base2) == m_s.valueWord(Val::Base1)) {
         m_s.controls.setText(QStringLiteral("Ebase2"), m_s.text(QStringLiteral("EBase1")));
-        setWord(values, Val::Base2, *parsed);
+        m_s.setValueWord(Val::Base2, *parsed);
     }
-    setWord(values, Val::Base1, *parsed);
+    m_s.setValueWord(Val::Base1, *parsed);
     if (text.isEmpty()) {
         // No base, no counting.
         m_s.image.counters.fill(0);
@@ -167,7 +154,6 @@ bool MoneyModel::Ebase2Exit()
 {
     if (!m_s.flags.editChanged)
         return false;
-    ValueBlock &values = m_s.image.values;
     const QString text = m_s.text(QStringLiteral("Ebase2")).trimmed();
     const auto parsed = ParseDecimalWord(text);
     if (!parsed) {
@@ -176,14 +162,14 @@ bool MoneyModel::Ebase2Exit()
         m_s.controls.setText(QStringLiteral("Ebase2"), m_s.base(30).text);
         return true;
     }
-    setWord(values, Val::Base2, *parsed);
+    m_s.setValueWord(Val::Base2, *parsed);
     const quint16 base2 = number(*parsed);
     if (base2 != 0 && base2 != 0xFFFF) {
         m_s.tell(messageText(Msg::ModifyingBase2));
     } else {
         // A second base is never cleared by itself: it takes the first.
         m_s.controls.setText(QStringLiteral("Ebase2"), m_s.text(QStringLiteral("EBase1")));
-        setWord(values, Val::Base2, word(values, Val::Base1));
+        m_s.setValueWord(Val::Base2, m_s.valueWord(Val::Base1));
     }
     return true;
 }
@@ -197,18 +183,11 @@ bool MoneyModel::multiPulseActive() const
 bool MoneyModel::multiPulseAllows(quint8 value, int substitute) const
 {
     // A substitute worth nothing cannot divide a coin into pulses.
-    const quint8 theirs = substitute <= kChannels ? m_s.image.valueByte(substitute - 1) : 0;
+    const quint8 theirs = m_s.substituteValue(substitute);
     if (theirs == 0)
         return false;
     const int ratio = value / theirs;
-    return ratio >= 1 && ratio <= kMaxPulses;
-}
-
-void MoneyModel::tellMultiPulse(int channel, int substitute) const
-{
-    m_s.tell(messageText(
-        Msg::MultiPulseIncompatible,
-        {QString::number(channel), QString::number(substitute), QString::number(kMaxPulses)}));
+    return ratio >= 1 && ratio <= EditorState::kMaxPulses;
 }
 
 void MoneyModel::Value0Exit(int k)
@@ -228,11 +207,11 @@ void MoneyModel::Value0Exit(int k)
     // From the value side only a coin worth more than five of its substitute is refused.
     bool refused = false;
     if (multiPulseActive() && substitute >= 1 && substitute <= 254 && substitute != k + 1) {
-        const quint8 theirs = substitute <= kChannels ? m_s.image.valueByte(substitute - 1) : 0;
-        refused = theirs == 0 || *parsed / theirs > kMaxPulses;
+        const quint8 theirs = m_s.substituteValue(substitute);
+        refused = theirs == 0 || *parsed / theirs > EditorState::kMaxPulses;
     }
     if (refused)
-        tellMultiPulse(k + 1, substitute);
+        m_s.tellMultiPulse(k + 1, substitute);
     else
         m_s.image.values[std::size_t(Val::Channel0 + k)] = record[Rec::Value] = *parsed;
     // Shown against base 1 whatever the channel, as the validator's tools always have.
@@ -250,7 +229,7 @@ bool MoneyModel::Sub0Exit(int k)
     const int substitute = m_s.text(box).trimmed().toInt(&ok);
     if (ok && multiPulseActive() && substitute >= 1 && substitute <= 254 && substitute != k + 1 &&
         !multiPulseAllows(m_s.image.valueByte(k), substitute)) {
-        tellMultiPulse(k + 1, substitute);
+        m_s.tellMultiPulse(k + 1, substitute);
         m_s.controls.setText(box,
                              ByteToText(2, m_s.image.channels[std::size_t(k)][Rec::Substitute]));
         m_focusRequest = box;

@@ -33,8 +33,6 @@ constexpr Toggle kToggles[] = {
     {"CheckBox4", 0, 0x80},  {"ChkLimit", 1, 0x80},
 };
 
-constexpr int kMaxPulses = 5;
-
 } // namespace
 
 void OptionsModel::setBit(int byte, quint8 mask, bool on)
@@ -91,11 +89,9 @@ void OptionsModel::multiPulse(bool checked)
         if (s == 0 || s == 255 || s == k)
             continue;
         // A substitute worth nothing, or no channel at all, cannot take pulses.
-        const quint8 theirs = s <= kChannels ? image.valueByte(s - 1) : 0;
-        if (theirs == 0 || image.valueByte(k - 1) / theirs > kMaxPulses) {
-            m_s.tell(
-                messageText(Msg::MultiPulseIncompatible,
-                            {QString::number(k), QString::number(s), QString::number(kMaxPulses)}));
+        const quint8 theirs = m_s.substituteValue(s);
+        if (theirs == 0 || image.valueByte(k - 1) / theirs > EditorState::kMaxPulses) {
+            m_s.tellMultiPulse(k, s);
             setBit(0, 0x10, true);
             return;
         }
