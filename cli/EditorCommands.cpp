@@ -67,8 +67,33 @@ int showCommand(CliContext &cli, const QStringList &args)
 
 // One action as a technician would do it: NAME=TEXT types into a box and leaves it, NAME#N
 // picks item N of a radio group, NAME clicks.
+// Transfert=S:D[:clear][:values]: the channel copy dialog's "&Transfert" in one action.
+bool transfert(EditorModel &model, const QString &spec, QString &error)
+{
+    QStringList parts = spec.split(u':');
+    ChannelCopyModel &copy = model.channelCopy();
+    copy.open();
+    bool okS = false, okD = false;
+    const int source = parts.value(0).toInt(&okS);
+    const int destination = parts.value(1).toInt(&okD);
+    const bool clear = parts.mid(2).contains(QStringLiteral("clear"));
+    const bool values = parts.mid(2).contains(QStringLiteral("values"));
+    const int flags = int(clear) + int(values);
+    if (!okS || !okD || parts.size() != 2 + flags || source < 1 || destination < 1 ||
+        source > copy.maximum() || destination > copy.maximum()) {
+        error = QStringLiteral("Transfert takes S:D[:clear][:values] with channels 1 to %1")
+                    .arg(copy.maximum());
+        return false;
+    }
+    model.EHFUBMIN0Exit();
+    copy.Transfert(source, destination, clear, values);
+    return true;
+}
+
 bool applyAction(EditorModel &model, const QString &action, QString &error)
 {
+    if (action.startsWith(QLatin1String("Transfert=")))
+        return transfert(model, action.mid(10), error);
     const qsizetype eq = action.indexOf(u'=');
     if (eq > 0) {
         const QString name = action.left(eq);
@@ -146,7 +171,8 @@ void registerEditorCommands(CliCommandTable &table)
         {QStringLiteral("edit FILE [-o OUT] [--answer yes|no] ACTION..."),
          QStringLiteral("runs the editor over a configuration file and writes the result (stdout "
                         "without -o): NAME=TEXT types TEXT into box NAME and leaves it, NAME "
-                        "clicks it, NAME#N picks item N of a radio group; questions take "
-                        "--answer (default no)"),
+                        "clicks it, NAME#N picks item N of a radio group, "
+                        "Transfert=S:D[:clear][:values] copies channel S onto D; questions "
+                        "take --answer (default no)"),
          editCommand});
 }

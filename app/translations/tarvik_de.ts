@@ -483,6 +483,38 @@
         <source>Overlap check</source>
         <translation>Überschneidungsprüfung</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Source </source>
+        <translation>Quelle </translation>
+    </message>
+    <message>
+        <source>Destination </source>
+        <translation>Ziel </translation>
+    </message>
+    <message>
+        <source>Channel : </source>
+        <translation>Kanal: </translation>
+    </message>
+    <message>
+        <source>Clear channel :</source>
+        <translation>Kanal löschen:</translation>
+    </message>
+    <message>
+        <source>Only values :</source>
+        <translation>Nur Werte:</translation>
+    </message>
+    <message>
+        <source>&amp;Transfert</source>
+        <translation>Ü&amp;bertragen</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

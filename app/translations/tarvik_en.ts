@@ -483,6 +483,38 @@
         <source>Overlap check</source>
         <translation>Overlap check</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Source </source>
+        <translation>Source </translation>
+    </message>
+    <message>
+        <source>Destination </source>
+        <translation>Destination </translation>
+    </message>
+    <message>
+        <source>Channel : </source>
+        <translation>Channel : </translation>
+    </message>
+    <message>
+        <source>Clear channel :</source>
+        <translation>Clear channel :</translation>
+    </message>
+    <message>
+        <source>Only values :</source>
+        <translation>Only values :</translation>
+    </message>
+    <message>
+        <source>&amp;Transfert</source>
+        <translation>&amp;Transfert</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Exit</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

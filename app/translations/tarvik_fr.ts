@@ -483,6 +483,38 @@
         <source>Overlap check</source>
         <translation>Contrôle de chevauchement</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copie</translation>
+    </message>
+    <message>
+        <source>Source </source>
+        <translation>Source </translation>
+    </message>
+    <message>
+        <source>Destination </source>
+        <translation>Destination </translation>
+    </message>
+    <message>
+        <source>Channel : </source>
+        <translation>Canal : </translation>
+    </message>
+    <message>
+        <source>Clear channel :</source>
+        <translation>Effacer le canal :</translation>
+    </message>
+    <message>
+        <source>Only values :</source>
+        <translation>Valeurs seules :</translation>
+    </message>
+    <message>
+        <source>&amp;Transfert</source>
+        <translation>&amp;Transférer</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

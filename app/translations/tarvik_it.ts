@@ -483,6 +483,38 @@
         <source>Overlap check</source>
         <translation>Controllo sovrapposizioni</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Source </source>
+        <translation>Origine </translation>
+    </message>
+    <message>
+        <source>Destination </source>
+        <translation>Destinazione </translation>
+    </message>
+    <message>
+        <source>Channel : </source>
+        <translation>Canale: </translation>
+    </message>
+    <message>
+        <source>Clear channel :</source>
+        <translation>Cancella canale:</translation>
+    </message>
+    <message>
+        <source>Only values :</source>
+        <translation>Solo valori:</translation>
+    </message>
+    <message>
+        <source>&amp;Transfert</source>
+        <translation>&amp;Trasferisci</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Esci</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -133,6 +133,14 @@ constexpr Entry kTable[] = {
     {Cap::ReferenceCalibration, QT_TRANSLATE_NOOP("Captions", "Reference calibration")},
     {Cap::ChannelControl, QT_TRANSLATE_NOOP("Captions", "Channel control")},
     {Cap::OverlapCheck, QT_TRANSLATE_NOOP("Captions", "Overlap check")},
+    {Cap::CopyTitle, QT_TRANSLATE_NOOP("Captions", "Copy")},
+    {Cap::CopySource, QT_TRANSLATE_NOOP("Captions", "Source ")},
+    {Cap::CopyDestination, QT_TRANSLATE_NOOP("Captions", "Destination ")},
+    {Cap::CopyChannel, QT_TRANSLATE_NOOP("Captions", "Channel : ")},
+    {Cap::ClearChannel, QT_TRANSLATE_NOOP("Captions", "Clear channel :")},
+    {Cap::OnlyValues, QT_TRANSLATE_NOOP("Captions", "Only values :")},
+    {Cap::Transfert, QT_TRANSLATE_NOOP("Captions", "&Transfert")},
+    {Cap::Exit, QT_TRANSLATE_NOOP("Captions", "&Exit")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

@@ -135,6 +135,14 @@ enum class Cap
     ReferenceCalibration,
     ChannelControl,
     OverlapCheck,
+    CopyTitle,
+    CopySource,
+    CopyDestination,
+    CopyChannel,
+    ClearChannel,
+    OnlyValues,
+    Transfert,
+    Exit,
     Count_
 };
 

@@ -134,6 +134,15 @@ TEST_F(Cli, ShowAndEditDriveTheEditorOverAFile)
     EXPECT_EQ(image.prices[3], 50);
     EXPECT_EQ(image.counters[2], 0x04);
     EXPECT_EQ(image.counters[3], 0xD3);
+    const QString moved = dir.filePath("m.json");
+    ASSERT_EQ(cli({"edit", file, "-o", moved, "Transfert=2:12:clear"}).code, kExitOk);
+    ConfigImage before;
+    ASSERT_TRUE(loadConfigFile(file, before, &error));
+    ASSERT_TRUE(loadConfigFile(moved, image, &error));
+    EXPECT_EQ(image.channels[11], before.channels[1]);
+    EXPECT_EQ(image.valueByte(1), 255);
+    EXPECT_EQ(cli({"edit", file, "Transfert=2:60"}).code, kExitUsage);
+    EXPECT_EQ(cli({"edit", file, "Transfert=2:3:sideways"}).code, kExitUsage);
     const InProcess pulse = cli({"edit", file, "Eprix6=700"});
     EXPECT_TRUE(pulse.err.contains("Value over 630 ms, it will be adjusted!"));
 

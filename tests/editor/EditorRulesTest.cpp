@@ -302,3 +302,45 @@ TEST(CodeTable, CodesAndTheirLamps)
     EXPECT_TRUE(r.visible("Image38"));
     EXPECT_FALSE(r.visible("Image17"));
 }
+
+TEST(ChannelCopy, CopiesMovesAndRefusesTheSameChannel)
+{
+    Rules r;
+    ChannelCopyModel &copy = r.model.channelCopy();
+    copy.open();
+    EXPECT_EQ(copy.maximum(), 59);
+    const ConfigImage before = r.image();
+    EXPECT_FALSE(copy.Transfert(3, 3, false, false));
+    EXPECT_EQ(r.prompt.told(), QStringList{"Impossible displacement, the channel of origin and "
+                                           "the one of destination coincides"});
+    EXPECT_EQ(r.image(), before);
+
+    // Channel 5 (index 4) holds a coin; channel 7 is empty.
+    EXPECT_TRUE(copy.Transfert(5, 7, false, false));
+    EXPECT_EQ(r.prompt.told().last(), QStringLiteral("All data transfered !"));
+    EXPECT_EQ(r.image().channels[6], r.image().channels[4]);
+    EXPECT_EQ(r.image().valueByte(6), r.image().valueByte(4));
+    EXPECT_TRUE(r.image().enableBit(6));
+    EXPECT_EQ(r.text("EHFUBMIN6"), r.text("EHFUBMIN4"));
+    EXPECT_TRUE(r.checked("Enable6"));
+    EXPECT_TRUE(r.model.flags().configModified);
+
+    // Only the windows: the destination keeps substitute, enable and value.
+    ConfigImage image = before;
+    image.channels[8][Rec::Substitute] = 3;
+    r.model.loadImage(image, false);
+    EXPECT_TRUE(copy.Transfert(5, 9, true, true));
+    EXPECT_TRUE(std::equal(r.image().channels[8].begin(), r.image().channels[8].begin() + 14,
+                           before.channels[4].begin()));
+    EXPECT_EQ(r.image().channels[8][Rec::Substitute], 3);
+    EXPECT_FALSE(r.image().enableBit(8));
+    EXPECT_EQ(r.image().valueByte(8), 255);
+    // The source is cleared.
+    EXPECT_EQ(r.text("EHFUBMIN4"), QString());
+    EXPECT_EQ(r.image().valueByte(4), 255);
+    EXPECT_FALSE(r.image().enableBit(4));
+
+    Rules light(0x33);
+    light.model.channelCopy().open();
+    EXPECT_EQ(light.model.channelCopy().maximum(), 24);
+}

@@ -179,6 +179,17 @@ void EditorModel::BtnOutputClick()
     });
 }
 
+void EditorModel::BtnCopyClick()
+{
+    if (!m_services)
+        return;
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        m_copy.open();
+        m_services->copyChannel(m_copy);
+    });
+}
+
 void EditorModel::learningClick(const QString &button)
 {
     if (!m_services)

@@ -68,7 +68,7 @@ bool isTableBox(const QString &name)
 
 EditorModel::EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeur *link)
     : m_services(services), m_link(link), m_grid(m_s), m_identity(m_s), m_money(m_s),
-      m_options(m_s), m_counters(m_s), m_test(m_s)
+      m_options(m_s), m_counters(m_s), m_test(m_s), m_copy(m_s, [this] { display(); })
 {
     m_s.prompt = prompt;
     ControlSet &c = m_s.controls;
@@ -113,6 +113,7 @@ void EditorModel::retranslate()
     m_money.retranslate();
     m_options.retranslate();
     m_counters.retranslate();
+    m_copy.retranslate();
     display();
     flush();
 }
@@ -424,6 +425,8 @@ bool EditorModel::click(const QString &name, QString *error)
         BtnInitClick();
     } else if (name == QLatin1String("BtnOutput")) {
         BtnOutputClick();
+    } else if (name == QLatin1String("BtnCopy")) {
+        BtnCopyClick();
     } else if (isLearningButton(name)) {
         learningClick(name);
     } else if (name == QLatin1String("BtnTest")) {

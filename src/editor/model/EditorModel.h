@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ChannelCopyModel.h"
 #include "ChannelGridModel.h"
 #include "CountersModel.h"
 #include "EditorState.h"
@@ -69,6 +70,9 @@ public:
     void BtnSaveFileClick();
     void BtnInitClick();
     void BtnOutputClick();
+    // The channel copy dialog's model; copies act on this editor's image.
+    ChannelCopyModel &channelCopy() { return m_copy; }
+    void BtnCopyClick();
     // Coin learning, reference calibration, channel control and the overlap check.
     void learningClick(const QString &button);
 
@@ -108,5 +112,6 @@ private:
     OptionsModel m_options;
     CountersModel m_counters;
     SerialTestModel m_test;
+    ChannelCopyModel m_copy;
     bool m_busy = false;
 };

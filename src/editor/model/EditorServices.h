@@ -6,6 +6,7 @@
 #include <optional>
 
 struct ConfigImage;
+class ChannelCopyModel;
 class TMonnayeur;
 
 // Where the editor keeps validators in the tables: one validator row and its channel rows per
@@ -63,6 +64,10 @@ public:
     virtual bool controlChannel(TMonnayeur &, ConfigImage &) { return false; }
     // The list of overlapping channels, or "No overlapping !".
     virtual void checkOverlap(const ConfigImage &) {}
+
+    // The channel copy dialog over its model, where the program has it.
+    virtual bool copyDialogAvailable() { return false; }
+    virtual void copyChannel(ChannelCopyModel &) {}
 };
 
 // Answers as a script would: every group, Continue, no dialogs, no files, no tables.
