@@ -515,6 +515,26 @@
         <source>&amp;Exit</source>
         <translation>&amp;Quitter</translation>
     </message>
+    <message>
+        <source>Saved validators</source>
+        <translation>Monnayeurs enregistrés</translation>
+    </message>
+    <message>
+        <source>Filter :</source>
+        <translation>Filtre :</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -593,6 +613,10 @@
     <message>
         <source>Value under the minimum, it will be correct.</source>
         <translation>Valeur inférieure au minimum, elle sera corrigée.</translation>
+    </message>
+    <message>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; n&apos;est pas une valeur entière valide</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -878,6 +902,18 @@
         <source>%d superposition(s)</source>
         <translation>%d superposition(s)</translation>
     </message>
+    <message>
+        <source>%s has no row for channels %s: they open empty.</source>
+        <translation>%s n'a pas de ligne pour les canaux %s : ils s'ouvrent vides.</translation>
+    </message>
+    <message>
+        <source>%s has more than one row for channels %s: the first row of each is used.</source>
+        <translation>%s a plus d'une ligne pour les canaux %s : la première de chacun est utilisée.</translation>
+    </message>
+    <message>
+        <source>Delete %s and its channels from the tables?</source>
+        <translation>Supprimer %s et ses canaux des tables ?</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1152,6 +1188,565 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>TFormProgCoin</name>
+    <message>
+        <source>Coin calibration</source>
+        <translation>Calibrage de pièce</translation>
+    </message>
+    <message>
+        <source>Channels control</source>
+        <translation>Contrôle des canaux</translation>
+    </message>
+    <message>
+        <source>&amp;Channel to control :</source>
+        <translation>&amp;Canal à contrôler :</translation>
+    </message>
+    <message>
+        <source>Channel to calibra&amp;te :</source>
+        <translation>Canal à calibr&amp;er :</translation>
+    </message>
+    <message>
+        <source>Su&amp;bstitution  Channel :</source>
+        <translation>Canal de su&amp;bstitution :</translation>
+    </message>
+    <message>
+        <source>&amp;Value : </source>
+        <translation>&amp;Valeur : </translation>
+    </message>
+    <message>
+        <source>P1</source>
+        <translation>P1</translation>
+    </message>
+    <message>
+        <source>P2</source>
+        <translation>P2</translation>
+    </message>
+    <message>
+        <source>E&amp;nable :</source>
+        <translation>&amp;Activé :</translation>
+    </message>
+    <message>
+        <source>Profile :</source>
+        <translation>Profil :</translation>
+    </message>
+    <message>
+        <source>Description :</source>
+        <translation>Description :</translation>
+    </message>
+    <message>
+        <source>Se&amp;lect...</source>
+        <translation>Sé&amp;lectionner...</translation>
+    </message>
+    <message>
+        <source>Response level :</source>
+        <translation>Niveau de réponse :</translation>
+    </message>
+    <message>
+        <source>Number of coins : </source>
+        <translation>Nombre de pièces : </translation>
+    </message>
+    <message>
+        <source>Tolerance a&amp;uto :</source>
+        <translation>Tolérance a&amp;uto :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Loa&amp;d</source>
+        <translation>Char&amp;ger</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>&amp;Effacer</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>E&amp;xporter...</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importer...</translation>
+    </message>
+    <message>
+        <source>&amp;Matched channel...</source>
+        <translation>Canal &amp;correspondant...</translation>
+    </message>
+    <message>
+        <source>Anal&amp;yse</source>
+        <translation>Anal&amp;yse</translation>
+    </message>
+    <message>
+        <source>HFU low</source>
+        <translation>HFU bas</translation>
+    </message>
+    <message>
+        <source>HFU high</source>
+        <translation>HFU haut</translation>
+    </message>
+    <message>
+        <source>DIM</source>
+        <translation>DIM</translation>
+    </message>
+    <message>
+        <source>LF</source>
+        <translation>LF</translation>
+    </message>
+    <message>
+        <source>HFL low</source>
+        <translation>HFL bas</translation>
+    </message>
+    <message>
+        <source>HFL high</source>
+        <translation>HFL haut</translation>
+    </message>
+    <message>
+        <source>AMP</source>
+        <translation>AMP</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikTolerance</name>
+    <message>
+        <source>Tolerances</source>
+        <translation>Tolérances</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Éléments</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valeurs</translation>
+    </message>
+    <message>
+        <source>HFU low min.</source>
+        <translation>HFU bas min.</translation>
+    </message>
+    <message>
+        <source>HFU low max.</source>
+        <translation>HFU bas max.</translation>
+    </message>
+    <message>
+        <source>HFU high min.</source>
+        <translation>HFU haut min.</translation>
+    </message>
+    <message>
+        <source>HFU high max.</source>
+        <translation>HFU haut max.</translation>
+    </message>
+    <message>
+        <source>Dimension min.</source>
+        <translation>Dimension min.</translation>
+    </message>
+    <message>
+        <source>Dimension max.</source>
+        <translation>Dimension max.</translation>
+    </message>
+    <message>
+        <source>LF min.</source>
+        <translation>LF min.</translation>
+    </message>
+    <message>
+        <source>LF max.</source>
+        <translation>LF max.</translation>
+    </message>
+    <message>
+        <source>HFL low min.</source>
+        <translation>HFL bas min.</translation>
+    </message>
+    <message>
+        <source>HFL low max.</source>
+        <translation>HFL bas max.</translation>
+    </message>
+    <message>
+        <source>HFL high min.</source>
+        <translation>HFL haut min.</translation>
+    </message>
+    <message>
+        <source>HFL high max.</source>
+        <translation>HFL haut max.</translation>
+    </message>
+    <message>
+        <source>HFL amp min.</source>
+        <translation>HFL amp min.</translation>
+    </message>
+    <message>
+        <source>HFL amp max.</source>
+        <translation>HFL amp max.</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; n&apos;est pas une valeur entière valide</translation>
+    </message>
+</context>
+<context>
+    <name>TFormCAdjust</name>
+    <message>
+        <source>Channel to adjust</source>
+        <translation>Canal à ajuster</translation>
+    </message>
+    <message>
+        <source>&amp;Channel :</source>
+        <translation>&amp;Canal :</translation>
+    </message>
+    <message>
+        <source>0 = searching for nearest</source>
+        <translation>0 = recherche du plus proche</translation>
+    </message>
+    <message>
+        <source>&amp;Automatic adjustment :</source>
+        <translation>Ajustement &amp;automatique :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>TFormSuperposition</name>
+    <message>
+        <source>Overlapped channels list</source>
+        <translation>Liste des canaux qui se chevauchent</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikAnalyse</name>
+    <message>
+        <source>Analyse</source>
+        <translation>Analyse</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormRefChannel</name>
+    <message>
+        <source>Reference Channel</source>
+        <translation>Canal de référence</translation>
+    </message>
+    <message>
+        <source>Reference channel is empty</source>
+        <translation>Le canal de référence est vide</translation>
+    </message>
+    <message>
+        <source>Use the reference set of tokens.</source>
+        <translation>Utilisez le jeu de jetons de référence.</translation>
+    </message>
+    <message>
+        <source>- Insert 5 golden tokens.</source>
+        <translation>- Insérez 5 jetons dorés.</translation>
+    </message>
+    <message>
+        <source>- Ok</source>
+        <translation>- Ok</translation>
+    </message>
+    <message>
+        <source>- Insert 5 silver tokens.</source>
+        <translation>- Insérez 5 jetons argentés.</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormValue</name>
+    <message>
+        <source>Values Table</source>
+        <translation>Table des valeurs</translation>
+    </message>
+    <message>
+        <source>Base Value</source>
+        <translation>Valeur de base</translation>
+    </message>
+    <message>
+        <source>Channels 1 to </source>
+        <translation>Canaux 1 à </translation>
+    </message>
+    <message>
+        <source>Channels 31 to 60 : </source>
+        <translation>Canaux 31 à 60 : </translation>
+    </message>
+    <message>
+        <source>Ratio : </source>
+        <translation>Rapport : </translation>
+    </message>
+    <message>
+        <source>Name : </source>
+        <translation>Nom : </translation>
+    </message>
+    <message>
+        <source>Description : </source>
+        <translation>Description : </translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canaux</translation>
+    </message>
+    <message>
+        <source>Table name</source>
+        <translation>Nom de la table</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Channel values</source>
+        <translation>Valeurs des canaux</translation>
+    </message>
+    <message>
+        <source>Stored value tables</source>
+        <translation>Tables de valeurs enregistrées</translation>
+    </message>
+    <message>
+        <source>Record navigator</source>
+        <translation>Navigation des enregistrements</translation>
+    </message>
+    <message>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; n&apos;est pas une valeur entière correcte</translation>
+    </message>
+    <message>
+        <source>Delete record?</source>
+        <translation>Supprimer l&apos;enregistrement ?</translation>
+    </message>
+    <message>
+        <source>&amp;Load</source>
+        <translation>&amp;Charger</translation>
+    </message>
+    <message>
+        <source>Load value table from validator</source>
+        <translation>Charger la table des valeurs depuis le monnayeur</translation>
+    </message>
+    <message>
+        <source>&amp;Transfert</source>
+        <translation>&amp;Transfert</translation>
+    </message>
+    <message>
+        <source>Transfert de la table des valeurs dans le monnayeur</source>
+        <translation>Transfert de la table des valeurs dans le monnayeur</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>A&amp;ppliquer</translation>
+    </message>
+    <message>
+        <source>Aplly the value table</source>
+        <translation>Appliquer la table des valeurs</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save a record</source>
+        <translation>Enregistrer une fiche</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open a record</source>
+        <translation>Ouvrir une fiche</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Effacer</translation>
+    </message>
+    <message>
+        <source>Reseting value table</source>
+        <translation>Effacement de la table des valeurs</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation>Premier enregistrement</translation>
+    </message>
+    <message>
+        <source>Prior record</source>
+        <translation>Enregistrement précédent</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Enregistrement suivant</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Dernier enregistrement</translation>
+    </message>
+    <message>
+        <source>Delete record</source>
+        <translation>Supprimer l&apos;enregistrement</translation>
+    </message>
+</context>
+<context>
+    <name>ValueTableStore</name>
+    <message>
+        <source>No value table %s is stored</source>
+        <translation>Aucune table de valeurs %s n&apos;est enregistrée</translation>
+    </message>
+    <message>
+        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
+        <translation>Table de valeurs %s : les canaux %s ne contiennent pas de nombre ; ils restent sans valeur</translation>
+    </message>
+</context>
+<context>
+    <name>TFormProfilC</name>
+    <message>
+        <source>Coin Profile</source>
+        <translation>Profil de pièce</translation>
+    </message>
+    <message>
+        <source>&amp;Name :</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>&amp;Description :</source>
+        <translation>&amp;Description :</translation>
+    </message>
+    <message>
+        <source>Substitution channel :</source>
+        <translation>Canal de substitution :</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;Activer</translation>
+    </message>
+    <message>
+        <source>&amp;Value : </source>
+        <translation>&amp;Valeur : </translation>
+    </message>
+    <message>
+        <source>&amp;P1</source>
+        <translation>&amp;P1</translation>
+    </message>
+    <message>
+        <source>P2</source>
+        <translation>P2</translation>
+    </message>
+    <message>
+        <source>Tolerances</source>
+        <translation>Tolérances</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valeurs</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Éléments</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Ann&amp;uler</translation>
+    </message>
+    <message>
+        <source>HFU low min.</source>
+        <translation>HFU bas min.</translation>
+    </message>
+    <message>
+        <source>HFU low max.</source>
+        <translation>HFU bas max.</translation>
+    </message>
+    <message>
+        <source>HFU high min.</source>
+        <translation>HFU haut min.</translation>
+    </message>
+    <message>
+        <source>Hfu high max.</source>
+        <translation>Hfu haut max.</translation>
+    </message>
+    <message>
+        <source>Dimension min.</source>
+        <translation>Dimension min.</translation>
+    </message>
+    <message>
+        <source>Dimension max.</source>
+        <translation>Dimension max.</translation>
+    </message>
+    <message>
+        <source>LF min.</source>
+        <translation>LF min.</translation>
+    </message>
+    <message>
+        <source>LF max.</source>
+        <translation>LF max.</translation>
+    </message>
+    <message>
+        <source>HFL low min.</source>
+        <translation>HFL bas min.</translation>
+    </message>
+    <message>
+        <source>HFL low max.</source>
+        <translation>HFL bas max.</translation>
+    </message>
+    <message>
+        <source>HFL high min.</source>
+        <translation>HFL haut min.</translation>
+    </message>
+    <message>
+        <source>HFL high max.</source>
+        <translation>HFL haut max.</translation>
+    </message>
+    <message>
+        <source>HFL amp min.</source>
+        <translation>HFL amp min.</translation>
+    </message>
+    <message>
+        <source>HFL amp max.</source>
+        <translation>HFL amp max.</translation>
     </message>
 </context>
 </TS>

@@ -141,6 +141,11 @@ constexpr Entry kTable[] = {
     {Cap::OnlyValues, QT_TRANSLATE_NOOP("Captions", "Only values :")},
     {Cap::Transfert, QT_TRANSLATE_NOOP("Captions", "&Transfert")},
     {Cap::Exit, QT_TRANSLATE_NOOP("Captions", "&Exit")},
+    {Cap::SavedValidators, QT_TRANSLATE_NOOP("Captions", "Saved validators")},
+    {Cap::Filter, QT_TRANSLATE_NOOP("Captions", "Filter :")},
+    {Cap::Open, QT_TRANSLATE_NOOP("Captions", "&Open")},
+    {Cap::Delete, QT_TRANSLATE_NOOP("Captions", "&Delete")},
+    {Cap::CloseButton, QT_TRANSLATE_NOOP("Captions", "&Close")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

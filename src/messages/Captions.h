@@ -143,6 +143,11 @@ enum class Cap
     OnlyValues,
     Transfert,
     Exit,
+    SavedValidators,
+    Filter,
+    Open,
+    Delete,
+    CloseButton,
     Count_
 };
 

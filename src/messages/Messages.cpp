@@ -36,6 +36,7 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages", "Value over the maximum, it will be correct")},
     {Msg::ValueUnderMinimum,
      QT_TRANSLATE_NOOP("Messages", "Value under the minimum, it will be correct.")},
+    {Msg::NotValidInteger, QT_TRANSLATE_NOOP("Messages", "'%s' is not a valid integer value")},
     {Msg::ValueOverMs, QT_TRANSLATE_NOOP("Messages", "Value over %d ms, it will be adjusted!")},
     {Msg::WrongWayCounter,
      QT_TRANSLATE_NOOP(
@@ -115,6 +116,13 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages",
                        "The file holds a %s validator but a %s validator is connected: nothing "
                        "was written.")},
+    {Msg::SavedChannelsMissing,
+     QT_TRANSLATE_NOOP("Messages", "%s has no row for channels %s: they open empty.")},
+    {Msg::SavedChannelsDuplicated,
+     QT_TRANSLATE_NOOP("Messages",
+                       "%s has more than one row for channels %s: the first row of each is used.")},
+    {Msg::DeleteSavedValidator,
+     QT_TRANSLATE_NOOP("Messages", "Delete %s and its channels from the tables?")},
     {Msg::RecordsFileMissing, QT_TRANSLATE_NOOP("Messages", "%s is missing")},
     {Msg::RecordsCannotOpen, QT_TRANSLATE_NOOP("Messages", "%s cannot be opened: %s")},
     {Msg::RecordsCannotWrite, QT_TRANSLATE_NOOP("Messages", "%s cannot be written: %s")},

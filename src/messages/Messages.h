@@ -30,6 +30,7 @@ enum class Msg
     ValueBetween0And255,
     ValueOverMaximum,
     ValueUnderMinimum,
+    NotValidInteger,
     ValueOverMs,
     WrongWayCounter,
     ModifyingBase1,
@@ -75,6 +76,9 @@ enum class Msg
     BackupFailed,
     TablesUnavailable,
     FamilyMismatch,
+    SavedChannelsMissing,
+    SavedChannelsDuplicated,
+    DeleteSavedValidator,
     // records engine
     RecordsFileMissing,
     RecordsCannotOpen,

@@ -137,7 +137,8 @@ ValidatorStore::Outcome ValidatorStore::store(const ConfigImage &image,
     return Outcome::Stored;
 }
 
-bool ValidatorStore::load(const QString &identification, ConfigImage &image, QString *description)
+bool ValidatorStore::load(const QString &identification, ConfigImage &image, QString *description,
+                          LoadReport *report)
 {
     if (!tablesUsable())
         return false;
@@ -185,10 +186,13 @@ bool ValidatorStore::load(const QString &identification, ConfigImage &image, QSt
                     [&](int r) { return channels.value(r, canal).toInt() == 0; }) &&
         std::none_of(rows.begin(), rows.end(),
                      [&](int r) { return channels.value(r, canal).toInt() == kChannels; });
+    std::array<int, kChannels> seen{};
     for (int r : rows) {
         const int k = channels.value(r, canal).toInt() - (fromZero ? 0 : 1);
         if (k < 0 || k >= kChannels)
             continue;
+        if (seen[std::size_t(k)]++ > 0)
+            continue; // the first row of a channel counts
         ChannelRecord &record = image.channels[std::size_t(k)];
         for (int b = 0; b < 15; ++b)
             record[std::size_t(b)] =
@@ -199,6 +203,40 @@ bool ValidatorStore::load(const QString &identification, ConfigImage &image, QSt
         const QVariant valid = channels.value(r, QStringLiteral("VALID"));
         record[Rec::Enabled] = valid.isNull() ? 255 : (valid.toBool() ? 1 : 0);
     }
+    if (report) {
+        *report = {};
+        for (int k = 0; k < kChannels; ++k) {
+            if (seen[std::size_t(k)] == 0)
+                report->missing.append(k + 1);
+            else if (seen[std::size_t(k)] > 1)
+                report->duplicated.append(k + 1);
+        }
+    }
+    return true;
+}
+
+bool ValidatorStore::loadInto(const QString &identification, ConfigImage &image,
+                              QString *description, LoadReport *report)
+{
+    ConfigImage stored = ConfigImage::blank();
+    if (!load(identification, stored, description, report))
+        return false;
+    const DbfTable &validators = *m_db.Gettoniere();
+    const int v = validators.locate(QStringLiteral("IDENT"), identification.trimmed());
+    bool ok = false;
+    const int family = validators.text(v, QStringLiteral("VERSION")).trimmed().toInt(&ok);
+    if (ok && family >= 0 && family <= 255)
+        image.version[0] = quint8(family);
+    image.options = stored.options;
+    image.prices = stored.prices;
+    // Bytes 68 to 74 of the value block are not in the tables.
+    std::copy_n(stored.values.begin(), Val::Conversion + 4, image.values.begin());
+    image.channels = stored.channels;
+    for (ChannelRecord &record : image.channels) {
+        if (record[Rec::Enabled] != 1)
+            record[Rec::Enabled] = 0;
+    }
+    image.rebuildEnableBitmap();
     return true;
 }
 

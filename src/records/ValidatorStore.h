@@ -30,9 +30,24 @@ public:
     Outcome store(const ConfigImage &image, const QString &identification,
                   const QString &description);
 
+    // Channels (from 1) that a stored validator has no row for, or more than one (the first
+    // row is taken).
+    struct LoadReport
+    {
+        QList<int> missing;
+        QList<int> duplicated;
+    };
+
     // Fills the channel table, the value block, the options and the prices of a blank image
     // from a stored validator; every other block stays not set (255).
-    bool load(const QString &identification, ConfigImage &image, QString *description = nullptr);
+    bool load(const QString &identification, ConfigImage &image, QString *description = nullptr,
+              LoadReport *report = nullptr);
+    // Opens a stored validator into the image the editor holds: the family byte, the options,
+    // the bases, ratio and channel values, the prices and every channel (a channel without a
+    // row opens empty) with the enable mask rebuilt; the blocks the tables do not hold keep
+    // the image's bytes.
+    bool loadInto(const QString &identification, ConfigImage &image, QString *description = nullptr,
+                  LoadReport *report = nullptr);
 
     struct Entry
     {

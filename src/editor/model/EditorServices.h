@@ -7,6 +7,7 @@
 
 struct ConfigImage;
 class ChannelCopyModel;
+class EditorModel;
 class TMonnayeur;
 
 // Where the editor keeps validators in the tables: one validator row and its channel rows per
@@ -64,6 +65,10 @@ public:
     virtual bool controlChannel(TMonnayeur &, ConfigImage &) { return false; }
     // The list of overlapping channels, or "No overlapping !".
     virtual void checkOverlap(const ConfigImage &) {}
+
+    // The browser of the validators saved in the tables, over this editor.
+    virtual bool savedValidatorsAvailable() { return false; }
+    virtual void browseSavedValidators(EditorModel &) {}
 
     // The channel copy dialog over its model, where the program has it.
     virtual bool copyDialogAvailable() { return false; }

@@ -1,0 +1,94 @@
+// The browser of saved validators: filter, open into the editor, delete with the channels.
+#include "DbfTable.h"
+#include "EditorModel.h"
+#include "EditorServices.h"
+#include "RecordingPrompt.h"
+#include "SavedValidatorsModel.h"
+#include "TDBModule.h"
+#include "VirtualValidator.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+TEST(SavedValidators, FilterOpenIntoTheEditorAndDelete)
+{
+    QTemporaryDir root;
+    TDBModule db;
+    ASSERT_TRUE(db.open(QDir(root.path()).filePath(QStringLiteral("TarvikDB"))));
+    RecordingPrompt prompt(UserPrompt::Answer::Yes);
+    ValidatorStore store(db, prompt);
+    ConfigImage shop = VirtualValidator::factoryImage(0x13, 1001);
+    shop.prices[5] = 20;
+    ConfigImage bar = VirtualValidator::factoryImage(0x23, 1002);
+    ASSERT_EQ(store.store(shop, QStringLiteral("SHOP-12"), QStringLiteral("corner shop")),
+              ValidatorStore::Outcome::Stored);
+    ASSERT_EQ(store.store(bar, QStringLiteral("BAR-3"), QStringLiteral("station bar")),
+              ValidatorStore::Outcome::Stored);
+
+    // An editor holding another validator: the blocks the tables do not hold stay its own.
+    DefaultEditorServices services;
+    EditorModel editor(&prompt, &services);
+    const ConfigImage held = VirtualValidator::factoryImage(0x13, 4242);
+    editor.loadImage(held, false);
+
+    SavedValidatorsModel browser(db, prompt, &editor);
+    ASSERT_EQ(browser.rows().size(), 2);
+    browser.setFilter(QStringLiteral("SHOP"));
+    ASSERT_EQ(browser.rows().size(), 1);
+    browser.setFilter(QStringLiteral("station"));
+    ASSERT_EQ(browser.rows().size(), 1);
+    EXPECT_EQ(browser.rows().first().identification, QStringLiteral("BAR-3"));
+    ASSERT_EQ(browser.channelRows().size(), 60);
+    EXPECT_EQ(browser.channelRows().at(0).size(), SavedValidatorsModel::channelColumns().size());
+
+    browser.setFilter(QStringLiteral("shop"));
+    prompt.clear();
+    ASSERT_TRUE(browser.BtnOpenClick());
+    EXPECT_TRUE(prompt.told().isEmpty());
+    const ConfigImage &opened = editor.image();
+    EXPECT_EQ(opened.channels, shop.channels);
+    EXPECT_EQ(opened.prices[5], 20);
+    EXPECT_EQ(opened.enable, shop.enable);
+    EXPECT_EQ(opened.serialNumber(), 4242u); // the identification is not in the tables
+    EXPECT_EQ(opened.counters, held.counters);
+    EXPECT_TRUE(editor.flags().configModified);
+    EXPECT_EQ(editor.control("EHFUBMIN0").text, ByteToText(3, shop.channels[0][Rec::HfuLowMin]));
+
+    browser.setFilter(QStringLiteral("bar"));
+    prompt.setNextAnswers({UserPrompt::Answer::No});
+    EXPECT_FALSE(browser.BtnDeleteClick());
+    ASSERT_TRUE(browser.BtnDeleteClick());
+    EXPECT_TRUE(browser.rows().isEmpty());
+    EXPECT_EQ(store.list().size(), 1);
+    EXPECT_EQ(db.Channel()->liveRows().size(), 60u);
+}
+
+TEST(SavedValidators, MissingChannelRowsOpenEmptyAndAreNamed)
+{
+    QTemporaryDir root;
+    TDBModule db;
+    ASSERT_TRUE(db.open(QDir(root.path()).filePath(QStringLiteral("TarvikDB"))));
+    RecordingPrompt prompt(UserPrompt::Answer::Yes);
+    ValidatorStore store(db, prompt);
+    ASSERT_EQ(store.store(VirtualValidator::factoryImage(0x13, 1001), QStringLiteral("V"), {}),
+              ValidatorStore::Outcome::Stored);
+    DbfTable &channels = *db.Channel();
+    for (int row : channels.liveRows()) {
+        const int canal = channels.value(row, QStringLiteral("CANAL")).toInt();
+        if (canal == 2 || canal == 3) {
+            ASSERT_TRUE(channels.deleteRecord(row));
+        }
+    }
+    ASSERT_TRUE(channels.commit());
+
+    DefaultEditorServices services;
+    EditorModel editor(&prompt, &services);
+    editor.loadImage(VirtualValidator::factoryImage(0x13, 1001), false);
+    SavedValidatorsModel browser(db, prompt, &editor);
+    prompt.clear();
+    ASSERT_TRUE(browser.BtnOpenClick());
+    EXPECT_EQ(prompt.told(), QStringList{"V has no row for channels 2, 3: they open empty."});
+    EXPECT_EQ(editor.control("EHFUBMIN1").text, QString());
+    EXPECT_FALSE(editor.image().enableBit(1));
+}
