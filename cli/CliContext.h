@@ -105,6 +105,7 @@ void registerWriteCommands(CliCommandTable &table);
 void registerRecordCommands(CliCommandTable &table);
 void registerEditorCommands(CliCommandTable &table);
 void registerLearnCommands(CliCommandTable &table);
+void registerValueCommands(CliCommandTable &table);
 
 // Runs tarvik-cli with the arguments after the program name.
 int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,

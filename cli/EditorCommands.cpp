@@ -68,9 +68,9 @@ int showCommand(CliContext &cli, const QStringList &args)
 // One action as a technician would do it: NAME=TEXT types into a box and leaves it, NAME#N
 // picks item N of a radio group, NAME clicks.
 // Transfert=S:D[:clear][:values]: the channel copy dialog's "&Transfert" in one action.
-bool transfert(EditorModel &model, const QString &spec, QString &error)
+bool transfert(EditorModel &model, const QString &text, QString &error)
 {
-    QStringList parts = spec.split(u':');
+    QStringList parts = text.split(u':');
     ChannelCopyModel &copy = model.channelCopy();
     copy.open();
     bool okS = false, okD = false;

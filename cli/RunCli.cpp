@@ -76,6 +76,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerRecordCommands(table);
     registerEditorCommands(table);
     registerLearnCommands(table);
+    registerValueCommands(table);
 
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {

@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>&amp;Transfert</source>
-        <translation>Über<translation>Ü&amp;bertragen</translation>amp;tragen</translation>
+        <translation>Ü&amp;bertragen</translation>
     </message>
     <message>
         <source>&amp;Exit</source>
@@ -534,6 +534,10 @@
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Values Table</source>
+        <translation>Wertetabelle</translation>
     </message>
 </context>
 <context>
@@ -913,6 +917,18 @@
     <message>
         <source>Delete %s and its channels from the tables?</source>
         <translation>%s und seine Kanäle aus den Tabellen löschen?</translation>
+    </message>
+    <message>
+        <source>No value table %s is stored</source>
+        <translation>Keine Wertetabelle %s gespeichert</translation>
+    </message>
+    <message>
+        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
+        <translation>Wertetabelle %s: die Kanäle %s enthalten keine Zahl; sie bleiben ohne Wert</translation>
+    </message>
+    <message>
+        <source>Delete record?</source>
+        <translation>Datensatz löschen?</translation>
     </message>
 </context>
 <context>
@@ -1552,7 +1568,7 @@
     </message>
     <message>
         <source>&amp;Transfert</source>
-        <translation>Über<translation>Über&amp;tragen</translation>amp;tragen</translation>
+        <translation>Über&amp;tragen</translation>
     </message>
     <message>
         <source>Transfert de la table des valeurs dans le monnayeur</source>
@@ -1560,7 +1576,7 @@
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation><translation>&amp;Anwenden</translation>amp;Anwenden</translation>
+        <translation>&amp;Anwenden</translation>
     </message>
     <message>
         <source>Aplly the value table</source>

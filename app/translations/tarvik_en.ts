@@ -535,6 +535,10 @@
         <source>&amp;Close</source>
         <translation>&amp;Close</translation>
     </message>
+    <message>
+        <source>Values Table</source>
+        <translation>Values Table</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -913,6 +917,18 @@
     <message>
         <source>Delete %s and its channels from the tables?</source>
         <translation>Delete %s and its channels from the tables?</translation>
+    </message>
+    <message>
+        <source>No value table %s is stored</source>
+        <translation>No value table %s is stored</translation>
+    </message>
+    <message>
+        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
+        <translation>Value table %s: the channels %s do not hold a number; they are left without value</translation>
+    </message>
+    <message>
+        <source>Delete record?</source>
+        <translation>Delete record?</translation>
     </message>
 </context>
 <context>

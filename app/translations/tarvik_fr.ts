@@ -535,6 +535,10 @@
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
     </message>
+    <message>
+        <source>Values Table</source>
+        <translation>Table des valeurs</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -913,6 +917,18 @@
     <message>
         <source>Delete %s and its channels from the tables?</source>
         <translation>Supprimer %s et ses canaux des tables ?</translation>
+    </message>
+    <message>
+        <source>No value table %s is stored</source>
+        <translation>Aucune table de valeurs %s n&apos;est enregistrée</translation>
+    </message>
+    <message>
+        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
+        <translation>Table de valeurs %s : les canaux %s ne contiennent pas de nombre ; ils restent sans valeur</translation>
+    </message>
+    <message>
+        <source>Delete record?</source>
+        <translation>Supprimer l&apos;enregistrement ?</translation>
     </message>
 </context>
 <context>

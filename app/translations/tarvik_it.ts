@@ -535,6 +535,10 @@
         <source>&amp;Close</source>
         <translation>&amp;Chiudi</translation>
     </message>
+    <message>
+        <source>Values Table</source>
+        <translation>Tabella valori</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -913,6 +917,18 @@
     <message>
         <source>Delete %s and its channels from the tables?</source>
         <translation>Eliminare %s e i suoi canali dalle tabelle?</translation>
+    </message>
+    <message>
+        <source>No value table %s is stored</source>
+        <translation>Nessuna tabella dei valori %s è salvata</translation>
+    </message>
+    <message>
+        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
+        <translation>Tabella dei valori %s: i canali %s non contengono un numero; restano senza valore</translation>
+    </message>
+    <message>
+        <source>Delete record?</source>
+        <translation>Eliminare il record?</translation>
     </message>
 </context>
 <context>

@@ -146,6 +146,7 @@ constexpr Entry kTable[] = {
     {Cap::Open, QT_TRANSLATE_NOOP("Captions", "&Open")},
     {Cap::Delete, QT_TRANSLATE_NOOP("Captions", "&Delete")},
     {Cap::CloseButton, QT_TRANSLATE_NOOP("Captions", "&Close")},
+    {Cap::ValuesTable, QT_TRANSLATE_NOOP("Captions", "Values Table")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

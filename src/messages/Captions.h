@@ -148,6 +148,7 @@ enum class Cap
     Open,
     Delete,
     CloseButton,
+    ValuesTable,
     Count_
 };
 

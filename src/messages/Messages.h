@@ -79,6 +79,9 @@ enum class Msg
     SavedChannelsMissing,
     SavedChannelsDuplicated,
     DeleteSavedValidator,
+    ValueTableNotStored,
+    ValueTableNotNumbers,
+    DeleteRecord,
     // records engine
     RecordsFileMissing,
     RecordsCannotOpen,

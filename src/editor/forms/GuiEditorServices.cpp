@@ -1,13 +1,18 @@
 #include "GuiEditorServices.h"
 
 #include "Captions.h"
+#include "EffectSoundPlayer.h"
 #include "FileDialog.h"
+#include "GuiLearning.h"
+#include "LearningFlows.h"
 #include "Messages.h"
+#include "Settings.h"
 #include "TCloningChk.h"
 #include "TConnectForm.h"
 #include "TDBModule.h"
 #include "TFormAvertissementDif.h"
 #include "TFormCondotto.h"
+#include "TFormProfilC.h"
 #include "TMajFirmware.h"
 #include "TMonnayeur.h"
 #include "TTarvikFormInit.h"
@@ -124,4 +129,63 @@ QString GuiEditorServices::backupDirectory()
     if (!m_db || m_db->dataDirectory().isEmpty())
         return {};
     return QDir(m_db->dataDirectory()).filePath(QStringLiteral("backups"));
+}
+
+// ---- coin learning ------------------------------------------------------------------------
+
+void GuiEditorServices::playCoin()
+{
+    if (!m_sounds)
+        m_sounds = std::make_unique<EffectSoundPlayer>();
+    m_sounds->play(Sound::Coin);
+}
+
+template <typename Flow> auto GuiEditorServices::withLearning(const ConfigImage &image, Flow flow)
+{
+    // The settings are read again each time: the main window may have changed them.
+    Settings settings;
+    settings.load();
+    GuiLearningWindows windows(m_window);
+    GuiLearningServices services(
+        m_window, &m_prompt, [this, &image](int channel) -> std::optional<CoinProfile> {
+            return TFormProfilC::choose(m_window, m_db, m_prompt, channel, image);
+        });
+    LearningContext context;
+    context.prompt = &m_prompt;
+    context.services = &services;
+    context.windows = &windows;
+    context.autoAdjust = settings.autoAdjust();
+    context.directWrite = settings.directWrite();
+    context.soundOn = settings.soundOn();
+    context.coinSound = [this] { playCoin(); };
+    return flow(context);
+}
+
+bool GuiEditorServices::learnCoins(TMonnayeur &link, ConfigImage &image)
+{
+    return withLearning(image, [&](const LearningContext &context) {
+        return LearningFlows::learnCoins(link, image, context);
+    });
+}
+
+bool GuiEditorServices::calibrateReference(TMonnayeur &link, ConfigImage &image)
+{
+    return withLearning(image, [&](const LearningContext &context) {
+        return LearningFlows::calibrateReference(link, image, context);
+    });
+}
+
+bool GuiEditorServices::controlChannel(TMonnayeur &link, ConfigImage &image)
+{
+    return withLearning(image, [&](const LearningContext &context) {
+        return LearningFlows::controlChannel(link, image, context);
+    });
+}
+
+void GuiEditorServices::checkOverlap(const ConfigImage &image)
+{
+    withLearning(image, [&](const LearningContext &context) {
+        LearningFlows::checkOverlap(image, context);
+        return true;
+    });
 }

@@ -6,9 +6,11 @@
 #include <QWidget>
 #include <memory>
 
+class EffectSoundPlayer;
 class TDBModule;
 class UserPrompt;
 class ValidatorStoreTables;
+struct LearningContext;
 
 // What the editor asks of the world, answered with the program's windows: the small dialogs,
 // the file dialogs, the firmware window and the tables of the data module.
@@ -37,9 +39,22 @@ public:
     ValidatorTables *tables() override;
     QString backupDirectory() override;
 
+    // Coin learning, the reference calibration, the channel control and the overlap check,
+    // with the learning windows and the "Sound", "Adjust" and "DirectWrite" settings.
+    bool learningAvailable() override { return true; }
+    bool learnCoins(TMonnayeur &link, ConfigImage &image) override;
+    bool calibrateReference(TMonnayeur &link, ConfigImage &image) override;
+    bool controlChannel(TMonnayeur &link, ConfigImage &image) override;
+    void checkOverlap(const ConfigImage &image) override;
+
 private:
+    // Runs a learning procedure with the windows and the settings as they are now.
+    template <typename Flow> auto withLearning(const ConfigImage &image, Flow flow);
+    void playCoin();
+
     UserPrompt &m_prompt;
     TDBModule *m_db;
     QPointer<QWidget> m_window;
     std::unique_ptr<ValidatorStoreTables> m_tables;
+    std::unique_ptr<EffectSoundPlayer> m_sounds;
 };

@@ -427,6 +427,12 @@ bool EditorModel::click(const QString &name, QString *error)
         BtnOutputClick();
     } else if (name == QLatin1String("BtnCopy")) {
         BtnCopyClick();
+    } else if (name == QLatin1String("BtnValues")) {
+        exclusive([&] {
+            EHFUBMIN0Exit();
+            if (m_services)
+                m_services->editValueTable(*this);
+        });
     } else if (name == QLatin1String("BtnSaved")) {
         exclusive([&] {
             EHFUBMIN0Exit();

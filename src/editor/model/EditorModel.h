@@ -54,6 +54,7 @@ public:
     EditorFlags &flags() { return m_s.flags; }
     const EditorFlags &flags() const { return m_s.flags; }
     bool hasLink() const { return m_link != nullptr; }
+    TMonnayeur *link() const { return m_link; }
 
     // The handlers.
     void FormActivate();

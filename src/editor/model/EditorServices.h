@@ -66,6 +66,10 @@ public:
     // The list of overlapping channels, or "No overlapping !".
     virtual void checkOverlap(const ConfigImage &) {}
 
+    // The value table form over this editor's value block.
+    virtual bool valueTablesAvailable() { return false; }
+    virtual void editValueTable(EditorModel &) {}
+
     // The browser of the validators saved in the tables, over this editor.
     virtual bool savedValidatorsAvailable() { return false; }
     virtual void browseSavedValidators(EditorModel &) {}

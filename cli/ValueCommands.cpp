@@ -1,0 +1,133 @@
+#include "CliContext.h"
+#include "ConfigImage.h"
+#include "DataDirectory.h"
+#include "Messages.h"
+#include "TDBModule.h"
+#include "ValueTableModel.h"
+#include "ValueTableStore.h"
+
+namespace {
+
+bool openTables(CliContext &cli, TDBModule &db)
+{
+    const QString dir = DataDirectory::resolve(cli.options().dataDir);
+    if (db.open(dir, &cli.prompt()))
+        return true;
+    cli.err() << db.errorString() << Qt::endl;
+    return false;
+}
+
+int listValues(CliContext &cli, ValueTableStore &store, const QStringList &args)
+{
+    if (!args.isEmpty())
+        return kExitUsage;
+    for (const auto &entry : store.list())
+        cli.out() << entry.name << '\t' << entry.description << '\n';
+    cli.out() << Qt::flush;
+    return kExitOk;
+}
+
+int saveValues(CliContext &cli, ValueTableStore &store, const QStringList &args)
+{
+    QString name, file, description;
+    bool overwrite = false;
+    for (int i = 0; i < args.size(); ++i) {
+        if (args[i] == QLatin1String("--description") && i + 1 < args.size())
+            description = args[++i];
+        else if (args[i] == QLatin1String("--overwrite"))
+            overwrite = true;
+        else if (args[i].startsWith(u'-'))
+            return kExitUsage;
+        else if (name.isEmpty())
+            name = args[i];
+        else if (file.isEmpty())
+            file = args[i];
+        else
+            return kExitUsage;
+    }
+    if (file.isEmpty())
+        return kExitUsage;
+    if (name.trimmed().isEmpty()) {
+        cli.prompt().tell(messageText(Msg::IdentificationMustBeFilled), UserPrompt::Kind::Warning);
+        return kExitFailed;
+    }
+    ConfigImage image;
+    if (!readImageInput(cli, file, image))
+        return kExitFailed;
+    // "%s exist! Overwrite ?" is answered by --overwrite.
+    cli.prompt().setAnswer(overwrite ? UserPrompt::Answer::Yes : UserPrompt::Answer::No);
+    return store.save(image.values, name, description, image.isLight()) ==
+                   ValueTableStore::Outcome::Saved
+               ? kExitOk
+               : kExitFailed;
+}
+
+int applyValues(CliContext &cli, ValueTableStore &store, const QStringList &arguments)
+{
+    QStringList args = arguments;
+    QString output;
+    if (!takeOutputOption(args, output) || args.size() != 2 || args[0].startsWith(u'-') ||
+        args[1].startsWith(u'-'))
+        return kExitUsage;
+    const int at = store.find(args[0]);
+    if (at < 0) {
+        cli.err() << ValueTableStore::notStoredText(args[0].trimmed()) << Qt::endl;
+        return kExitFailed;
+    }
+    ConfigImage image;
+    if (!readImageInput(cli, args[1], image))
+        return kExitFailed;
+    // As the form does it: open the row into the working copy, then Apply.
+    bool modified = false;
+    ValueTableModel form(image.values, &modified, image.isLight(), nullptr, &cli.prompt(), &store,
+                         false);
+    form.FormActivate();
+    form.recordClick(at);
+    form.BitBtn5Click();
+    form.BitBtn3Click();
+    return writeImageOutput(cli, image, output);
+}
+
+int deleteValues(CliContext &cli, ValueTableStore &store, const QStringList &args)
+{
+    if (args.size() != 1 || args.first().startsWith(u'-'))
+        return kExitUsage;
+    if (!store.remove(args.first())) {
+        cli.err() << store.errorString() << Qt::endl;
+        return kExitFailed;
+    }
+    return kExitOk;
+}
+
+int valuesCommand(CliContext &cli, const QStringList &arguments)
+{
+    if (arguments.isEmpty())
+        return kExitUsage;
+    const QString sub = arguments.first();
+    const QStringList args = arguments.mid(1);
+    using Run = int (*)(CliContext &, ValueTableStore &, const QStringList &);
+    Run run = sub == QLatin1String("list")     ? listValues
+              : sub == QLatin1String("save")   ? saveValues
+              : sub == QLatin1String("apply")  ? applyValues
+              : sub == QLatin1String("delete") ? deleteValues
+                                               : nullptr;
+    if (!run)
+        return kExitUsage;
+    TDBModule db;
+    if (!openTables(cli, db))
+        return kExitFailed;
+    ValueTableStore store(db, cli.prompt());
+    return run(cli, store, args);
+}
+
+} // namespace
+
+void registerValueCommands(CliCommandTable &table)
+{
+    table.insert(QStringLiteral("values"),
+                 {QStringLiteral("values list | save NAME FILE [--description TEXT] [--overwrite]"
+                                 " | apply NAME FILE [-o OUT] | delete NAME"),
+                  QStringLiteral("the value tables: lists them, stores the bases, ratio and "
+                                 "channel values of FILE, applies one to FILE, deletes one"),
+                  valuesCommand});
+}

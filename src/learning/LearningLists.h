@@ -1,0 +1,45 @@
+#pragma once
+
+#include "FormModel.h"
+
+// The small read-only forms of coin learning, without their widgets: a caption, a list or a
+// text, a count and "&OK".
+
+// TFormSuperposition, "Overlapped channels list": the pairs of channels whose windows overlap,
+// counted "%d Overlapping".
+class SuperpositionModel final : public FormModel
+{
+public:
+    SuperpositionModel(const QStringList &lines, UserPrompt *prompt = nullptr);
+    void retranslate() override;
+
+protected:
+    void clicked(const QString &name) override;
+};
+
+// TTarvikAnalyse, "Analyse": the channels that would accept the last coin, under two fixed
+// header lines, counted "%d superposition(s)".
+class AnalyseModel final : public FormModel
+{
+public:
+    // The header lines, shown as they stand in every language.
+    static const QString &headerLine1();
+    static const QString &headerLine2();
+
+    AnalyseModel(const QStringList &lines, UserPrompt *prompt = nullptr);
+    void retranslate() override;
+
+protected:
+    void clicked(const QString &name) override;
+};
+
+// TFormRefChannel, "Reference Channel": how to calibrate an empty reference channel.
+class RefChannelModel final : public FormModel
+{
+public:
+    explicit RefChannelModel(UserPrompt *prompt = nullptr);
+    void retranslate() override;
+
+protected:
+    void clicked(const QString &name) override;
+};

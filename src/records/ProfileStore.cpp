@@ -1,0 +1,145 @@
+#include "ProfileStore.h"
+
+#include "DbfTable.h"
+#include "Messages.h"
+#include "TDBModule.h"
+#include "UserPrompt.h"
+
+#include <cmath>
+
+namespace {
+
+QString name(const char *field)
+{
+    return QString::fromLatin1(field);
+}
+
+std::optional<int> storedInt(const QVariant &v)
+{
+    if (v.isNull())
+        return std::nullopt;
+    return int(std::lround(v.toDouble()));
+}
+
+QVariant intOrBlank(const std::optional<int> &v)
+{
+    return v ? QVariant(*v) : QVariant();
+}
+
+} // namespace
+
+ProfileStore::ProfileStore(TDBModule &db, UserPrompt &prompt) : m_db(db), m_prompt(prompt) {}
+
+const std::array<const char *, ProfileRecord::kTolerances> &ProfileStore::toleranceFields()
+{
+    static const std::array<const char *, ProfileRecord::kTolerances> fields = {
+        "HFULOWMIN", "HFULOWMAX", "HFUHIGHMIN", "HFUHIGHMAX", "DIMMIN",   "DIMMAX", "LFMIN",
+        "LFMAX",     "HFLLOMIN",  "HFLLOMAX",   "HFLHIMIN",   "HFLHIMAX", "AMPMIN", "AMPMAX"};
+    return fields;
+}
+
+bool ProfileStore::tableUsable()
+{
+    if (m_db.DemTable() && m_db.DemTable()->isOpen())
+        return true;
+    m_error = messageText(Msg::RecordsFileMissing,
+                          {m_db.DemTable() ? m_db.DemTable()->filePath() : QString()});
+    return false;
+}
+
+QList<ProfileStore::Entry> ProfileStore::list() const
+{
+    QList<Entry> entries;
+    const DbfTable *table = m_db.DemTable();
+    if (!table || !table->isOpen())
+        return entries;
+    for (int r : table->liveRows())
+        entries.append(
+            {table->text(r, QStringLiteral("NOM")), table->text(r, QStringLiteral("DESCRIPT"))});
+    return entries;
+}
+
+std::optional<ProfileRecord> ProfileStore::load(const QString &profileName)
+{
+    if (!tableUsable())
+        return std::nullopt;
+    const DbfTable &table = *m_db.DemTable();
+    const int r = table.locate(QStringLiteral("NOM"), profileName.trimmed());
+    m_error.clear();
+    if (r < 0)
+        return std::nullopt;
+    ProfileRecord p;
+    p.name = table.text(r, QStringLiteral("NOM"));
+    p.description = table.text(r, QStringLiteral("DESCRIPT"));
+    p.substitute = storedInt(table.value(r, QStringLiteral("SUB"))).value_or(0);
+    // Written as the texts "TRUE" and "False"; other tools write t or true as well.
+    const QVariant enable = table.value(r, QStringLiteral("ENABLE"));
+    p.enabled =
+        enable.typeId() == QMetaType::Bool
+            ? enable.toBool()
+            : enable.toString().trimmed().compare(QLatin1String("TRUE"), Qt::CaseInsensitive) == 0;
+    p.value = storedInt(table.value(r, QStringLiteral("VALEUR")));
+    for (int i = 0; i < ProfileRecord::kTolerances; ++i)
+        p.tolerances[std::size_t(i)] =
+            storedInt(table.value(r, name(toleranceFields()[std::size_t(i)])));
+    return p;
+}
+
+ProfileStore::Outcome ProfileStore::save(const ProfileRecord &profile)
+{
+    QString key = profile.name.trimmed();
+    if (key.isEmpty())
+        return Outcome::EmptyName;
+    if (!tableUsable()) {
+        m_prompt.tell(m_error, UserPrompt::Kind::Error);
+        return Outcome::Failed;
+    }
+    DbfTable &table = *m_db.DemTable();
+    // The name is kept as the field holds it, so that it is found again.
+    key.truncate(table.field(table.fieldIndex(QStringLiteral("NOM"))).length);
+    key = key.trimmed();
+
+    int r = table.locate(QStringLiteral("NOM"), key);
+    if (r >= 0) {
+        const auto answer = m_prompt.ask(messageText(Msg::ExistOverwrite, {key}),
+                                         UserPrompt::Kind::Warning, UserPrompt::Buttons::YesNo);
+        if (answer != UserPrompt::Answer::Yes)
+            return Outcome::NotOverwritten;
+    } else {
+        r = table.appendRecord();
+    }
+
+    bool ok = r >= 0 && table.setValue(r, QStringLiteral("NOM"), key) &&
+              table.setValue(r, QStringLiteral("DESCRIPT"), profile.description) &&
+              table.setValue(r, QStringLiteral("SUB"), profile.substitute) &&
+              table.setValue(r, QStringLiteral("ENABLE"),
+                             profile.enabled ? QStringLiteral("TRUE") : QStringLiteral("False")) &&
+              table.setValue(r, QStringLiteral("VALEUR"), intOrBlank(profile.value));
+    for (int i = 0; ok && i < ProfileRecord::kTolerances; ++i)
+        ok = table.setValue(r, name(toleranceFields()[std::size_t(i)]),
+                            intOrBlank(profile.tolerances[std::size_t(i)]));
+    if (!ok || !table.commit()) {
+        m_error = table.errorString();
+        table.rollback();
+        m_prompt.tell(m_error, UserPrompt::Kind::Error);
+        return Outcome::Failed;
+    }
+    return Outcome::Saved;
+}
+
+bool ProfileStore::remove(const QString &profileName)
+{
+    if (!tableUsable())
+        return false;
+    DbfTable &table = *m_db.DemTable();
+    const int r = table.locate(QStringLiteral("NOM"), profileName.trimmed());
+    m_error.clear();
+    if (r < 0)
+        return false;
+    if (!table.deleteRecord(r) || !table.commit()) {
+        m_error = table.errorString();
+        table.rollback();
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,219 @@
+#include "ValueTableStore.h"
+
+#include "DbfTable.h"
+#include "Encodings.h"
+#include "Messages.h"
+#include "TDBModule.h"
+#include "UserPrompt.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace {
+
+QString channelField(int channel)
+{
+    return QStringLiteral("CANAL%1").arg(channel);
+}
+
+int channelsOf(bool light)
+{
+    return light ? kLightChannels : kChannels;
+}
+
+quint32 bigEndian(const ValueBlock &block, int at, int count)
+{
+    quint32 v = 0;
+    for (int i = 0; i < count; ++i)
+        v = v << 8 | block[std::size_t(at + i)];
+    return v;
+}
+
+void putBigEndian(ValueBlock &block, int at, int count, quint32 v)
+{
+    for (int i = count - 1; i >= 0; --i, v >>= 8)
+        block[std::size_t(at + i)] = quint8(v);
+}
+
+// A field's text as a whole number; nothing for a blank field or text that is not a number.
+std::optional<double> wholeNumber(const QString &text)
+{
+    bool ok = false;
+    const double d = text.trimmed().toDouble(&ok);
+    if (!ok)
+        return std::nullopt;
+    return std::round(d);
+}
+
+} // namespace
+
+ValueTableStore::ValueTableStore(TDBModule &db, UserPrompt &prompt) : m_db(db), m_prompt(prompt) {}
+
+QString ValueTableStore::notStoredText(const QString &name)
+{
+    return messageText(Msg::ValueTableNotStored, {name});
+}
+
+bool ValueTableStore::tableUsable()
+{
+    if (m_db.ValueTable() && m_db.ValueTable()->isOpen())
+        return true;
+    m_error = messageText(Msg::RecordsFileMissing,
+                          {m_db.ValueTable() ? m_db.ValueTable()->filePath() : QString()});
+    return false;
+}
+
+QList<ValueTableStore::Entry> ValueTableStore::list() const
+{
+    QList<Entry> entries;
+    const DbfTable *table = m_db.ValueTable();
+    if (!table || !table->isOpen())
+        return entries;
+    for (int r : table->liveRows())
+        entries.append(
+            {table->text(r, QStringLiteral("IDENTI")), table->text(r, QStringLiteral("DESCRIP"))});
+    return entries;
+}
+
+int ValueTableStore::rowOf(int at) const
+{
+    const DbfTable *table = m_db.ValueTable();
+    if (!table || !table->isOpen() || at < 0)
+        return -1;
+    const std::vector<int> rows = table->liveRows();
+    return at < int(rows.size()) ? rows[std::size_t(at)] : -1;
+}
+
+int ValueTableStore::find(const QString &name) const
+{
+    const DbfTable *table = m_db.ValueTable();
+    if (!table || !table->isOpen())
+        return -1;
+    const int r = table->locate(QStringLiteral("IDENTI"), name.trimmed());
+    if (r < 0)
+        return -1;
+    const std::vector<int> rows = table->liveRows();
+    return int(std::find(rows.begin(), rows.end(), r) - rows.begin());
+}
+
+ValueTableStore::Outcome ValueTableStore::save(const ValueBlock &block, const QString &name,
+                                               const QString &description, bool light)
+{
+    QString key = name.trimmed();
+    if (key.isEmpty())
+        return Outcome::EmptyName;
+    if (!tableUsable()) {
+        m_prompt.tell(m_error, UserPrompt::Kind::Error);
+        return Outcome::Failed;
+    }
+    DbfTable &table = *m_db.ValueTable();
+    // The name is kept as the field holds it, so that it is found again.
+    key.truncate(table.field(table.fieldIndex(QStringLiteral("IDENTI"))).length);
+    key = key.trimmed();
+
+    int r = table.locate(QStringLiteral("IDENTI"), key);
+    if (r >= 0) {
+        const auto answer = m_prompt.ask(messageText(Msg::ExistOverwrite, {key}),
+                                         UserPrompt::Kind::Warning, UserPrompt::Buttons::YesNo);
+        if (answer != UserPrompt::Answer::Yes)
+            return Outcome::NotOverwritten;
+    } else {
+        r = table.appendRecord();
+    }
+
+    // The encoded device values are kept, not amounts.
+    bool ok =
+        r >= 0 && table.setValue(r, QStringLiteral("IDENTI"), key) &&
+        table.setValue(r, QStringLiteral("DESCRIP"), description) &&
+        table.setValue(r, QStringLiteral("BASE1"), qlonglong(bigEndian(block, Val::Base1, 2))) &&
+        table.setValue(r, QStringLiteral("BASE2"), qlonglong(bigEndian(block, Val::Base2, 2))) &&
+        table.setValue(r, QStringLiteral("CONVERT"),
+                       qlonglong(bigEndian(block, Val::Conversion, 4)));
+    for (int channel = 1; ok && channel <= channelsOf(light); ++channel)
+        ok = table.setValue(r, channelField(channel),
+                            int(block[std::size_t(Val::Channel0 + channel - 1)]));
+    if (!ok || !table.commit()) {
+        m_error = table.errorString();
+        table.rollback();
+        m_prompt.tell(m_error, UserPrompt::Kind::Error);
+        return Outcome::Failed;
+    }
+    return Outcome::Saved;
+}
+
+bool ValueTableStore::open(int at, ValueBlock &block, bool light, Entry *entry)
+{
+    m_notices.clear();
+    if (!tableUsable())
+        return false;
+    const int r = rowOf(at);
+    if (r < 0)
+        return false;
+    const DbfTable &table = *m_db.ValueTable();
+    auto number = [&](const char *field, double max) {
+        const auto v = wholeNumber(table.text(r, QLatin1String(field)));
+        return quint32(!v ? max : std::clamp(*v, 0.0, max));
+    };
+    putBigEndian(block, Val::Base1, 2, number("BASE1", 0xFFFF));
+    putBigEndian(block, Val::Base2, 2, number("BASE2", 0xFFFF));
+    putBigEndian(block, Val::Conversion, 4, number("CONVERT", 0xFFFFFFFF));
+    QStringList bad;
+    for (int channel = 1; channel <= channelsOf(light); ++channel) {
+        const QString text = table.text(r, channelField(channel)).trimmed();
+        const auto v = wholeNumber(text);
+        // A blank field is a channel without value; anything else must be a byte.
+        if (!text.isEmpty() && (!v || *v < 0 || *v > 255))
+            bad.append(QString::number(channel));
+        block[std::size_t(Val::Channel0 + channel - 1)] =
+            v && *v >= 0 && *v <= 255 ? quint8(*v) : kNotSet;
+    }
+    const QString name = table.text(r, QStringLiteral("IDENTI"));
+    if (entry)
+        *entry = {name, table.text(r, QStringLiteral("DESCRIP"))};
+    if (!bad.isEmpty()) {
+        m_notices.append(
+            messageText(Msg::ValueTableNotNumbers, {name, bad.join(QStringLiteral(", "))}));
+        m_prompt.tell(m_notices.last(), UserPrompt::Kind::Warning);
+    }
+    return true;
+}
+
+bool ValueTableStore::open(const QString &name, ValueBlock &block, bool light, Entry *entry)
+{
+    const int at = find(name);
+    if (at < 0) {
+        if (tableUsable())
+            m_error = notStoredText(name.trimmed());
+        return false;
+    }
+    return open(at, block, light, entry);
+}
+
+bool ValueTableStore::remove(int at)
+{
+    if (!tableUsable())
+        return false;
+    DbfTable &table = *m_db.ValueTable();
+    const int r = rowOf(at);
+    if (r < 0)
+        return false;
+    if (!table.deleteRecord(r) || !table.commit()) {
+        m_error = table.errorString();
+        table.rollback();
+        return false;
+    }
+    return true;
+}
+
+bool ValueTableStore::remove(const QString &name)
+{
+    const int at = find(name);
+    if (at < 0) {
+        if (tableUsable())
+            m_error = notStoredText(name.trimmed());
+        return false;
+    }
+    return remove(at);
+}

@@ -1,0 +1,90 @@
+// tarvik-cli values: list, save, apply and delete against a temporary data directory.
+#include "CliContext.h"
+#include "ConfigFile.h"
+#include "ConfigImage.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct ValuesRun
+{
+    int code = -1;
+    QString out, err;
+};
+
+ValuesRun values(const QString &dataDir, const QStringList &args)
+{
+    ValuesRun r;
+    QTextStream out(&r.out);
+    QTextStream err(&r.err);
+    r.code =
+        runCli(QStringList{QStringLiteral("--data-dir"), dataDir, QStringLiteral("values")} + args,
+               out, err);
+    return r;
+}
+
+class ValueCommands : public ::testing::Test
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        static int argc = 1;
+        static char name[] = "cli_tests";
+        static char *argv[] = {name, nullptr};
+        if (!QCoreApplication::instance())
+            new QCoreApplication(argc, argv);
+    }
+    QString path(const char *name) const { return dir.filePath(QLatin1String(name)); }
+    QString db() const { return path("db"); }
+
+    QTemporaryDir dir;
+};
+
+} // namespace
+
+TEST_F(ValueCommands, SaveListApplyDelete)
+{
+    ConfigImage source = ConfigImage::blank();
+    source.version[0] = 0x13;
+    source.values = {0x40, 0x19, 0x40, 0x32}; // bases 0.25 and 0.50, then zeros
+    for (int i = 0; i < kChannels; ++i)
+        source.values[std::size_t(Val::Channel0 + i)] = quint8(i + 1);
+    source.values[64] = 0x00, source.values[65] = 0x10, source.values[66] = 0x00;
+    source.values[67] = 0x7D;
+    QString error;
+    ASSERT_TRUE(saveConfigFile(path("source.json"), source, &error)) << error.toStdString();
+
+    EXPECT_EQ(values(db(), {"save", "Euro", path("source.json"), "--description", "coins"}).code,
+              kExitOk);
+    const ValuesRun refused = values(db(), {"save", "EURO", path("source.json")});
+    EXPECT_EQ(refused.code, kExitFailed);
+    EXPECT_TRUE(refused.err.contains(QLatin1String("EURO exist! Overwrite ?")));
+    EXPECT_EQ(values(db(), {"save", "EURO", path("source.json"), "--overwrite"}).code, kExitOk);
+    EXPECT_EQ(values(db(), {"list"}).out, QLatin1String("EURO\t\n"));
+
+    // Applying replaces the first 68 bytes of the target's value block and keeps the rest.
+    ConfigImage target = ConfigImage::blank();
+    target.version[0] = 0x13;
+    target.values.fill(0x33);
+    ASSERT_TRUE(saveConfigFile(path("target.json"), target, &error));
+    EXPECT_EQ(values(db(), {"apply", "euro", path("target.json"), "-o", path("out.json")}).code,
+              kExitOk);
+    ConfigImage applied;
+    ASSERT_TRUE(loadConfigFile(path("out.json"), applied, &error)) << error.toStdString();
+    for (int i = 0; i < 75; ++i)
+        EXPECT_EQ(applied.values[std::size_t(i)],
+                  i < 68 ? source.values[std::size_t(i)] : quint8(0x33))
+            << "byte " << i;
+    EXPECT_EQ(values(db(), {"apply", "nope", path("target.json")}).code, kExitFailed);
+
+    const ValuesRun missing = values(db(), {"delete", "nope"});
+    EXPECT_EQ(missing.code, kExitFailed);
+    EXPECT_TRUE(missing.err.contains(QLatin1String("No value table nope is stored")));
+    EXPECT_EQ(values(db(), {"delete", "Euro"}).code, kExitOk);
+    EXPECT_TRUE(values(db(), {"list"}).out.isEmpty());
+    EXPECT_EQ(values(db(), {"frobnicate"}).code, kExitUsage);
+    EXPECT_EQ(values(db(), {"save", "OnlyName"}).code, kExitUsage);
+}

@@ -1,0 +1,237 @@
+// The small forms of coin learning without their windows: the tolerance grid, the channel to
+// adjust, the overlap and analysis lists, the reference notice, the learned channel file, and
+// the translations of their captions.
+#include "CAdjustModel.h"
+#include "LearnedChannelFile.h"
+#include "LearningFlows.h"
+#include "LearningLists.h"
+#include "LearningSession.h"
+#include "ProgCoinModel.h"
+#include "RecordingPrompt.h"
+#include "ToleranceModel.h"
+#include "VirtualValidator.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+#include <QXmlStreamReader>
+#include <gtest/gtest.h>
+
+TEST(Tolerances, RowsShowSevenWideAndReadBackAsBytes)
+{
+    RecordingPrompt prompt;
+    ToleranceModel grid(&prompt);
+    EXPECT_EQ(grid.control(QStringLiteral("TTarvikTolerance")).text, QStringLiteral("Tolerances"));
+    EXPECT_EQ(grid.control(QStringLiteral("ColItems")).text, QStringLiteral("Items"));
+    EXPECT_EQ(grid.control(QStringLiteral("ColValues")).text, QStringLiteral("Values"));
+    EXPECT_EQ(grid.control(ToleranceModel::keyName(0)).text, QStringLiteral("HFU low min."));
+    EXPECT_EQ(grid.control(ToleranceModel::keyName(4)).text, QStringLiteral("Dimension min."));
+    EXPECT_EQ(grid.control(ToleranceModel::keyName(13)).text, QStringLiteral("HFL amp max."));
+
+    Tolerances tolerances;
+    grid.load(tolerances);
+    EXPECT_EQ(grid.control(QStringLiteral("Value1")).text, QStringLiteral("      4"));
+    EXPECT_EQ(grid.control(QStringLiteral("Value5")).text, QStringLiteral("      1"));
+    // Confirmed without a change, the same fourteen values come back.
+    Tolerances same = tolerances;
+    EXPECT_TRUE(grid.readBack(same));
+    EXPECT_EQ(same, tolerances);
+
+    // Leaving a row normalises it; a click in the grid normalises them all.
+    grid.type(QStringLiteral("Value3"), QStringLiteral("  12"));
+    grid.leave(QStringLiteral("Value3"));
+    EXPECT_EQ(grid.control(QStringLiteral("Value3")).text, QStringLiteral("     12"));
+    grid.type(QStringLiteral("Value4"), QStringLiteral("300"));
+    grid.type(QStringLiteral("Value14"), QStringLiteral("0"));
+    grid.gridClick();
+    EXPECT_EQ(grid.control(QStringLiteral("Value4")).text, QStringLiteral("    300"));
+    EXPECT_EQ(grid.control(QStringLiteral("Value14")).text, QStringLiteral("      0"));
+    Tolerances read = tolerances;
+    EXPECT_TRUE(grid.readBack(read));
+    EXPECT_EQ(read.values[2], 12);
+    EXPECT_EQ(read.values[3], 44); // the low eight bits of 300
+    EXPECT_EQ(read.values[13], 0);
+    EXPECT_TRUE(prompt.told().isEmpty());
+
+    // A value that is not a number: the conversion error, and nothing changes.
+    grid.type(QStringLiteral("Value9"), QStringLiteral("x7"));
+    Tolerances kept = tolerances;
+    EXPECT_FALSE(grid.readBack(kept));
+    EXPECT_EQ(kept, tolerances);
+    EXPECT_EQ(prompt.told(), QStringList{"'x7' is not a valid integer value"});
+
+    grid.click(QStringLiteral("BtnCancel"));
+    EXPECT_TRUE(grid.closed());
+    EXPECT_FALSE(grid.accepted());
+}
+
+TEST(ChannelToAdjust, StartsAtOneAndRefusesAnEmptyChannel)
+{
+    const ConfigImage image = VirtualValidator::factoryImage(0x13, 1001);
+    RecordingPrompt prompt;
+    {
+        CAdjustModel dialog(image, &prompt, true);
+        EXPECT_EQ(dialog.control(QStringLiteral("TFormCAdjust")).text,
+                  QStringLiteral("Channel to adjust"));
+        EXPECT_EQ(dialog.control(QStringLiteral("Label2")).text,
+                  QStringLiteral("0 = searching for nearest"));
+        EXPECT_EQ(dialog.channel(), 1);
+        EXPECT_TRUE(dialog.automaticAdjustment());
+        EXPECT_EQ(dialog.spinRange(QStringLiteral("SpinEdit1"))->max, 59);
+        dialog.type(QStringLiteral("SpinEdit1"), QStringLiteral("0"));
+        dialog.click(QStringLiteral("BtnOK"));
+        EXPECT_TRUE(dialog.accepted()); // 0 searches: never empty
+    }
+    {
+        CAdjustModel dialog(image, &prompt, false);
+        EXPECT_FALSE(dialog.automaticAdjustment());
+        dialog.type(QStringLiteral("SpinEdit1"), QStringLiteral("40"));
+        dialog.click(QStringLiteral("BtnOK"));
+        EXPECT_TRUE(dialog.closed());
+        EXPECT_FALSE(dialog.accepted());
+        EXPECT_EQ(prompt.told(), QStringList{"Channel 40 is empty! No data to control."});
+    }
+    // Only the amplitude missing: the channel holds data.
+    ConfigImage noAmp = image;
+    noAmp.channels[2][Rec::AmpMin] = noAmp.channels[2][Rec::AmpMax] = 255;
+    CAdjustModel dialog(noAmp, &prompt, false);
+    dialog.type(QStringLiteral("SpinEdit1"), QStringLiteral("3"));
+    dialog.click(QStringLiteral("BtnOK"));
+    EXPECT_TRUE(dialog.accepted());
+}
+
+TEST(Lists, HeadersCountsAndTheReferenceNotice)
+{
+    AnalyseModel analyse({QStringLiteral("a"), QStringLiteral("b")});
+    EXPECT_EQ(analyse.control(QStringLiteral("TTarvikAnalyse")).text, QStringLiteral("Analyse"));
+    EXPECT_EQ(analyse.control(QStringLiteral("Header1")).text,
+              QStringLiteral("               |  HFU BAS  | HFU HAUT  |     LF    |    DIM    | "
+                             "HFL HAUT  |  HFL BAS  |   HFL AMP "));
+    EXPECT_EQ(analyse.control(QStringLiteral("Header2")).text,
+              QString::fromUtf8("N° |Canal|Canal|Min|Nom|Max|Min|Nom|Max|Min|Nom|Max|Min|Nom|Max|"
+                                "Min|Nom|Max|Min|Nom|Max|Min|Nom|Max"));
+    EXPECT_EQ(analyse.control(QStringLiteral("Label1")).text, QStringLiteral("2 superposition(s)"));
+    EXPECT_EQ(analyse.control(QStringLiteral("ListBox1")).items.size(), 2);
+
+    SuperpositionModel overlap({QStringLiteral("   1 | C   1 <--> C   2        ")});
+    EXPECT_EQ(overlap.control(QStringLiteral("TFormSuperposition")).text,
+              QStringLiteral("Overlapped channels list"));
+    EXPECT_EQ(overlap.control(QStringLiteral("Label1")).text, QStringLiteral("1 Overlapping"));
+    overlap.click(QStringLiteral("BtnOK"));
+    EXPECT_TRUE(overlap.accepted());
+
+    RefChannelModel notice;
+    EXPECT_EQ(
+        notice.control(QStringLiteral("Memo1")).items,
+        (QStringList{"Reference channel is empty", "Use the reference set of tokens.",
+                     "- Insert 5 golden tokens.", "- Ok", "- Insert 5 silver tokens.", "- Ok"}));
+
+    // The overlap check: "No overlapping !" or the list; nothing before a read.
+    struct Shown final : LearningWindows
+    {
+        void runProgCoin(ProgCoinModel &) override {}
+        void runChannelToAdjust(CAdjustModel &) override {}
+        void showReferenceNotice() override {}
+        void showOverlap(const QStringList &l) override { lines = l; }
+        QStringList lines;
+    } windows;
+    RecordingPrompt prompt;
+    LearningContext context;
+    context.prompt = &prompt;
+    context.services = nullptr;
+    context.windows = &windows;
+    LearningFlows::checkOverlap(ConfigImage::blank(), context);
+    EXPECT_TRUE(prompt.told().isEmpty());
+    ConfigImage image = VirtualValidator::factoryImage(0x13, 1001);
+    LearningFlows::checkOverlap(image, context);
+    EXPECT_EQ(prompt.told(), QStringList{"No overlapping !"});
+    image.channels[7] = image.channels[2];
+    LearningFlows::checkOverlap(image, context);
+    EXPECT_EQ(windows.lines, QStringList{"   1 | C   3 <--> C   8        "});
+}
+
+TEST(LearnedChannelFile, RoundTripsAndRefusesWhatIsNotOne)
+{
+    LearnedChannel channel;
+    channel.windows[0] = {96, 104};
+    channel.windows[6] = {255, 255};
+    channel.substitute = 31;
+    channel.value = QStringLiteral("  -P1-");
+    channel.enabled = false;
+    channel.tolerances.values[13] = 44;
+    const QByteArray json = LearnedChannelFile::toJson(channel);
+    EXPECT_EQ(LearnedChannelFile::fromJson(json), channel);
+
+    EXPECT_FALSE(LearnedChannelFile::fromJson("{}"));
+    EXPECT_FALSE(LearnedChannelFile::fromJson("not json"));
+    QByteArray wide = json;
+    wide.replace("\"substitute\": 31", "\"substitute\": 32");
+    ASSERT_NE(wide, json);
+    EXPECT_FALSE(LearnedChannelFile::fromJson(wide));
+    QByteArray fraction = json;
+    fraction.replace("\"min\": 96", "\"min\": 96.5");
+    ASSERT_NE(fraction, json);
+    EXPECT_FALSE(LearnedChannelFile::fromJson(fraction));
+}
+
+// Every caption of the learning forms has a finished translation in each language shipped.
+TEST(LearningTranslations, EveryCaptionIsTranslated)
+{
+    const ConfigImage image = VirtualValidator::factoryImage(0x13, 1001);
+    ConfigImage mutableImage = image;
+    LearningSession session;
+    ProgCoinModel learning(session, mutableImage, nullptr, nullptr, nullptr, {});
+    ProgCoinModel control(session, mutableImage, nullptr, nullptr, nullptr,
+                          {ProgCoinSetup::Mode::Modify, false, false, false});
+    control.setControlChannel(1);
+    ToleranceModel tolerances(nullptr);
+    CAdjustModel adjust(image, nullptr, true);
+    SuperpositionModel overlap({});
+    AnalyseModel analyse({});
+    RefChannelModel notice;
+    const std::vector<const FormModel *> forms = {&learning, &control, &tolerances, &adjust,
+                                                  &overlap,  &analyse, &notice};
+
+    // The captions: texts with a letter that the messages and the fixed headers do not give.
+    const QSet<QString> notCaptions = {AnalyseModel::headerLine1(), AnalyseModel::headerLine2(),
+                                       QStringLiteral("0 Overlapping"),
+                                       QStringLiteral("0 superposition(s)")};
+    QList<QPair<QString, QString>> expected;
+    for (const FormModel *form : forms) {
+        for (const Control &c : form->controls().all()) {
+            QStringList texts = c.state.items;
+            texts.append(c.state.text);
+            for (const QString &text : std::as_const(texts)) {
+                if (!text.contains(QRegularExpression(QStringLiteral("[A-Za-z]"))) ||
+                    notCaptions.contains(text) || c.name == QLatin1String("LabelRelease"))
+                    continue;
+                expected.append({QLatin1String(form->context()), text});
+            }
+        }
+    }
+    ASSERT_GT(expected.size(), 60);
+
+    for (const char *lang : {"fr", "it", "de", "en"}) {
+        QFile file(QStringLiteral(TARVIK_TRANSLATIONS_DIR "/tarvik_%1.ts").arg(lang));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << lang;
+        QXmlStreamReader xml(&file);
+        QSet<QPair<QString, QString>> translated;
+        QString context, source;
+        while (!xml.atEnd()) {
+            if (xml.readNext() != QXmlStreamReader::StartElement)
+                continue;
+            if (xml.name() == QLatin1String("name"))
+                context = xml.readElementText();
+            else if (xml.name() == QLatin1String("source"))
+                source = xml.readElementText();
+            else if (xml.name() == QLatin1String("translation") &&
+                     xml.attributes().value(QLatin1String("type")) != QLatin1String("unfinished") &&
+                     !xml.readElementText().isEmpty())
+                translated.insert({context, source});
+        }
+        ASSERT_FALSE(xml.hasError()) << lang << " line " << xml.lineNumber();
+        for (const auto &entry : std::as_const(expected))
+            EXPECT_TRUE(translated.contains(entry))
+                << lang << ": " << qPrintable(entry.first) << ": " << qPrintable(entry.second);
+    }
+}

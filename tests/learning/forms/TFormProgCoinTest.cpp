@@ -1,0 +1,161 @@
+// The coin learning window over the in-process virtual validator, driven by its widgets'
+// names: coins inserted on the bench reach the edits, the track bars and the matched channel
+// through the form's own timer; a bound typed by hand is corrected when left; OK stores the
+// channel. The tolerance grid reads back what is typed into it.
+#include "TFormProgCoin.h"
+#include "FormBinder.h"
+#include "GuiEditorServices.h"
+#include "ProgCoinModel.h"
+#include "RecordingPrompt.h"
+#include "SelectionSlider.h"
+#include "SimTransport.h"
+#include "TTarvikTolerance.h"
+#include "ToleranceModel.h"
+#include "VirtualValidator.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QSpinBox>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TFormProgCoinTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        QLocale::setDefault(QLocale::c());
+        // The learning windows read the settings: a directory of the test's own.
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
+    }
+
+    void coinsFillTheWindowsAndOkStoresTheChannel()
+    {
+        VirtualValidator device(0x13, 1001);
+        SimTransport port(&device);
+        port.setLatencyMs(0);
+        RecordingPrompt prompt(UserPrompt::Answer::No);
+        TMonnayeur link(&port, &prompt);
+        ConfigImage image = device.memory();
+        LearningSession session;
+        ProgCoinModel model(session, image, &link, &prompt, nullptr, {});
+        model.FormActivate();
+        TFormProgCoin form(model);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QCOMPARE(form.windowTitle(), QStringLiteral("Coin calibration"));
+        QCOMPARE(form.findChild<QPushButton *>("BtnLoad")->text(), QStringLiteral("&Clear"));
+        QVERIFY(form.findChild<QPushButton *>("BtnAnalyse")->isHidden());
+
+        form.findChild<QSpinBox *>("SpinEdit1")->setValue(10);
+        QCOMPARE(model.control(QStringLiteral("SpinEdit1")).text, QStringLiteral("10"));
+        for (int i = 0; i < 10; ++i)
+            device.insertCoin(CoinKind::Euro050);
+        auto *coins = form.findChild<QLabel *>("LabelCoins");
+        QVERIFY(QTest::qWaitFor([&] { return coins->text() == QLatin1String("10"); }, 20000));
+        QVERIFY(prompt.all().isEmpty());
+
+        // Every window shows the smallest and largest reading, its track bar the same range.
+        for (int w = 0; w < kWindows; ++w) {
+            const Window &window = session.windows()[std::size_t(w)];
+            const WindowPlace &place = kWindowPlaces[w];
+            QCOMPARE(form.findChild<QLineEdit *>(place.minEdit)->text(),
+                     QString::number(window.min));
+            QCOMPARE(form.findChild<QLineEdit *>(place.maxEdit)->text(),
+                     QString::number(window.max));
+            auto *bar = form.findChild<SelectionSlider *>(place.trackBar);
+            QVERIFY(bar);
+            QCOMPARE(bar->selectionStart(), int(window.min));
+            QCOMPARE(bar->selectionEnd(), int(window.max));
+            QCOMPARE(bar->value(), int(session.measures()[std::size_t(w)]));
+        }
+        auto *matched = form.findChild<QLabel *>("LabelMatched");
+        QVERIFY(matched->isVisible());
+        QCOMPARE(matched->text(), QStringLiteral("4"));
+
+        // A minimum typed above its maximum is brought down to it when the box is left.
+        QLineEdit *min = form.findChild<QLineEdit *>("HFLMINL");
+        const QString max = form.findChild<QLineEdit *>("HFLMINH")->text();
+        min->setFocus();
+        min->selectAll();
+        QTest::keyClicks(min, QString::number(max.toInt() + 1));
+        form.findChild<QLineEdit *>("HFLMINH")->setFocus();
+        QCOMPARE(prompt.told(), QStringList{"Value over the maximum, it will be correct"});
+        QCOMPARE(min->text(), max);
+
+        QTest::mouseClick(form.findChild<QPushButton *>("BtnOK"), Qt::LeftButton);
+        QCOMPARE(prompt.asked(), QStringList{"Calibrate another channel ?"});
+        QCOMPARE(form.result(), int(QDialog::Accepted));
+        QVERIFY(!form.isVisible());
+        QCOMPARE(int(image.channels[9][Rec::HflLowMin]), qMax(0, max.toInt() - 8));
+        QVERIFY(image.enableBit(9));
+    }
+
+    void theToleranceGridReadsBackWhatIsTyped()
+    {
+        RecordingPrompt prompt;
+        ToleranceModel model(&prompt);
+        Tolerances tolerances;
+        model.load(tolerances);
+        TTarvikTolerance dialog(model);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        auto *grid = dialog.findChild<QTableWidget *>("ValueListEditor1");
+        QCOMPARE(grid->item(0, 0)->text(), QStringLiteral("HFU low min."));
+        QCOMPARE(grid->item(0, 1)->text(), QStringLiteral("      4"));
+        grid->item(6, 1)->setText(QStringLiteral(" 9"));
+        grid->setCurrentCell(6, 1);
+        grid->setCurrentCell(7, 1); // leaving the row normalises it
+        QCOMPARE(grid->item(6, 1)->text(), QStringLiteral("      9"));
+        QTest::mouseClick(dialog.findChild<QPushButton *>("BtnOK"), Qt::LeftButton);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(model.readBack(tolerances));
+        QCOMPARE(int(tolerances.values[6]), 9);
+    }
+
+    void theEditorsButtonsOpenTheLearningWindows()
+    {
+        VirtualValidator device(0x13, 1001);
+        SimTransport port(&device);
+        port.setLatencyMs(0);
+        RecordingPrompt prompt(UserPrompt::Answer::No);
+        TMonnayeur link(&port, &prompt);
+        ConfigImage image = device.memory();
+        GuiEditorServices services(prompt, nullptr);
+        QVERIFY(services.learningAvailable());
+
+        services.checkOverlap(image);
+        QCOMPARE(prompt.told(), QStringList{"No overlapping !"});
+
+        // Coin learning opens the learning window; a coin reaches it, Cancel changes nothing.
+        bool seen = false;
+        QTimer::singleShot(0, this, [&] {
+            auto *form = qobject_cast<TFormProgCoin *>(QApplication::activeModalWidget());
+            QVERIFY(form);
+            QCOMPARE(form->windowTitle(), QStringLiteral("Coin calibration"));
+            device.insertCoin(CoinKind::Euro200);
+            auto *coins = form->findChild<QLabel *>("LabelCoins");
+            QVERIFY(QTest::qWaitFor([&] { return coins->text() == QLatin1String("1"); }, 20000));
+            seen = true;
+            QTest::mouseClick(form->findChild<QPushButton *>("BtnCancel"), Qt::LeftButton);
+        });
+        const ConfigImage before = image;
+        QVERIFY(!services.learnCoins(link, image));
+        QVERIFY(seen);
+        QCOMPARE(prompt.told().last(), QStringLiteral("Select number of channel !"));
+        QVERIFY(image == before);
+    }
+
+private:
+    QTemporaryDir m_settings;
+};
+
+QTEST_MAIN(TFormProgCoinTest)
+#include "TFormProgCoinTest.moc"
