@@ -1,5 +1,14 @@
 #include "GuiEditorServices.h"
 
+#include "ChannelCopyModel.h"
+#include "EditorModel.h"
+#include "SavedValidatorsModel.h"
+#include "TFormReadFileData.h"
+#include "TFormTransfert.h"
+#include "TFormValue.h"
+#include "ValueTableModel.h"
+#include "ValueTableStore.h"
+
 #include "Captions.h"
 #include "EffectSoundPlayer.h"
 #include "FileDialog.h"
@@ -188,4 +197,38 @@ void GuiEditorServices::checkOverlap(const ConfigImage &image)
         LearningFlows::checkOverlap(image, context);
         return true;
     });
+}
+
+void GuiEditorServices::copyChannel(ChannelCopyModel &copy)
+{
+    TFormTransfert form(copy, m_window);
+    form.exec();
+}
+
+void GuiEditorServices::editValueTable(EditorModel &editor)
+{
+    ValueTableModel::Editor access;
+    access.block = [&editor] { return editor.image().values; };
+    access.apply = [&editor](const ValueBlock &block) {
+        ConfigImage image = editor.image();
+        image.values = block;
+        editor.loadImage(image, true);
+    };
+    access.modified = [&editor] { editor.flags().configModified = true; };
+    std::unique_ptr<ValueTableStore> store;
+    if (m_db)
+        store = std::make_unique<ValueTableStore>(*m_db, m_prompt);
+    ValueTableModel model(access, editor.image().isLight(), editor.link(), &m_prompt, store.get(),
+                          Settings().directWrite());
+    TFormValue form(model, m_window);
+    form.exec();
+}
+
+void GuiEditorServices::browseSavedValidators(EditorModel &editor)
+{
+    if (!m_db)
+        return;
+    SavedValidatorsModel model(*m_db, m_prompt, &editor);
+    TFormReadFileData form(model, m_window);
+    form.exec();
 }

@@ -47,6 +47,14 @@ public:
     bool controlChannel(TMonnayeur &link, ConfigImage &image) override;
     void checkOverlap(const ConfigImage &image) override;
 
+    // The channel copy dialog, the value table form and the saved validators browser.
+    bool copyDialogAvailable() override { return true; }
+    void copyChannel(ChannelCopyModel &copy) override;
+    bool valueTablesAvailable() override { return true; }
+    void editValueTable(EditorModel &editor) override;
+    bool savedValidatorsAvailable() override { return m_db != nullptr; }
+    void browseSavedValidators(EditorModel &editor) override;
+
 private:
     // Runs a learning procedure with the windows and the settings as they are now.
     template <typename Flow> auto withLearning(const ConfigImage &image, Flow flow);

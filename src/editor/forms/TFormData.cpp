@@ -24,7 +24,8 @@ enum class Area
     Middle,
     Right,
     Progress,
-    Closing
+    Closing,
+    Tools
 };
 
 // Where the form's own controls sit: the buttons on a tool bar above; the channel pages lead
@@ -36,9 +37,23 @@ struct Place
     Area area;
 };
 constexpr Place kPlaces[] = {
-    {"GroupBits", Area::Left},   {"GroupCounters", Area::Left}, {"GroupIdent", Area::Middle},
-    {"GroupBox7", Area::Middle}, {"GroupPrices", Area::Middle}, {"GroupBase", Area::Middle},
-    {"Label3", Area::Progress},  {"Gauge1", Area::Progress},    {"BitBtn1", Area::Closing},
+    {"GroupBits", Area::Left},
+    {"GroupCounters", Area::Left},
+    {"GroupIdent", Area::Middle},
+    {"GroupBox7", Area::Middle},
+    {"GroupPrices", Area::Middle},
+    {"GroupBase", Area::Middle},
+    {"Label3", Area::Progress},
+    {"Gauge1", Area::Progress},
+    {"BitBtn1", Area::Closing},
+    // The tools that open other windows sit on a second bar.
+    {"BtnLearn", Area::Tools},
+    {"BtnReference", Area::Tools},
+    {"BtnControl", Area::Tools},
+    {"BtnOverlap", Area::Tools},
+    {"BtnCopy", Area::Tools},
+    {"BtnValues", Area::Tools},
+    {"BtnSaved", Area::Tools},
 };
 
 // The deepest nesting of layouts in the form: a line of a group inside a group.
@@ -87,6 +102,9 @@ TFormData::TFormData(UserPrompt &prompt, EditorServices &services, TMonnayeur *l
     m_toolbar = new QHBoxLayout;
     m_toolbar->setSpacing(2);
     layout->addLayout(m_toolbar);
+    m_tools = new QHBoxLayout;
+    m_tools->setSpacing(2);
+    layout->addLayout(m_tools);
     auto *body = new QHBoxLayout;
     body->setSpacing(4);
     layout->addLayout(body, 1);
@@ -103,6 +121,7 @@ TFormData::TFormData(UserPrompt &prompt, EditorServices &services, TMonnayeur *l
 
     build();
     m_toolbar->addStretch();
+    m_tools->addStretch();
     for (QBoxLayout *area : {m_left, m_middle, m_right})
         area->addStretch();
 
@@ -198,6 +217,8 @@ QBoxLayout *TFormData::areaOf(const Control &control) const
                 return m_progress;
             case Area::Closing:
                 return m_closeLine;
+            case Area::Tools:
+                return m_tools;
             }
         }
     }

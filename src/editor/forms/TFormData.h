@@ -69,6 +69,7 @@ private:
     ChannelPages *m_pages;
     QTimer *m_timer;
     QBoxLayout *m_toolbar;
+    QBoxLayout *m_tools;
     QBoxLayout *m_left;
     QBoxLayout *m_middle;
     QBoxLayout *m_right;

@@ -21,19 +21,14 @@ struct Button
 
 // The editor's buttons, in the order of its tool bar.
 constexpr Button kButtons[] = {
-    {"SpeedButton1", Cap::ReadValidator, true},
-    {"SpeedButton8", Cap::WriteValidator, true},
-    {"SpeedButton2", Cap::Clone, true},
-    {"SpeedButton4", Cap::StoreInTables, false},
-    {"BtnOpenFile", Cap::OpenFile, false},
-    {"BtnSaveFile", Cap::SaveFile, false},
-    {"BtnInit", Cap::Initialise, false},
-    {"BtnOutput", Cap::Output, false},
-    {"BtnLearn", Cap::CoinLearning, true},
-    {"BtnReference", Cap::ReferenceCalibration, true},
-    {"BtnControl", Cap::ChannelControl, true},
-    {"BtnOverlap", Cap::OverlapCheck, false},
-    {"BitBtn1", Cap::Close, false},
+    {"SpeedButton1", Cap::ReadValidator, true}, {"SpeedButton8", Cap::WriteValidator, true},
+    {"SpeedButton2", Cap::Clone, true},         {"SpeedButton4", Cap::StoreInTables, false},
+    {"BtnOpenFile", Cap::OpenFile, false},      {"BtnSaveFile", Cap::SaveFile, false},
+    {"BtnInit", Cap::Initialise, false},        {"BtnOutput", Cap::Output, false},
+    {"BtnLearn", Cap::CoinLearning, true},      {"BtnReference", Cap::ReferenceCalibration, true},
+    {"BtnControl", Cap::ChannelControl, true},  {"BtnOverlap", Cap::OverlapCheck, false},
+    {"BtnCopy", Cap::CopyTitle, false},         {"BtnValues", Cap::ValuesTable, false},
+    {"BtnSaved", Cap::SavedValidators, false},  {"BitBtn1", Cap::Close, false},
 };
 
 bool isLearningButton(const QString &name)
@@ -76,9 +71,13 @@ EditorModel::EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeu
     for (const Button &button : kButtons) {
         c.add(QLatin1String(button.name), ControlKind::Button);
         c.setEnabled(QLatin1String(button.name), !button.needsLink || link);
-        if (isLearningButton(QLatin1String(button.name)))
-            c.setVisible(QLatin1String(button.name), services && services->learningAvailable());
     }
+    // The buttons that open other windows show where the program has those windows.
+    c.setVisible(QStringLiteral("BtnCopy"), services && services->copyDialogAvailable());
+    c.setVisible(QStringLiteral("BtnValues"), services && services->valueTablesAvailable());
+    c.setVisible(QStringLiteral("BtnSaved"), services && services->savedValidatorsAvailable());
+    for (const char *name : {"BtnLearn", "BtnReference", "BtnControl", "BtnOverlap"})
+        c.setVisible(QLatin1String(name), services && services->learningAvailable());
     c.add(QStringLiteral("Gauge1"), ControlKind::Gauge);
     c.add(QStringLiteral("Label3"), ControlKind::Label);
     c.setVisible(QStringLiteral("Gauge1"), false);

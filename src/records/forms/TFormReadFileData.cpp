@@ -1,0 +1,141 @@
+#include "TFormReadFileData.h"
+
+#include "SavedValidatorsModel.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+template <typename W> W *named(W *widget, const char *name)
+{
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+QTableWidget *grid(const char *name, QWidget *parent)
+{
+    auto *table = named(new QTableWidget(parent), name);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    return table;
+}
+
+} // namespace
+
+TFormReadFileData::TFormReadFileData(SavedValidatorsModel &model, QWidget *parent)
+    : QDialog(parent), m_model(model), m_filterLabel(named(new QLabel(this), "LFilter")),
+      m_filter(named(new QLineEdit(this), "EFilter")), m_validators(grid("GridValidators", this)),
+      m_channels(grid("GridChannels", this)), m_open(named(new QPushButton(this), "BtnOpen")),
+      m_delete(named(new QPushButton(this), "BtnDelete")),
+      m_close(named(new QPushButton(this), "BtnClose"))
+{
+    setObjectName(QStringLiteral("TFormReadFileData"));
+    m_filterLabel->setBuddy(m_filter);
+    // The dBase grids are titled by their fields, as a data grid shows them.
+    m_validators->setColumnCount(3);
+    m_validators->setHorizontalHeaderLabels(
+        {QStringLiteral("IDENT"), QStringLiteral("DESCRIPTIO"), QStringLiteral("VERSION")});
+    m_channels->setColumnCount(int(SavedValidatorsModel::channelColumns().size()));
+    m_channels->setHorizontalHeaderLabels(SavedValidatorsModel::channelColumns());
+
+    auto *filter = new QHBoxLayout;
+    filter->addWidget(m_filterLabel);
+    filter->addWidget(m_filter, 1);
+    auto *grids = new QHBoxLayout;
+    grids->addWidget(m_validators, 1);
+    grids->addWidget(m_channels, 2);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    for (QPushButton *button : {m_open, m_delete, m_close}) {
+        button->setAutoDefault(false);
+        buttons->addWidget(button);
+    }
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(filter);
+    layout->addLayout(grids, 1);
+    layout->addLayout(buttons);
+    resize(1100, 520);
+
+    connect(m_filter, &QLineEdit::textEdited, this, [this](const QString &text) {
+        m_model.setFilter(text);
+        showValidators();
+    });
+    connect(m_validators, &QTableWidget::currentCellChanged, this, [this](int row) {
+        if (row == m_model.current())
+            return;
+        m_model.select(row);
+        showChannels();
+    });
+    connect(m_validators, &QTableWidget::cellDoubleClicked, m_open, &QPushButton::click);
+    connect(m_open, &QPushButton::clicked, this, [this] {
+        if (m_model.BtnOpenClick())
+            accept();
+    });
+    connect(m_delete, &QPushButton::clicked, this, [this] {
+        if (m_model.BtnDeleteClick())
+            showValidators();
+    });
+    connect(m_close, &QPushButton::clicked, this, &QDialog::reject);
+    showTexts();
+    showValidators();
+}
+
+void TFormReadFileData::showTexts()
+{
+    const ControlSet &c = m_model.controls();
+    setWindowTitle(c.state(QStringLiteral("TFormReadFileData")).text);
+    m_filterLabel->setText(c.state(QStringLiteral("LFilter")).text);
+    m_open->setText(c.state(QStringLiteral("BtnOpen")).text);
+    m_delete->setText(c.state(QStringLiteral("BtnDelete")).text);
+    m_close->setText(c.state(QStringLiteral("BtnClose")).text);
+    m_validators->setAccessibleName(c.state(QStringLiteral("TFormReadFileData")).text);
+    m_channels->setAccessibleName(c.state(QStringLiteral("TFormReadFileData")).text +
+                                  QStringLiteral(" CANAL"));
+}
+
+void TFormReadFileData::showValidators()
+{
+    const QSignalBlocker blocker(m_validators);
+    const auto &rows = m_model.rows();
+    m_validators->setRowCount(int(rows.size()));
+    for (int r = 0; r < rows.size(); ++r) {
+        const QStringList cells{rows[r].identification, rows[r].description, rows[r].version};
+        for (int c = 0; c < cells.size(); ++c)
+            m_validators->setItem(r, c, new QTableWidgetItem(cells[c]));
+    }
+    if (m_model.current() >= 0)
+        m_validators->selectRow(m_model.current());
+    showChannels();
+}
+
+void TFormReadFileData::showChannels()
+{
+    const ControlSet &c = m_model.controls();
+    m_open->setEnabled(c.state(QStringLiteral("BtnOpen")).enabled);
+    m_delete->setEnabled(c.state(QStringLiteral("BtnDelete")).enabled);
+    const auto &rows = m_model.channelRows();
+    m_channels->setRowCount(int(rows.size()));
+    for (int r = 0; r < rows.size(); ++r) {
+        for (int col = 0; col < rows[r].size(); ++col)
+            m_channels->setItem(r, col, new QTableWidgetItem(rows[r][col]));
+    }
+}
+
+void TFormReadFileData::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_model.retranslate();
+        showTexts();
+    }
+    QDialog::changeEvent(event);
+}

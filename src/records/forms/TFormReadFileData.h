@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDialog>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTableWidget;
+class SavedValidatorsModel;
+
+// "Saved validators": the browser over its model; every rule is in SavedValidatorsModel.
+class TFormReadFileData final : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit TFormReadFileData(SavedValidatorsModel &model, QWidget *parent = nullptr);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void showTexts();
+    void showValidators();
+    void showChannels();
+
+    SavedValidatorsModel &m_model;
+    QLabel *m_filterLabel;
+    QLineEdit *m_filter;
+    QTableWidget *m_validators;
+    QTableWidget *m_channels;
+    QPushButton *m_open;
+    QPushButton *m_delete;
+    QPushButton *m_close;
+};

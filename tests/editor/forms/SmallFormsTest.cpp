@@ -1,0 +1,79 @@
+// The channel copy dialog and the saved validators browser, driven by their widgets' names.
+#include "EditorModel.h"
+#include "EditorServices.h"
+#include "RecordingPrompt.h"
+#include "SavedValidatorsModel.h"
+#include "TDBModule.h"
+#include "TFormReadFileData.h"
+#include "TFormTransfert.h"
+#include "VirtualValidator.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class SmallFormsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theCopyDialogMovesAChannel()
+    {
+        RecordingPrompt prompt;
+        DefaultEditorServices services;
+        EditorModel editor(&prompt, &services);
+        const ConfigImage factory = VirtualValidator::factoryImage(0x13, 1001);
+        editor.loadImage(factory, false);
+        editor.channelCopy().open();
+        TFormTransfert form(editor.channelCopy());
+        auto *source = form.findChild<QSpinBox *>(QStringLiteral("SpinEditS"));
+        auto *destination = form.findChild<QSpinBox *>(QStringLiteral("SpinEditD"));
+        QCOMPARE(source->maximum(), 59);
+        source->setValue(2);
+        destination->setValue(12);
+        QTest::mouseClick(form.findChild<QCheckBox *>(QStringLiteral("CheckBox1")), Qt::LeftButton);
+        QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("BitBtn2")), Qt::LeftButton);
+        QCOMPARE(editor.image().channels[11], factory.channels[1]);
+        QCOMPARE(editor.image().valueByte(1), quint8(255));
+        QCOMPARE(editor.control(QStringLiteral("EHFUBMIN1")).text, QString());
+        QCOMPARE(prompt.told().last(), QStringLiteral("All data transfered !"));
+    }
+
+    void theBrowserFiltersAndOpens()
+    {
+        QTemporaryDir root;
+        TDBModule db;
+        QVERIFY(db.open(QDir(root.path()).filePath(QStringLiteral("TarvikDB"))));
+        RecordingPrompt prompt(UserPrompt::Answer::Yes);
+        ValidatorStore store(db, prompt);
+        const ConfigImage shop = VirtualValidator::factoryImage(0x13, 1001);
+        QCOMPARE(store.store(shop, QStringLiteral("SHOP-12"), QStringLiteral("corner")),
+                 ValidatorStore::Outcome::Stored);
+        QCOMPARE(store.store(VirtualValidator::factoryImage(0x13, 1002), QStringLiteral("BAR-3"),
+                             QStringLiteral("station")),
+                 ValidatorStore::Outcome::Stored);
+
+        DefaultEditorServices services;
+        EditorModel editor(&prompt, &services);
+        editor.loadImage(ConfigImage::blank(), false);
+        SavedValidatorsModel model(db, prompt, &editor);
+        TFormReadFileData form(model);
+        auto *list = form.findChild<QTableWidget *>(QStringLiteral("GridValidators"));
+        QCOMPARE(list->rowCount(), 2);
+        QTest::keyClicks(form.findChild<QLineEdit *>(QStringLiteral("EFilter")),
+                         QStringLiteral("corn"));
+        QCOMPARE(list->rowCount(), 1);
+        QCOMPARE(form.findChild<QTableWidget *>(QStringLiteral("GridChannels"))->rowCount(), 60);
+        QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("BtnOpen")), Qt::LeftButton);
+        QCOMPARE(editor.image().channels, shop.channels);
+        QVERIFY(editor.flags().configModified);
+    }
+};
+
+QTEST_MAIN(SmallFormsTest)
+#include "SmallFormsTest.moc"
