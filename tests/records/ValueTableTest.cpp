@@ -269,3 +269,41 @@ TEST_F(ValueTableModelTest, LightLayoutSaveAndOpen)
     EXPECT_TRUE(form.records().isEmpty());
     EXPECT_TRUE(store.list().isEmpty());
 }
+
+#include "SimTransport.h"
+#include "VirtualValidator.h"
+
+// Load reads the validator's table into the working copy; Transfert sends the working copy.
+TEST(ValueTableLink, LoadAndTransfertReachTheValidator)
+{
+    VirtualValidator device(0x13, 1001);
+    SimTransport port(&device);
+    port.setLatencyMs(0);
+    RecordingPrompt prompt(UserPrompt::Answer::Cancel);
+    TMonnayeur link(&port, &prompt);
+    ValueBlock editorBlock;
+    editorBlock.fill(0x11);
+    bool modified = false;
+    ValueTableModel model(editorBlock, &modified, false, &link, &prompt, nullptr, true);
+    model.FormCreate();
+    model.FormActivate();
+    model.BitBtn7Click();
+    model.BitBtn3Click(); // Apply: the editor gets what was loaded
+    EXPECT_EQ(editorBlock, device.memory().values);
+    EXPECT_TRUE(modified);
+
+    model.BitBtn6Click(); // Reset
+    model.BitBtn4Click();
+    EXPECT_EQ(prompt.told().last(),
+              QStringLiteral("Table of values transferred in the validator!"));
+    ValueBlock cleared;
+    cleared.fill(255);
+    EXPECT_EQ(device.memory().values, cleared);
+
+    // A validator that does not answer: Load asks to connect it, Cancel changes nothing.
+    device.setConnected(false);
+    model.BitBtn7Click();
+    EXPECT_EQ(prompt.asked().last(), QStringLiteral("Connect validator "));
+    model.BitBtn4Click();
+    EXPECT_EQ(prompt.told().last(), QStringLiteral("Fault during save operation !"));
+}

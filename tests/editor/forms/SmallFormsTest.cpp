@@ -6,6 +6,8 @@
 #include "TDBModule.h"
 #include "TFormReadFileData.h"
 #include "TFormTransfert.h"
+#include "TFormValue.h"
+#include "ValueTableModel.h"
 #include "VirtualValidator.h"
 
 #include <QCheckBox>
@@ -72,6 +74,26 @@ private Q_SLOTS:
         QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("BtnOpen")), Qt::LeftButton);
         QCOMPARE(editor.image().channels, shop.channels);
         QVERIFY(editor.flags().configModified);
+    }
+
+    void theValueTableFormResetsAndApplies()
+    {
+        RecordingPrompt prompt;
+        ValueBlock editorBlock = VirtualValidator::factoryImage(0x13, 1001).values;
+        bool modified = false;
+        ValueTableModel model(editorBlock, &modified, false, nullptr, &prompt, nullptr, false);
+        TFormValue form(model);
+        form.show();
+        auto *grid = form.findChild<QTableWidget *>(QStringLiteral("TableauValue"));
+        QVERIFY(grid);
+        QCOMPARE(grid->rowCount(), 7); // the header row and six rows of ten channels
+        QVERIFY(!form.findChild<QWidget *>(QStringLiteral("BitBtn4"))->isVisible());
+        QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("BitBtn6")), Qt::LeftButton);
+        QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("BitBtn1")), Qt::LeftButton);
+        ValueBlock cleared;
+        cleared.fill(255);
+        QCOMPARE(editorBlock, cleared);
+        QVERIFY(modified);
     }
 };
 
