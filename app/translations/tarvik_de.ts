@@ -1083,6 +1083,33 @@
     </message>
 </context>
 <context>
+    <name>TFormCAdjust</name>
+    <message>
+        <source>Channel to adjust</source>
+        <translation>Anzupassender Kanal</translation>
+    </message>
+    <message>
+        <source>&amp;Channel :</source>
+        <translation>&amp;Kanal :</translation>
+    </message>
+    <message>
+        <source>0 = searching for nearest</source>
+        <translation>0 = nächstgelegenen suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Automatic adjustment :</source>
+        <translation>&amp;Automatische Anpassung :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>TFormCondotto</name>
     <message>
         <source>Output</source>
@@ -1145,65 +1172,126 @@
     </message>
 </context>
 <context>
-    <name>TMajFirmware</name>
+    <name>TFormProfilC</name>
     <message>
-        <source>Fichier Firmware VK2</source>
-        <translation>VK2-Firmware-Datei</translation>
+        <source>Coin Profile</source>
+        <translation>Münzprofil</translation>
     </message>
     <message>
-        <source>Firmware upgrade</source>
-        <translation>Firmware-Aktualisierung</translation>
+        <source>&amp;Name :</source>
+        <translation>&amp;Name :</translation>
     </message>
     <message>
-        <source>Upgrade</source>
-        <translation>Aktualisierung</translation>
+        <source>&amp;Description :</source>
+        <translation>&amp;Beschreibung :</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-</context>
-<context>
-    <name>TTarvikFormInit</name>
-    <message>
-        <source>Validator setting</source>
-        <translation>Münzprüfer-Einstellung</translation>
+        <source>Substitution channel :</source>
+        <translation>Ersatzkanal :</translation>
     </message>
     <message>
-        <source>Serial Number :</source>
-        <translation>Seriennummer :</translation>
+        <source>&amp;Enable</source>
+        <translation>&amp;Aktivieren</translation>
     </message>
     <message>
-        <source>Outlet</source>
-        <translation>Ausgang</translation>
+        <source>&amp;Value : </source>
+        <translation>&amp;Wert : </translation>
     </message>
     <message>
-        <source>Game Fast</source>
-        <translation>Spiel schnell</translation>
+        <source>&amp;P1</source>
+        <translation>&amp;P1</translation>
     </message>
     <message>
-        <source>Game</source>
-        <translation>Spiel</translation>
+        <source>P2</source>
+        <translation>P2</translation>
     </message>
     <message>
-        <source>Vending anti-jam</source>
-        <translation>Verkauf Anti-Stau</translation>
+        <source>Tolerances</source>
+        <translation>Toleranzen</translation>
     </message>
     <message>
-        <source>Vending</source>
-        <translation>Verkauf</translation>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
     </message>
     <message>
-        <source>Resetable counter :</source>
-        <translation>Rücksetzbarer Zähler :</translation>
+        <source>Values</source>
+        <translation>Werte</translation>
     </message>
     <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
+        <source>Items</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>B&amp;eenden</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
+        <translation>Abb&amp;rechen</translation>
+    </message>
+    <message>
+        <source>HFU low min.</source>
+        <translation>HFU niedrig min.</translation>
+    </message>
+    <message>
+        <source>HFU low max.</source>
+        <translation>HFU niedrig max.</translation>
+    </message>
+    <message>
+        <source>HFU high min.</source>
+        <translation>HFU hoch min.</translation>
+    </message>
+    <message>
+        <source>Hfu high max.</source>
+        <translation>Hfu hoch max.</translation>
+    </message>
+    <message>
+        <source>Dimension min.</source>
+        <translation>Abmessung min.</translation>
+    </message>
+    <message>
+        <source>Dimension max.</source>
+        <translation>Abmessung max.</translation>
+    </message>
+    <message>
+        <source>LF min.</source>
+        <translation>LF min.</translation>
+    </message>
+    <message>
+        <source>LF max.</source>
+        <translation>LF max.</translation>
+    </message>
+    <message>
+        <source>HFL low min.</source>
+        <translation>HFL niedrig min.</translation>
+    </message>
+    <message>
+        <source>HFL low max.</source>
+        <translation>HFL niedrig max.</translation>
+    </message>
+    <message>
+        <source>HFL high min.</source>
+        <translation>HFL hoch min.</translation>
+    </message>
+    <message>
+        <source>HFL high max.</source>
+        <translation>HFL hoch max.</translation>
+    </message>
+    <message>
+        <source>HFL amp min.</source>
+        <translation>HFL Amp. min.</translation>
+    </message>
+    <message>
+        <source>HFL amp max.</source>
+        <translation>HFL Amp. max.</translation>
     </message>
 </context>
 <context>
@@ -1334,6 +1422,248 @@
     </message>
 </context>
 <context>
+    <name>TFormRefChannel</name>
+    <message>
+        <source>Reference Channel</source>
+        <translation>Referenzkanal</translation>
+    </message>
+    <message>
+        <source>Reference channel is empty</source>
+        <translation>Der Referenzkanal ist leer</translation>
+    </message>
+    <message>
+        <source>Use the reference set of tokens.</source>
+        <translation>Den Referenzsatz Jetons verwenden.</translation>
+    </message>
+    <message>
+        <source>- Insert 5 golden tokens.</source>
+        <translation>- 5 goldene Jetons einwerfen.</translation>
+    </message>
+    <message>
+        <source>- Ok</source>
+        <translation>- Ok</translation>
+    </message>
+    <message>
+        <source>- Insert 5 silver tokens.</source>
+        <translation>- 5 silberne Jetons einwerfen.</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormSuperposition</name>
+    <message>
+        <source>Overlapped channels list</source>
+        <translation>Liste der sich überschneidenden Kanäle</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormValue</name>
+    <message>
+        <source>Values Table</source>
+        <translation>Wertetabelle</translation>
+    </message>
+    <message>
+        <source>Base Value</source>
+        <translation>Basiswert</translation>
+    </message>
+    <message>
+        <source>Channels 1 to </source>
+        <translation>Kanäle 1 bis </translation>
+    </message>
+    <message>
+        <source>Channels 31 to 60 : </source>
+        <translation>Kanäle 31 bis 60 : </translation>
+    </message>
+    <message>
+        <source>Ratio : </source>
+        <translation>Verhältnis : </translation>
+    </message>
+    <message>
+        <source>Name : </source>
+        <translation>Name : </translation>
+    </message>
+    <message>
+        <source>Description : </source>
+        <translation>Beschreibung : </translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Table name</source>
+        <translation>Tabellenname</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Channel values</source>
+        <translation>Kanalwerte</translation>
+    </message>
+    <message>
+        <source>Stored value tables</source>
+        <translation>Gespeicherte Wertetabellen</translation>
+    </message>
+    <message>
+        <source>Record navigator</source>
+        <translation>Datensatznavigation</translation>
+    </message>
+    <message>
+        <source>&amp;Load</source>
+        <translation>&amp;Laden</translation>
+    </message>
+    <message>
+        <source>Load value table from validator</source>
+        <translation>Wertetabelle aus dem Münzprüfer laden</translation>
+    </message>
+    <message>
+        <source>&amp;Transfert</source>
+        <translation>Über&amp;tragen</translation>
+    </message>
+    <message>
+        <source>Transfert de la table des valeurs dans le monnayeur</source>
+        <translation>Wertetabelle in den Münzprüfer übertragen</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>Aplly the value table</source>
+        <translation>Wertetabelle übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save a record</source>
+        <translation>Datensatz speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Open a record</source>
+        <translation>Datensatz öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reseting value table</source>
+        <translation>Wertetabelle zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation>Erster Datensatz</translation>
+    </message>
+    <message>
+        <source>Prior record</source>
+        <translation>Vorheriger Datensatz</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Nächster Datensatz</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Letzter Datensatz</translation>
+    </message>
+    <message>
+        <source>Delete record</source>
+        <translation>Datensatz löschen</translation>
+    </message>
+</context>
+<context>
+    <name>TMajFirmware</name>
+    <message>
+        <source>Fichier Firmware VK2</source>
+        <translation>VK2-Firmware-Datei</translation>
+    </message>
+    <message>
+        <source>Firmware upgrade</source>
+        <translation>Firmware-Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Aktualisierung</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikAnalyse</name>
+    <message>
+        <source>Analyse</source>
+        <translation>Analyse</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikFormInit</name>
+    <message>
+        <source>Validator setting</source>
+        <translation>Münzprüfer-Einstellung</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Seriennummer :</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Game Fast</source>
+        <translation>Spiel schnell</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Verkauf Anti-Stau</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Verkauf</translation>
+    </message>
+    <message>
+        <source>Resetable counter :</source>
+        <translation>Rücksetzbarer Zähler :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>TTarvikTolerance</name>
     <message>
         <source>Tolerances</source>
@@ -1410,359 +1740,6 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Abbrechen</translation>
-    </message>
-    <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; ist kein gültiger Ganzzahlwert</translation>
-    </message>
-</context>
-<context>
-    <name>TFormCAdjust</name>
-    <message>
-        <source>Channel to adjust</source>
-        <translation>Anzupassender Kanal</translation>
-    </message>
-    <message>
-        <source>&amp;Channel :</source>
-        <translation>&amp;Kanal :</translation>
-    </message>
-    <message>
-        <source>0 = searching for nearest</source>
-        <translation>0 = nächstgelegenen suchen</translation>
-    </message>
-    <message>
-        <source>&amp;Automatic adjustment :</source>
-        <translation>&amp;Automatische Anpassung :</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
-    </message>
-</context>
-<context>
-    <name>TFormSuperposition</name>
-    <message>
-        <source>Overlapped channels list</source>
-        <translation>Liste der sich überschneidenden Kanäle</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TTarvikAnalyse</name>
-    <message>
-        <source>Analyse</source>
-        <translation>Analyse</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TFormRefChannel</name>
-    <message>
-        <source>Reference Channel</source>
-        <translation>Referenzkanal</translation>
-    </message>
-    <message>
-        <source>Reference channel is empty</source>
-        <translation>Der Referenzkanal ist leer</translation>
-    </message>
-    <message>
-        <source>Use the reference set of tokens.</source>
-        <translation>Den Referenzsatz Jetons verwenden.</translation>
-    </message>
-    <message>
-        <source>- Insert 5 golden tokens.</source>
-        <translation>- 5 goldene Jetons einwerfen.</translation>
-    </message>
-    <message>
-        <source>- Ok</source>
-        <translation>- Ok</translation>
-    </message>
-    <message>
-        <source>- Insert 5 silver tokens.</source>
-        <translation>- 5 silberne Jetons einwerfen.</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TFormValue</name>
-    <message>
-        <source>Values Table</source>
-        <translation>Wertetabelle</translation>
-    </message>
-    <message>
-        <source>Base Value</source>
-        <translation>Basiswert</translation>
-    </message>
-    <message>
-        <source>Channels 1 to </source>
-        <translation>Kanäle 1 bis </translation>
-    </message>
-    <message>
-        <source>Channels 31 to 60 : </source>
-        <translation>Kanäle 31 bis 60 : </translation>
-    </message>
-    <message>
-        <source>Ratio : </source>
-        <translation>Verhältnis : </translation>
-    </message>
-    <message>
-        <source>Name : </source>
-        <translation>Name : </translation>
-    </message>
-    <message>
-        <source>Description : </source>
-        <translation>Beschreibung : </translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>Kanäle</translation>
-    </message>
-    <message>
-        <source>Table name</source>
-        <translation>Tabellenname</translation>
-    </message>
-    <message>
-        <source>Description</source>
-        <translation>Beschreibung</translation>
-    </message>
-    <message>
-        <source>Channel values</source>
-        <translation>Kanalwerte</translation>
-    </message>
-    <message>
-        <source>Stored value tables</source>
-        <translation>Gespeicherte Wertetabellen</translation>
-    </message>
-    <message>
-        <source>Record navigator</source>
-        <translation>Datensatznavigation</translation>
-    </message>
-    <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; ist kein gültiger ganzzahliger Wert</translation>
-    </message>
-    <message>
-        <source>Delete record?</source>
-        <translation>Datensatz löschen?</translation>
-    </message>
-    <message>
-        <source>&amp;Load</source>
-        <translation>&amp;Laden</translation>
-    </message>
-    <message>
-        <source>Load value table from validator</source>
-        <translation>Wertetabelle aus dem Münzprüfer laden</translation>
-    </message>
-    <message>
-        <source>&amp;Transfert</source>
-        <translation>Über&amp;tragen</translation>
-    </message>
-    <message>
-        <source>Transfert de la table des valeurs dans le monnayeur</source>
-        <translation>Wertetabelle in den Münzprüfer übertragen</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Anwenden</translation>
-    </message>
-    <message>
-        <source>Aplly the value table</source>
-        <translation>Wertetabelle übernehmen</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>Save a record</source>
-        <translation>Datensatz speichern</translation>
-    </message>
-    <message>
-        <source>&amp;Open</source>
-        <translation>Ö&amp;ffnen</translation>
-    </message>
-    <message>
-        <source>Open a record</source>
-        <translation>Datensatz öffnen</translation>
-    </message>
-    <message>
-        <source>&amp;Reset</source>
-        <translation>&amp;Zurücksetzen</translation>
-    </message>
-    <message>
-        <source>Reseting value table</source>
-        <translation>Wertetabelle zurücksetzen</translation>
-    </message>
-    <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>First record</source>
-        <translation>Erster Datensatz</translation>
-    </message>
-    <message>
-        <source>Prior record</source>
-        <translation>Vorheriger Datensatz</translation>
-    </message>
-    <message>
-        <source>Next record</source>
-        <translation>Nächster Datensatz</translation>
-    </message>
-    <message>
-        <source>Last record</source>
-        <translation>Letzter Datensatz</translation>
-    </message>
-    <message>
-        <source>Delete record</source>
-        <translation>Datensatz löschen</translation>
-    </message>
-</context>
-<context>
-    <name>ValueTableStore</name>
-    <message>
-        <source>No value table %s is stored</source>
-        <translation>Keine Wertetabelle %s gespeichert</translation>
-    </message>
-    <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Wertetabelle %s: die Kanäle %s enthalten keine Zahl; sie bleiben ohne Wert</translation>
-    </message>
-</context>
-<context>
-    <name>TFormProfilC</name>
-    <message>
-        <source>Coin Profile</source>
-        <translation>Münzprofil</translation>
-    </message>
-    <message>
-        <source>&amp;Name :</source>
-        <translation>&amp;Name :</translation>
-    </message>
-    <message>
-        <source>&amp;Description :</source>
-        <translation>&amp;Beschreibung :</translation>
-    </message>
-    <message>
-        <source>Substitution channel :</source>
-        <translation>Ersatzkanal :</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>&amp;Aktivieren</translation>
-    </message>
-    <message>
-        <source>&amp;Value : </source>
-        <translation>&amp;Wert : </translation>
-    </message>
-    <message>
-        <source>&amp;P1</source>
-        <translation>&amp;P1</translation>
-    </message>
-    <message>
-        <source>P2</source>
-        <translation>P2</translation>
-    </message>
-    <message>
-        <source>Tolerances</source>
-        <translation>Toleranzen</translation>
-    </message>
-    <message>
-        <source>Description</source>
-        <translation>Beschreibung</translation>
-    </message>
-    <message>
-        <source>Values</source>
-        <translation>Werte</translation>
-    </message>
-    <message>
-        <source>Items</source>
-        <translation>Einträge</translation>
-    </message>
-    <message>
-        <source>&amp;Open</source>
-        <translation>Ö&amp;ffnen</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>&amp;Exit</source>
-        <translation>B&amp;eenden</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>Abb&amp;rechen</translation>
-    </message>
-    <message>
-        <source>HFU low min.</source>
-        <translation>HFU niedrig min.</translation>
-    </message>
-    <message>
-        <source>HFU low max.</source>
-        <translation>HFU niedrig max.</translation>
-    </message>
-    <message>
-        <source>HFU high min.</source>
-        <translation>HFU hoch min.</translation>
-    </message>
-    <message>
-        <source>Hfu high max.</source>
-        <translation>Hfu hoch max.</translation>
-    </message>
-    <message>
-        <source>Dimension min.</source>
-        <translation>Abmessung min.</translation>
-    </message>
-    <message>
-        <source>Dimension max.</source>
-        <translation>Abmessung max.</translation>
-    </message>
-    <message>
-        <source>LF min.</source>
-        <translation>LF min.</translation>
-    </message>
-    <message>
-        <source>LF max.</source>
-        <translation>LF max.</translation>
-    </message>
-    <message>
-        <source>HFL low min.</source>
-        <translation>HFL niedrig min.</translation>
-    </message>
-    <message>
-        <source>HFL low max.</source>
-        <translation>HFL niedrig max.</translation>
-    </message>
-    <message>
-        <source>HFL high min.</source>
-        <translation>HFL hoch min.</translation>
-    </message>
-    <message>
-        <source>HFL high max.</source>
-        <translation>HFL hoch max.</translation>
-    </message>
-    <message>
-        <source>HFL amp min.</source>
-        <translation>HFL Amp. min.</translation>
-    </message>
-    <message>
-        <source>HFL amp max.</source>
-        <translation>HFL Amp. max.</translation>
     </message>
 </context>
 </TS>

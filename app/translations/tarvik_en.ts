@@ -1083,6 +1083,33 @@
     </message>
 </context>
 <context>
+    <name>TFormCAdjust</name>
+    <message>
+        <source>Channel to adjust</source>
+        <translation>Channel to adjust</translation>
+    </message>
+    <message>
+        <source>&amp;Channel :</source>
+        <translation>&amp;Channel :</translation>
+    </message>
+    <message>
+        <source>0 = searching for nearest</source>
+        <translation>0 = searching for nearest</translation>
+    </message>
+    <message>
+        <source>&amp;Automatic adjustment :</source>
+        <translation>&amp;Automatic adjustment :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+</context>
+<context>
     <name>TFormCondotto</name>
     <message>
         <source>Output</source>
@@ -1145,65 +1172,126 @@
     </message>
 </context>
 <context>
-    <name>TMajFirmware</name>
+    <name>TFormProfilC</name>
     <message>
-        <source>Fichier Firmware VK2</source>
-        <translation>VK2 firmware file</translation>
+        <source>Coin Profile</source>
+        <translation>Coin Profile</translation>
     </message>
     <message>
-        <source>Firmware upgrade</source>
-        <translation>Upgrade firmware</translation>
+        <source>&amp;Name :</source>
+        <translation>&amp;Name :</translation>
     </message>
     <message>
-        <source>Upgrade</source>
-        <translation>Firmware upgrade</translation>
+        <source>&amp;Description :</source>
+        <translation>&amp;Description :</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-</context>
-<context>
-    <name>TTarvikFormInit</name>
-    <message>
-        <source>Validator setting</source>
-        <translation>Validator settings</translation>
+        <source>Substitution channel :</source>
+        <translation>Substitution channel :</translation>
     </message>
     <message>
-        <source>Serial Number :</source>
-        <translation>Serial number:</translation>
+        <source>&amp;Enable</source>
+        <translation>&amp;Enable</translation>
     </message>
     <message>
-        <source>Outlet</source>
-        <translation>Outlet</translation>
+        <source>&amp;Value : </source>
+        <translation>&amp;Value : </translation>
     </message>
     <message>
-        <source>Game Fast</source>
-        <translation>Fast game</translation>
+        <source>&amp;P1</source>
+        <translation>&amp;P1</translation>
     </message>
     <message>
-        <source>Game</source>
-        <translation>Game</translation>
+        <source>P2</source>
+        <translation>P2</translation>
     </message>
     <message>
-        <source>Vending anti-jam</source>
-        <translation>Vending (anti-jam)</translation>
+        <source>Tolerances</source>
+        <translation>Tolerances</translation>
     </message>
     <message>
-        <source>Vending</source>
-        <translation>Vending</translation>
+        <source>Description</source>
+        <translation>Description</translation>
     </message>
     <message>
-        <source>Resetable counter :</source>
-        <translation>Resettable counter</translation>
+        <source>Values</source>
+        <translation>Values</translation>
     </message>
     <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
+        <source>Items</source>
+        <translation>Items</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Exit</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Cancel</translation>
+    </message>
+    <message>
+        <source>HFU low min.</source>
+        <translation>HFU low min.</translation>
+    </message>
+    <message>
+        <source>HFU low max.</source>
+        <translation>HFU low max.</translation>
+    </message>
+    <message>
+        <source>HFU high min.</source>
+        <translation>HFU high min.</translation>
+    </message>
+    <message>
+        <source>Hfu high max.</source>
+        <translation>Hfu high max.</translation>
+    </message>
+    <message>
+        <source>Dimension min.</source>
+        <translation>Dimension min.</translation>
+    </message>
+    <message>
+        <source>Dimension max.</source>
+        <translation>Dimension max.</translation>
+    </message>
+    <message>
+        <source>LF min.</source>
+        <translation>LF min.</translation>
+    </message>
+    <message>
+        <source>LF max.</source>
+        <translation>LF max.</translation>
+    </message>
+    <message>
+        <source>HFL low min.</source>
+        <translation>HFL low min.</translation>
+    </message>
+    <message>
+        <source>HFL low max.</source>
+        <translation>HFL low max.</translation>
+    </message>
+    <message>
+        <source>HFL high min.</source>
+        <translation>HFL high min.</translation>
+    </message>
+    <message>
+        <source>HFL high max.</source>
+        <translation>HFL high max.</translation>
+    </message>
+    <message>
+        <source>HFL amp min.</source>
+        <translation>HFL amp min.</translation>
+    </message>
+    <message>
+        <source>HFL amp max.</source>
+        <translation>HFL amp max.</translation>
     </message>
 </context>
 <context>
@@ -1334,6 +1422,248 @@
     </message>
 </context>
 <context>
+    <name>TFormRefChannel</name>
+    <message>
+        <source>Reference Channel</source>
+        <translation>Reference Channel</translation>
+    </message>
+    <message>
+        <source>Reference channel is empty</source>
+        <translation>Reference channel is empty</translation>
+    </message>
+    <message>
+        <source>Use the reference set of tokens.</source>
+        <translation>Use the reference set of tokens.</translation>
+    </message>
+    <message>
+        <source>- Insert 5 golden tokens.</source>
+        <translation>- Insert 5 golden tokens.</translation>
+    </message>
+    <message>
+        <source>- Ok</source>
+        <translation>- Ok</translation>
+    </message>
+    <message>
+        <source>- Insert 5 silver tokens.</source>
+        <translation>- Insert 5 silver tokens.</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormSuperposition</name>
+    <message>
+        <source>Overlapped channels list</source>
+        <translation>Overlapped channels list</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormValue</name>
+    <message>
+        <source>Values Table</source>
+        <translation>Values Table</translation>
+    </message>
+    <message>
+        <source>Base Value</source>
+        <translation>Base Value</translation>
+    </message>
+    <message>
+        <source>Channels 1 to </source>
+        <translation>Channels 1 to </translation>
+    </message>
+    <message>
+        <source>Channels 31 to 60 : </source>
+        <translation>Channels 31 to 60 : </translation>
+    </message>
+    <message>
+        <source>Ratio : </source>
+        <translation>Ratio : </translation>
+    </message>
+    <message>
+        <source>Name : </source>
+        <translation>Name : </translation>
+    </message>
+    <message>
+        <source>Description : </source>
+        <translation>Description : </translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>Table name</source>
+        <translation>Table name</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Channel values</source>
+        <translation>Channel values</translation>
+    </message>
+    <message>
+        <source>Stored value tables</source>
+        <translation>Stored value tables</translation>
+    </message>
+    <message>
+        <source>Record navigator</source>
+        <translation>Record navigator</translation>
+    </message>
+    <message>
+        <source>&amp;Load</source>
+        <translation>&amp;Load</translation>
+    </message>
+    <message>
+        <source>Load value table from validator</source>
+        <translation>Load value table from validator</translation>
+    </message>
+    <message>
+        <source>&amp;Transfert</source>
+        <translation>&amp;Transfer</translation>
+    </message>
+    <message>
+        <source>Transfert de la table des valeurs dans le monnayeur</source>
+        <translation>Transfer the value table to the validator</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Apply</translation>
+    </message>
+    <message>
+        <source>Aplly the value table</source>
+        <translation>Apply the value table</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>Save a record</source>
+        <translation>Save a record</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
+        <source>Open a record</source>
+        <translation>Open a record</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Reset</translation>
+    </message>
+    <message>
+        <source>Reseting value table</source>
+        <translation>Resetting value table</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Exit</translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation>First record</translation>
+    </message>
+    <message>
+        <source>Prior record</source>
+        <translation>Prior record</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Next record</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Last record</translation>
+    </message>
+    <message>
+        <source>Delete record</source>
+        <translation>Delete record</translation>
+    </message>
+</context>
+<context>
+    <name>TMajFirmware</name>
+    <message>
+        <source>Fichier Firmware VK2</source>
+        <translation>VK2 firmware file</translation>
+    </message>
+    <message>
+        <source>Firmware upgrade</source>
+        <translation>Upgrade firmware</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Firmware upgrade</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikAnalyse</name>
+    <message>
+        <source>Analyse</source>
+        <translation>Analyse</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikFormInit</name>
+    <message>
+        <source>Validator setting</source>
+        <translation>Validator settings</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Serial number:</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Outlet</translation>
+    </message>
+    <message>
+        <source>Game Fast</source>
+        <translation>Fast game</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Game</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Vending (anti-jam)</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Vending</translation>
+    </message>
+    <message>
+        <source>Resetable counter :</source>
+        <translation>Resettable counter</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+</context>
+<context>
     <name>TTarvikTolerance</name>
     <message>
         <source>Tolerances</source>
@@ -1410,359 +1740,6 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Cancel</translation>
-    </message>
-    <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; is not a valid integer value</translation>
-    </message>
-</context>
-<context>
-    <name>TFormCAdjust</name>
-    <message>
-        <source>Channel to adjust</source>
-        <translation>Channel to adjust</translation>
-    </message>
-    <message>
-        <source>&amp;Channel :</source>
-        <translation>&amp;Channel :</translation>
-    </message>
-    <message>
-        <source>0 = searching for nearest</source>
-        <translation>0 = searching for nearest</translation>
-    </message>
-    <message>
-        <source>&amp;Automatic adjustment :</source>
-        <translation>&amp;Automatic adjustment :</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancel</translation>
-    </message>
-</context>
-<context>
-    <name>TFormSuperposition</name>
-    <message>
-        <source>Overlapped channels list</source>
-        <translation>Overlapped channels list</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TTarvikAnalyse</name>
-    <message>
-        <source>Analyse</source>
-        <translation>Analyse</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TFormRefChannel</name>
-    <message>
-        <source>Reference Channel</source>
-        <translation>Reference Channel</translation>
-    </message>
-    <message>
-        <source>Reference channel is empty</source>
-        <translation>Reference channel is empty</translation>
-    </message>
-    <message>
-        <source>Use the reference set of tokens.</source>
-        <translation>Use the reference set of tokens.</translation>
-    </message>
-    <message>
-        <source>- Insert 5 golden tokens.</source>
-        <translation>- Insert 5 golden tokens.</translation>
-    </message>
-    <message>
-        <source>- Ok</source>
-        <translation>- Ok</translation>
-    </message>
-    <message>
-        <source>- Insert 5 silver tokens.</source>
-        <translation>- Insert 5 silver tokens.</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TFormValue</name>
-    <message>
-        <source>Values Table</source>
-        <translation>Values Table</translation>
-    </message>
-    <message>
-        <source>Base Value</source>
-        <translation>Base Value</translation>
-    </message>
-    <message>
-        <source>Channels 1 to </source>
-        <translation>Channels 1 to </translation>
-    </message>
-    <message>
-        <source>Channels 31 to 60 : </source>
-        <translation>Channels 31 to 60 : </translation>
-    </message>
-    <message>
-        <source>Ratio : </source>
-        <translation>Ratio : </translation>
-    </message>
-    <message>
-        <source>Name : </source>
-        <translation>Name : </translation>
-    </message>
-    <message>
-        <source>Description : </source>
-        <translation>Description : </translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>Channels</translation>
-    </message>
-    <message>
-        <source>Table name</source>
-        <translation>Table name</translation>
-    </message>
-    <message>
-        <source>Description</source>
-        <translation>Description</translation>
-    </message>
-    <message>
-        <source>Channel values</source>
-        <translation>Channel values</translation>
-    </message>
-    <message>
-        <source>Stored value tables</source>
-        <translation>Stored value tables</translation>
-    </message>
-    <message>
-        <source>Record navigator</source>
-        <translation>Record navigator</translation>
-    </message>
-    <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; is not a valid integer value</translation>
-    </message>
-    <message>
-        <source>Delete record?</source>
-        <translation>Delete record?</translation>
-    </message>
-    <message>
-        <source>&amp;Load</source>
-        <translation>&amp;Load</translation>
-    </message>
-    <message>
-        <source>Load value table from validator</source>
-        <translation>Load value table from validator</translation>
-    </message>
-    <message>
-        <source>&amp;Transfert</source>
-        <translation>&amp;Transfer</translation>
-    </message>
-    <message>
-        <source>Transfert de la table des valeurs dans le monnayeur</source>
-        <translation>Transfer the value table to the validator</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Apply</translation>
-    </message>
-    <message>
-        <source>Aplly the value table</source>
-        <translation>Apply the value table</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Save</translation>
-    </message>
-    <message>
-        <source>Save a record</source>
-        <translation>Save a record</translation>
-    </message>
-    <message>
-        <source>&amp;Open</source>
-        <translation>&amp;Open</translation>
-    </message>
-    <message>
-        <source>Open a record</source>
-        <translation>Open a record</translation>
-    </message>
-    <message>
-        <source>&amp;Reset</source>
-        <translation>&amp;Reset</translation>
-    </message>
-    <message>
-        <source>Reseting value table</source>
-        <translation>Resetting value table</translation>
-    </message>
-    <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Exit</translation>
-    </message>
-    <message>
-        <source>First record</source>
-        <translation>First record</translation>
-    </message>
-    <message>
-        <source>Prior record</source>
-        <translation>Prior record</translation>
-    </message>
-    <message>
-        <source>Next record</source>
-        <translation>Next record</translation>
-    </message>
-    <message>
-        <source>Last record</source>
-        <translation>Last record</translation>
-    </message>
-    <message>
-        <source>Delete record</source>
-        <translation>Delete record</translation>
-    </message>
-</context>
-<context>
-    <name>ValueTableStore</name>
-    <message>
-        <source>No value table %s is stored</source>
-        <translation>No value table %s is stored</translation>
-    </message>
-    <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Value table %s: the channels %s do not hold a number; they are left without value</translation>
-    </message>
-</context>
-<context>
-    <name>TFormProfilC</name>
-    <message>
-        <source>Coin Profile</source>
-        <translation>Coin Profile</translation>
-    </message>
-    <message>
-        <source>&amp;Name :</source>
-        <translation>&amp;Name :</translation>
-    </message>
-    <message>
-        <source>&amp;Description :</source>
-        <translation>&amp;Description :</translation>
-    </message>
-    <message>
-        <source>Substitution channel :</source>
-        <translation>Substitution channel :</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>&amp;Enable</translation>
-    </message>
-    <message>
-        <source>&amp;Value : </source>
-        <translation>&amp;Value : </translation>
-    </message>
-    <message>
-        <source>&amp;P1</source>
-        <translation>&amp;P1</translation>
-    </message>
-    <message>
-        <source>P2</source>
-        <translation>P2</translation>
-    </message>
-    <message>
-        <source>Tolerances</source>
-        <translation>Tolerances</translation>
-    </message>
-    <message>
-        <source>Description</source>
-        <translation>Description</translation>
-    </message>
-    <message>
-        <source>Values</source>
-        <translation>Values</translation>
-    </message>
-    <message>
-        <source>Items</source>
-        <translation>Items</translation>
-    </message>
-    <message>
-        <source>&amp;Open</source>
-        <translation>&amp;Open</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Save</translation>
-    </message>
-    <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Exit</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancel</translation>
-    </message>
-    <message>
-        <source>HFU low min.</source>
-        <translation>HFU low min.</translation>
-    </message>
-    <message>
-        <source>HFU low max.</source>
-        <translation>HFU low max.</translation>
-    </message>
-    <message>
-        <source>HFU high min.</source>
-        <translation>HFU high min.</translation>
-    </message>
-    <message>
-        <source>Hfu high max.</source>
-        <translation>Hfu high max.</translation>
-    </message>
-    <message>
-        <source>Dimension min.</source>
-        <translation>Dimension min.</translation>
-    </message>
-    <message>
-        <source>Dimension max.</source>
-        <translation>Dimension max.</translation>
-    </message>
-    <message>
-        <source>LF min.</source>
-        <translation>LF min.</translation>
-    </message>
-    <message>
-        <source>LF max.</source>
-        <translation>LF max.</translation>
-    </message>
-    <message>
-        <source>HFL low min.</source>
-        <translation>HFL low min.</translation>
-    </message>
-    <message>
-        <source>HFL low max.</source>
-        <translation>HFL low max.</translation>
-    </message>
-    <message>
-        <source>HFL high min.</source>
-        <translation>HFL high min.</translation>
-    </message>
-    <message>
-        <source>HFL high max.</source>
-        <translation>HFL high max.</translation>
-    </message>
-    <message>
-        <source>HFL amp min.</source>
-        <translation>HFL amp min.</translation>
-    </message>
-    <message>
-        <source>HFL amp max.</source>
-        <translation>HFL amp max.</translation>
     </message>
 </context>
 </TS>

@@ -908,11 +908,11 @@
     </message>
     <message>
         <source>%s has no row for channels %s: they open empty.</source>
-        <translation>%s n'a pas de ligne pour les canaux %s : ils s'ouvrent vides.</translation>
+        <translation>%s n&apos;a pas de ligne pour les canaux %s : ils s&apos;ouvrent vides.</translation>
     </message>
     <message>
         <source>%s has more than one row for channels %s: the first row of each is used.</source>
-        <translation>%s a plus d'une ligne pour les canaux %s : la première de chacun est utilisée.</translation>
+        <translation>%s a plus d&apos;une ligne pour les canaux %s : la première de chacun est utilisée.</translation>
     </message>
     <message>
         <source>Delete %s and its channels from the tables?</source>
@@ -1083,6 +1083,33 @@
     </message>
 </context>
 <context>
+    <name>TFormCAdjust</name>
+    <message>
+        <source>Channel to adjust</source>
+        <translation>Canal à ajuster</translation>
+    </message>
+    <message>
+        <source>&amp;Channel :</source>
+        <translation>&amp;Canal :</translation>
+    </message>
+    <message>
+        <source>0 = searching for nearest</source>
+        <translation>0 = recherche du plus proche</translation>
+    </message>
+    <message>
+        <source>&amp;Automatic adjustment :</source>
+        <translation>Ajustement &amp;automatique :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
     <name>TFormCondotto</name>
     <message>
         <source>Output</source>
@@ -1145,65 +1172,126 @@
     </message>
 </context>
 <context>
-    <name>TMajFirmware</name>
+    <name>TFormProfilC</name>
     <message>
-        <source>Fichier Firmware VK2</source>
-        <translation>Fichier Firmware VK2</translation>
+        <source>Coin Profile</source>
+        <translation>Profil de pièce</translation>
     </message>
     <message>
-        <source>Firmware upgrade</source>
-        <translation>Mise à jour du micrologiciel</translation>
+        <source>&amp;Name :</source>
+        <translation>&amp;Nom :</translation>
     </message>
     <message>
-        <source>Upgrade</source>
-        <translation>Mise à jour</translation>
+        <source>&amp;Description :</source>
+        <translation>&amp;Description :</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-</context>
-<context>
-    <name>TTarvikFormInit</name>
-    <message>
-        <source>Validator setting</source>
-        <translation>Paramétrage du monnayeur</translation>
+        <source>Substitution channel :</source>
+        <translation>Canal de substitution :</translation>
     </message>
     <message>
-        <source>Serial Number :</source>
-        <translation>Numéro de série :</translation>
+        <source>&amp;Enable</source>
+        <translation>&amp;Activer</translation>
     </message>
     <message>
-        <source>Outlet</source>
-        <translation>Sortie</translation>
+        <source>&amp;Value : </source>
+        <translation>&amp;Valeur : </translation>
     </message>
     <message>
-        <source>Game Fast</source>
-        <translation>Jeu rapide</translation>
+        <source>&amp;P1</source>
+        <translation>&amp;P1</translation>
     </message>
     <message>
-        <source>Game</source>
-        <translation>Jeu</translation>
+        <source>P2</source>
+        <translation>P2</translation>
     </message>
     <message>
-        <source>Vending anti-jam</source>
-        <translation>Distribution anti-blocage</translation>
+        <source>Tolerances</source>
+        <translation>Tolérances</translation>
     </message>
     <message>
-        <source>Vending</source>
-        <translation>Distribution</translation>
+        <source>Description</source>
+        <translation>Description</translation>
     </message>
     <message>
-        <source>Resetable counter :</source>
-        <translation>Compteur réinitialisable :</translation>
+        <source>Values</source>
+        <translation>Valeurs</translation>
     </message>
     <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
+        <source>Items</source>
+        <translation>Éléments</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
+        <translation>Ann&amp;uler</translation>
+    </message>
+    <message>
+        <source>HFU low min.</source>
+        <translation>HFU bas min.</translation>
+    </message>
+    <message>
+        <source>HFU low max.</source>
+        <translation>HFU bas max.</translation>
+    </message>
+    <message>
+        <source>HFU high min.</source>
+        <translation>HFU haut min.</translation>
+    </message>
+    <message>
+        <source>Hfu high max.</source>
+        <translation>Hfu haut max.</translation>
+    </message>
+    <message>
+        <source>Dimension min.</source>
+        <translation>Dimension min.</translation>
+    </message>
+    <message>
+        <source>Dimension max.</source>
+        <translation>Dimension max.</translation>
+    </message>
+    <message>
+        <source>LF min.</source>
+        <translation>LF min.</translation>
+    </message>
+    <message>
+        <source>LF max.</source>
+        <translation>LF max.</translation>
+    </message>
+    <message>
+        <source>HFL low min.</source>
+        <translation>HFL bas min.</translation>
+    </message>
+    <message>
+        <source>HFL low max.</source>
+        <translation>HFL bas max.</translation>
+    </message>
+    <message>
+        <source>HFL high min.</source>
+        <translation>HFL haut min.</translation>
+    </message>
+    <message>
+        <source>HFL high max.</source>
+        <translation>HFL haut max.</translation>
+    </message>
+    <message>
+        <source>HFL amp min.</source>
+        <translation>HFL amp min.</translation>
+    </message>
+    <message>
+        <source>HFL amp max.</source>
+        <translation>HFL amp max.</translation>
     </message>
 </context>
 <context>
@@ -1334,6 +1422,248 @@
     </message>
 </context>
 <context>
+    <name>TFormRefChannel</name>
+    <message>
+        <source>Reference Channel</source>
+        <translation>Canal de référence</translation>
+    </message>
+    <message>
+        <source>Reference channel is empty</source>
+        <translation>Le canal de référence est vide</translation>
+    </message>
+    <message>
+        <source>Use the reference set of tokens.</source>
+        <translation>Utilisez le jeu de jetons de référence.</translation>
+    </message>
+    <message>
+        <source>- Insert 5 golden tokens.</source>
+        <translation>- Insérez 5 jetons dorés.</translation>
+    </message>
+    <message>
+        <source>- Ok</source>
+        <translation>- Ok</translation>
+    </message>
+    <message>
+        <source>- Insert 5 silver tokens.</source>
+        <translation>- Insérez 5 jetons argentés.</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormSuperposition</name>
+    <message>
+        <source>Overlapped channels list</source>
+        <translation>Liste des canaux qui se chevauchent</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormValue</name>
+    <message>
+        <source>Values Table</source>
+        <translation>Table des valeurs</translation>
+    </message>
+    <message>
+        <source>Base Value</source>
+        <translation>Valeur de base</translation>
+    </message>
+    <message>
+        <source>Channels 1 to </source>
+        <translation>Canaux 1 à </translation>
+    </message>
+    <message>
+        <source>Channels 31 to 60 : </source>
+        <translation>Canaux 31 à 60 : </translation>
+    </message>
+    <message>
+        <source>Ratio : </source>
+        <translation>Rapport : </translation>
+    </message>
+    <message>
+        <source>Name : </source>
+        <translation>Nom : </translation>
+    </message>
+    <message>
+        <source>Description : </source>
+        <translation>Description : </translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canaux</translation>
+    </message>
+    <message>
+        <source>Table name</source>
+        <translation>Nom de la table</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Channel values</source>
+        <translation>Valeurs des canaux</translation>
+    </message>
+    <message>
+        <source>Stored value tables</source>
+        <translation>Tables de valeurs enregistrées</translation>
+    </message>
+    <message>
+        <source>Record navigator</source>
+        <translation>Navigation des enregistrements</translation>
+    </message>
+    <message>
+        <source>&amp;Load</source>
+        <translation>&amp;Charger</translation>
+    </message>
+    <message>
+        <source>Load value table from validator</source>
+        <translation>Charger la table des valeurs depuis le monnayeur</translation>
+    </message>
+    <message>
+        <source>&amp;Transfert</source>
+        <translation>&amp;Transfert</translation>
+    </message>
+    <message>
+        <source>Transfert de la table des valeurs dans le monnayeur</source>
+        <translation>Transfert de la table des valeurs dans le monnayeur</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>A&amp;ppliquer</translation>
+    </message>
+    <message>
+        <source>Aplly the value table</source>
+        <translation>Appliquer la table des valeurs</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save a record</source>
+        <translation>Enregistrer une fiche</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open a record</source>
+        <translation>Ouvrir une fiche</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Effacer</translation>
+    </message>
+    <message>
+        <source>Reseting value table</source>
+        <translation>Effacement de la table des valeurs</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation>Premier enregistrement</translation>
+    </message>
+    <message>
+        <source>Prior record</source>
+        <translation>Enregistrement précédent</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Enregistrement suivant</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Dernier enregistrement</translation>
+    </message>
+    <message>
+        <source>Delete record</source>
+        <translation>Supprimer l&apos;enregistrement</translation>
+    </message>
+</context>
+<context>
+    <name>TMajFirmware</name>
+    <message>
+        <source>Fichier Firmware VK2</source>
+        <translation>Fichier Firmware VK2</translation>
+    </message>
+    <message>
+        <source>Firmware upgrade</source>
+        <translation>Mise à jour du micrologiciel</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Mise à jour</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikAnalyse</name>
+    <message>
+        <source>Analyse</source>
+        <translation>Analyse</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikFormInit</name>
+    <message>
+        <source>Validator setting</source>
+        <translation>Paramétrage du monnayeur</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Numéro de série :</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>Game Fast</source>
+        <translation>Jeu rapide</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Jeu</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Distribution anti-blocage</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Distribution</translation>
+    </message>
+    <message>
+        <source>Resetable counter :</source>
+        <translation>Compteur réinitialisable :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
     <name>TTarvikTolerance</name>
     <message>
         <source>Tolerances</source>
@@ -1410,359 +1740,6 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; n&apos;est pas une valeur entière valide</translation>
-    </message>
-</context>
-<context>
-    <name>TFormCAdjust</name>
-    <message>
-        <source>Channel to adjust</source>
-        <translation>Canal à ajuster</translation>
-    </message>
-    <message>
-        <source>&amp;Channel :</source>
-        <translation>&amp;Canal :</translation>
-    </message>
-    <message>
-        <source>0 = searching for nearest</source>
-        <translation>0 = recherche du plus proche</translation>
-    </message>
-    <message>
-        <source>&amp;Automatic adjustment :</source>
-        <translation>Ajustement &amp;automatique :</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-</context>
-<context>
-    <name>TFormSuperposition</name>
-    <message>
-        <source>Overlapped channels list</source>
-        <translation>Liste des canaux qui se chevauchent</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TTarvikAnalyse</name>
-    <message>
-        <source>Analyse</source>
-        <translation>Analyse</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TFormRefChannel</name>
-    <message>
-        <source>Reference Channel</source>
-        <translation>Canal de référence</translation>
-    </message>
-    <message>
-        <source>Reference channel is empty</source>
-        <translation>Le canal de référence est vide</translation>
-    </message>
-    <message>
-        <source>Use the reference set of tokens.</source>
-        <translation>Utilisez le jeu de jetons de référence.</translation>
-    </message>
-    <message>
-        <source>- Insert 5 golden tokens.</source>
-        <translation>- Insérez 5 jetons dorés.</translation>
-    </message>
-    <message>
-        <source>- Ok</source>
-        <translation>- Ok</translation>
-    </message>
-    <message>
-        <source>- Insert 5 silver tokens.</source>
-        <translation>- Insérez 5 jetons argentés.</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TFormValue</name>
-    <message>
-        <source>Values Table</source>
-        <translation>Table des valeurs</translation>
-    </message>
-    <message>
-        <source>Base Value</source>
-        <translation>Valeur de base</translation>
-    </message>
-    <message>
-        <source>Channels 1 to </source>
-        <translation>Canaux 1 à </translation>
-    </message>
-    <message>
-        <source>Channels 31 to 60 : </source>
-        <translation>Canaux 31 à 60 : </translation>
-    </message>
-    <message>
-        <source>Ratio : </source>
-        <translation>Rapport : </translation>
-    </message>
-    <message>
-        <source>Name : </source>
-        <translation>Nom : </translation>
-    </message>
-    <message>
-        <source>Description : </source>
-        <translation>Description : </translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>Canaux</translation>
-    </message>
-    <message>
-        <source>Table name</source>
-        <translation>Nom de la table</translation>
-    </message>
-    <message>
-        <source>Description</source>
-        <translation>Description</translation>
-    </message>
-    <message>
-        <source>Channel values</source>
-        <translation>Valeurs des canaux</translation>
-    </message>
-    <message>
-        <source>Stored value tables</source>
-        <translation>Tables de valeurs enregistrées</translation>
-    </message>
-    <message>
-        <source>Record navigator</source>
-        <translation>Navigation des enregistrements</translation>
-    </message>
-    <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; n&apos;est pas une valeur entière correcte</translation>
-    </message>
-    <message>
-        <source>Delete record?</source>
-        <translation>Supprimer l&apos;enregistrement ?</translation>
-    </message>
-    <message>
-        <source>&amp;Load</source>
-        <translation>&amp;Charger</translation>
-    </message>
-    <message>
-        <source>Load value table from validator</source>
-        <translation>Charger la table des valeurs depuis le monnayeur</translation>
-    </message>
-    <message>
-        <source>&amp;Transfert</source>
-        <translation>&amp;Transfert</translation>
-    </message>
-    <message>
-        <source>Transfert de la table des valeurs dans le monnayeur</source>
-        <translation>Transfert de la table des valeurs dans le monnayeur</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>A&amp;ppliquer</translation>
-    </message>
-    <message>
-        <source>Aplly the value table</source>
-        <translation>Appliquer la table des valeurs</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Enregistrer</translation>
-    </message>
-    <message>
-        <source>Save a record</source>
-        <translation>Enregistrer une fiche</translation>
-    </message>
-    <message>
-        <source>&amp;Open</source>
-        <translation>&amp;Ouvrir</translation>
-    </message>
-    <message>
-        <source>Open a record</source>
-        <translation>Ouvrir une fiche</translation>
-    </message>
-    <message>
-        <source>&amp;Reset</source>
-        <translation>&amp;Effacer</translation>
-    </message>
-    <message>
-        <source>Reseting value table</source>
-        <translation>Effacement de la table des valeurs</translation>
-    </message>
-    <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>First record</source>
-        <translation>Premier enregistrement</translation>
-    </message>
-    <message>
-        <source>Prior record</source>
-        <translation>Enregistrement précédent</translation>
-    </message>
-    <message>
-        <source>Next record</source>
-        <translation>Enregistrement suivant</translation>
-    </message>
-    <message>
-        <source>Last record</source>
-        <translation>Dernier enregistrement</translation>
-    </message>
-    <message>
-        <source>Delete record</source>
-        <translation>Supprimer l&apos;enregistrement</translation>
-    </message>
-</context>
-<context>
-    <name>ValueTableStore</name>
-    <message>
-        <source>No value table %s is stored</source>
-        <translation>Aucune table de valeurs %s n&apos;est enregistrée</translation>
-    </message>
-    <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Table de valeurs %s : les canaux %s ne contiennent pas de nombre ; ils restent sans valeur</translation>
-    </message>
-</context>
-<context>
-    <name>TFormProfilC</name>
-    <message>
-        <source>Coin Profile</source>
-        <translation>Profil de pièce</translation>
-    </message>
-    <message>
-        <source>&amp;Name :</source>
-        <translation>&amp;Nom :</translation>
-    </message>
-    <message>
-        <source>&amp;Description :</source>
-        <translation>&amp;Description :</translation>
-    </message>
-    <message>
-        <source>Substitution channel :</source>
-        <translation>Canal de substitution :</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>&amp;Activer</translation>
-    </message>
-    <message>
-        <source>&amp;Value : </source>
-        <translation>&amp;Valeur : </translation>
-    </message>
-    <message>
-        <source>&amp;P1</source>
-        <translation>&amp;P1</translation>
-    </message>
-    <message>
-        <source>P2</source>
-        <translation>P2</translation>
-    </message>
-    <message>
-        <source>Tolerances</source>
-        <translation>Tolérances</translation>
-    </message>
-    <message>
-        <source>Description</source>
-        <translation>Description</translation>
-    </message>
-    <message>
-        <source>Values</source>
-        <translation>Valeurs</translation>
-    </message>
-    <message>
-        <source>Items</source>
-        <translation>Éléments</translation>
-    </message>
-    <message>
-        <source>&amp;Open</source>
-        <translation>&amp;Ouvrir</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Enregistrer</translation>
-    </message>
-    <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>Ann&amp;uler</translation>
-    </message>
-    <message>
-        <source>HFU low min.</source>
-        <translation>HFU bas min.</translation>
-    </message>
-    <message>
-        <source>HFU low max.</source>
-        <translation>HFU bas max.</translation>
-    </message>
-    <message>
-        <source>HFU high min.</source>
-        <translation>HFU haut min.</translation>
-    </message>
-    <message>
-        <source>Hfu high max.</source>
-        <translation>Hfu haut max.</translation>
-    </message>
-    <message>
-        <source>Dimension min.</source>
-        <translation>Dimension min.</translation>
-    </message>
-    <message>
-        <source>Dimension max.</source>
-        <translation>Dimension max.</translation>
-    </message>
-    <message>
-        <source>LF min.</source>
-        <translation>LF min.</translation>
-    </message>
-    <message>
-        <source>LF max.</source>
-        <translation>LF max.</translation>
-    </message>
-    <message>
-        <source>HFL low min.</source>
-        <translation>HFL bas min.</translation>
-    </message>
-    <message>
-        <source>HFL low max.</source>
-        <translation>HFL bas max.</translation>
-    </message>
-    <message>
-        <source>HFL high min.</source>
-        <translation>HFL haut min.</translation>
-    </message>
-    <message>
-        <source>HFL high max.</source>
-        <translation>HFL haut max.</translation>
-    </message>
-    <message>
-        <source>HFL amp min.</source>
-        <translation>HFL amp min.</translation>
-    </message>
-    <message>
-        <source>HFL amp max.</source>
-        <translation>HFL amp max.</translation>
     </message>
 </context>
 </TS>

@@ -1083,6 +1083,33 @@
     </message>
 </context>
 <context>
+    <name>TFormCAdjust</name>
+    <message>
+        <source>Channel to adjust</source>
+        <translation>Canale da regolare</translation>
+    </message>
+    <message>
+        <source>&amp;Channel :</source>
+        <translation>&amp;Canale :</translation>
+    </message>
+    <message>
+        <source>0 = searching for nearest</source>
+        <translation>0 = ricerca del più vicino</translation>
+    </message>
+    <message>
+        <source>&amp;Automatic adjustment :</source>
+        <translation>Regolazione &amp;automatica :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+</context>
+<context>
     <name>TFormCondotto</name>
     <message>
         <source>Output</source>
@@ -1145,65 +1172,126 @@
     </message>
 </context>
 <context>
-    <name>TMajFirmware</name>
+    <name>TFormProfilC</name>
     <message>
-        <source>Fichier Firmware VK2</source>
-        <translation>File firmware VK2</translation>
+        <source>Coin Profile</source>
+        <translation>Profilo moneta</translation>
     </message>
     <message>
-        <source>Firmware upgrade</source>
-        <translation>Aggiornamento firmware</translation>
+        <source>&amp;Name :</source>
+        <translation>&amp;Nome :</translation>
     </message>
     <message>
-        <source>Upgrade</source>
-        <translation>Aggiornamento</translation>
+        <source>&amp;Description :</source>
+        <translation>&amp;Descrizione :</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-</context>
-<context>
-    <name>TTarvikFormInit</name>
-    <message>
-        <source>Validator setting</source>
-        <translation>Impostazione gettoniera</translation>
+        <source>Substitution channel :</source>
+        <translation>Canale di sostituzione :</translation>
     </message>
     <message>
-        <source>Serial Number :</source>
-        <translation>Numero di serie :</translation>
+        <source>&amp;Enable</source>
+        <translation>A&amp;bilita</translation>
     </message>
     <message>
-        <source>Outlet</source>
-        <translation>Uscita</translation>
+        <source>&amp;Value : </source>
+        <translation>&amp;Valore : </translation>
     </message>
     <message>
-        <source>Game Fast</source>
-        <translation>Gioco veloce</translation>
+        <source>&amp;P1</source>
+        <translation>&amp;P1</translation>
     </message>
     <message>
-        <source>Game</source>
-        <translation>Gioco</translation>
+        <source>P2</source>
+        <translation>P2</translation>
     </message>
     <message>
-        <source>Vending anti-jam</source>
-        <translation>Vendita anti-inceppamento</translation>
+        <source>Tolerances</source>
+        <translation>Tolleranze</translation>
     </message>
     <message>
-        <source>Vending</source>
-        <translation>Vendita</translation>
+        <source>Description</source>
+        <translation>Descrizione</translation>
     </message>
     <message>
-        <source>Resetable counter :</source>
-        <translation>Contatore azzerabile :</translation>
+        <source>Values</source>
+        <translation>Valori</translation>
     </message>
     <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
+        <source>Items</source>
+        <translation>Voci</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Apr&amp;i</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Esci</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>&amp;Annulla</translation>
+        <translation>Annu&amp;lla</translation>
+    </message>
+    <message>
+        <source>HFU low min.</source>
+        <translation>HFU basso min.</translation>
+    </message>
+    <message>
+        <source>HFU low max.</source>
+        <translation>HFU basso max.</translation>
+    </message>
+    <message>
+        <source>HFU high min.</source>
+        <translation>HFU alto min.</translation>
+    </message>
+    <message>
+        <source>Hfu high max.</source>
+        <translation>Hfu alto max.</translation>
+    </message>
+    <message>
+        <source>Dimension min.</source>
+        <translation>Dimensione min.</translation>
+    </message>
+    <message>
+        <source>Dimension max.</source>
+        <translation>Dimensione max.</translation>
+    </message>
+    <message>
+        <source>LF min.</source>
+        <translation>LF min.</translation>
+    </message>
+    <message>
+        <source>LF max.</source>
+        <translation>LF max.</translation>
+    </message>
+    <message>
+        <source>HFL low min.</source>
+        <translation>HFL basso min.</translation>
+    </message>
+    <message>
+        <source>HFL low max.</source>
+        <translation>HFL basso max.</translation>
+    </message>
+    <message>
+        <source>HFL high min.</source>
+        <translation>HFL alto min.</translation>
+    </message>
+    <message>
+        <source>HFL high max.</source>
+        <translation>HFL alto max.</translation>
+    </message>
+    <message>
+        <source>HFL amp min.</source>
+        <translation>HFL amp min.</translation>
+    </message>
+    <message>
+        <source>HFL amp max.</source>
+        <translation>HFL amp max.</translation>
     </message>
 </context>
 <context>
@@ -1334,6 +1422,248 @@
     </message>
 </context>
 <context>
+    <name>TFormRefChannel</name>
+    <message>
+        <source>Reference Channel</source>
+        <translation>Canale di riferimento</translation>
+    </message>
+    <message>
+        <source>Reference channel is empty</source>
+        <translation>Il canale di riferimento è vuoto</translation>
+    </message>
+    <message>
+        <source>Use the reference set of tokens.</source>
+        <translation>Usare il set di gettoni di riferimento.</translation>
+    </message>
+    <message>
+        <source>- Insert 5 golden tokens.</source>
+        <translation>- Inserire 5 gettoni dorati.</translation>
+    </message>
+    <message>
+        <source>- Ok</source>
+        <translation>- Ok</translation>
+    </message>
+    <message>
+        <source>- Insert 5 silver tokens.</source>
+        <translation>- Inserire 5 gettoni argentati.</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormSuperposition</name>
+    <message>
+        <source>Overlapped channels list</source>
+        <translation>Elenco dei canali sovrapposti</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TFormValue</name>
+    <message>
+        <source>Values Table</source>
+        <translation>Tabella dei valori</translation>
+    </message>
+    <message>
+        <source>Base Value</source>
+        <translation>Valore base</translation>
+    </message>
+    <message>
+        <source>Channels 1 to </source>
+        <translation>Canali da 1 a </translation>
+    </message>
+    <message>
+        <source>Channels 31 to 60 : </source>
+        <translation>Canali da 31 a 60 : </translation>
+    </message>
+    <message>
+        <source>Ratio : </source>
+        <translation>Rapporto : </translation>
+    </message>
+    <message>
+        <source>Name : </source>
+        <translation>Nome : </translation>
+    </message>
+    <message>
+        <source>Description : </source>
+        <translation>Descrizione : </translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canali</translation>
+    </message>
+    <message>
+        <source>Table name</source>
+        <translation>Nome tabella</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descrizione</translation>
+    </message>
+    <message>
+        <source>Channel values</source>
+        <translation>Valori dei canali</translation>
+    </message>
+    <message>
+        <source>Stored value tables</source>
+        <translation>Tabelle dei valori salvate</translation>
+    </message>
+    <message>
+        <source>Record navigator</source>
+        <translation>Navigazione dei record</translation>
+    </message>
+    <message>
+        <source>&amp;Load</source>
+        <translation>&amp;Carica</translation>
+    </message>
+    <message>
+        <source>Load value table from validator</source>
+        <translation>Carica la tabella dei valori dalla gettoniera</translation>
+    </message>
+    <message>
+        <source>&amp;Transfert</source>
+        <translation>&amp;Trasferisci</translation>
+    </message>
+    <message>
+        <source>Transfert de la table des valeurs dans le monnayeur</source>
+        <translation>Trasferimento della tabella dei valori nella gettoniera</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>A&amp;pplica</translation>
+    </message>
+    <message>
+        <source>Aplly the value table</source>
+        <translation>Applica la tabella dei valori</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>Save a record</source>
+        <translation>Salva un record</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Apri</translation>
+    </message>
+    <message>
+        <source>Open a record</source>
+        <translation>Apri un record</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>A&amp;zzera</translation>
+    </message>
+    <message>
+        <source>Reseting value table</source>
+        <translation>Azzeramento della tabella dei valori</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation>Primo record</translation>
+    </message>
+    <message>
+        <source>Prior record</source>
+        <translation>Record precedente</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Record successivo</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Ultimo record</translation>
+    </message>
+    <message>
+        <source>Delete record</source>
+        <translation>Elimina il record</translation>
+    </message>
+</context>
+<context>
+    <name>TMajFirmware</name>
+    <message>
+        <source>Fichier Firmware VK2</source>
+        <translation>File firmware VK2</translation>
+    </message>
+    <message>
+        <source>Firmware upgrade</source>
+        <translation>Aggiornamento firmware</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Aggiornamento</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikAnalyse</name>
+    <message>
+        <source>Analyse</source>
+        <translation>Analisi</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>TTarvikFormInit</name>
+    <message>
+        <source>Validator setting</source>
+        <translation>Impostazione gettoniera</translation>
+    </message>
+    <message>
+        <source>Serial Number :</source>
+        <translation>Numero di serie :</translation>
+    </message>
+    <message>
+        <source>Outlet</source>
+        <translation>Uscita</translation>
+    </message>
+    <message>
+        <source>Game Fast</source>
+        <translation>Gioco veloce</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Gioco</translation>
+    </message>
+    <message>
+        <source>Vending anti-jam</source>
+        <translation>Vendita anti-inceppamento</translation>
+    </message>
+    <message>
+        <source>Vending</source>
+        <translation>Vendita</translation>
+    </message>
+    <message>
+        <source>Resetable counter :</source>
+        <translation>Contatore azzerabile :</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+</context>
+<context>
     <name>TTarvikTolerance</name>
     <message>
         <source>Tolerances</source>
@@ -1410,359 +1740,6 @@
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Annulla</translation>
-    </message>
-    <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; non è un valore intero valido</translation>
-    </message>
-</context>
-<context>
-    <name>TFormCAdjust</name>
-    <message>
-        <source>Channel to adjust</source>
-        <translation>Canale da regolare</translation>
-    </message>
-    <message>
-        <source>&amp;Channel :</source>
-        <translation>&amp;Canale :</translation>
-    </message>
-    <message>
-        <source>0 = searching for nearest</source>
-        <translation>0 = ricerca del più vicino</translation>
-    </message>
-    <message>
-        <source>&amp;Automatic adjustment :</source>
-        <translation>Regolazione &amp;automatica :</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annulla</translation>
-    </message>
-</context>
-<context>
-    <name>TFormSuperposition</name>
-    <message>
-        <source>Overlapped channels list</source>
-        <translation>Elenco dei canali sovrapposti</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TTarvikAnalyse</name>
-    <message>
-        <source>Analyse</source>
-        <translation>Analisi</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TFormRefChannel</name>
-    <message>
-        <source>Reference Channel</source>
-        <translation>Canale di riferimento</translation>
-    </message>
-    <message>
-        <source>Reference channel is empty</source>
-        <translation>Il canale di riferimento è vuoto</translation>
-    </message>
-    <message>
-        <source>Use the reference set of tokens.</source>
-        <translation>Usare il set di gettoni di riferimento.</translation>
-    </message>
-    <message>
-        <source>- Insert 5 golden tokens.</source>
-        <translation>- Inserire 5 gettoni dorati.</translation>
-    </message>
-    <message>
-        <source>- Ok</source>
-        <translation>- Ok</translation>
-    </message>
-    <message>
-        <source>- Insert 5 silver tokens.</source>
-        <translation>- Inserire 5 gettoni argentati.</translation>
-    </message>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>TFormValue</name>
-    <message>
-        <source>Values Table</source>
-        <translation>Tabella dei valori</translation>
-    </message>
-    <message>
-        <source>Base Value</source>
-        <translation>Valore base</translation>
-    </message>
-    <message>
-        <source>Channels 1 to </source>
-        <translation>Canali da 1 a </translation>
-    </message>
-    <message>
-        <source>Channels 31 to 60 : </source>
-        <translation>Canali da 31 a 60 : </translation>
-    </message>
-    <message>
-        <source>Ratio : </source>
-        <translation>Rapporto : </translation>
-    </message>
-    <message>
-        <source>Name : </source>
-        <translation>Nome : </translation>
-    </message>
-    <message>
-        <source>Description : </source>
-        <translation>Descrizione : </translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>Canali</translation>
-    </message>
-    <message>
-        <source>Table name</source>
-        <translation>Nome tabella</translation>
-    </message>
-    <message>
-        <source>Description</source>
-        <translation>Descrizione</translation>
-    </message>
-    <message>
-        <source>Channel values</source>
-        <translation>Valori dei canali</translation>
-    </message>
-    <message>
-        <source>Stored value tables</source>
-        <translation>Tabelle dei valori salvate</translation>
-    </message>
-    <message>
-        <source>Record navigator</source>
-        <translation>Navigazione dei record</translation>
-    </message>
-    <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; non è un valore intero valido</translation>
-    </message>
-    <message>
-        <source>Delete record?</source>
-        <translation>Eliminare il record?</translation>
-    </message>
-    <message>
-        <source>&amp;Load</source>
-        <translation>&amp;Carica</translation>
-    </message>
-    <message>
-        <source>Load value table from validator</source>
-        <translation>Carica la tabella dei valori dalla gettoniera</translation>
-    </message>
-    <message>
-        <source>&amp;Transfert</source>
-        <translation>&amp;Trasferisci</translation>
-    </message>
-    <message>
-        <source>Transfert de la table des valeurs dans le monnayeur</source>
-        <translation>Trasferimento della tabella dei valori nella gettoniera</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>A&amp;pplica</translation>
-    </message>
-    <message>
-        <source>Aplly the value table</source>
-        <translation>Applica la tabella dei valori</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Salva</translation>
-    </message>
-    <message>
-        <source>Save a record</source>
-        <translation>Salva un record</translation>
-    </message>
-    <message>
-        <source>&amp;Open</source>
-        <translation>&amp;Apri</translation>
-    </message>
-    <message>
-        <source>Open a record</source>
-        <translation>Apri un record</translation>
-    </message>
-    <message>
-        <source>&amp;Reset</source>
-        <translation>A&amp;zzera</translation>
-    </message>
-    <message>
-        <source>Reseting value table</source>
-        <translation>Azzeramento della tabella dei valori</translation>
-    </message>
-    <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Esci</translation>
-    </message>
-    <message>
-        <source>First record</source>
-        <translation>Primo record</translation>
-    </message>
-    <message>
-        <source>Prior record</source>
-        <translation>Record precedente</translation>
-    </message>
-    <message>
-        <source>Next record</source>
-        <translation>Record successivo</translation>
-    </message>
-    <message>
-        <source>Last record</source>
-        <translation>Ultimo record</translation>
-    </message>
-    <message>
-        <source>Delete record</source>
-        <translation>Elimina il record</translation>
-    </message>
-</context>
-<context>
-    <name>ValueTableStore</name>
-    <message>
-        <source>No value table %s is stored</source>
-        <translation>Nessuna tabella dei valori %s è salvata</translation>
-    </message>
-    <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Tabella dei valori %s: i canali %s non contengono un numero; restano senza valore</translation>
-    </message>
-</context>
-<context>
-    <name>TFormProfilC</name>
-    <message>
-        <source>Coin Profile</source>
-        <translation>Profilo moneta</translation>
-    </message>
-    <message>
-        <source>&amp;Name :</source>
-        <translation>&amp;Nome :</translation>
-    </message>
-    <message>
-        <source>&amp;Description :</source>
-        <translation>&amp;Descrizione :</translation>
-    </message>
-    <message>
-        <source>Substitution channel :</source>
-        <translation>Canale di sostituzione :</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>A&amp;bilita</translation>
-    </message>
-    <message>
-        <source>&amp;Value : </source>
-        <translation>&amp;Valore : </translation>
-    </message>
-    <message>
-        <source>&amp;P1</source>
-        <translation>&amp;P1</translation>
-    </message>
-    <message>
-        <source>P2</source>
-        <translation>P2</translation>
-    </message>
-    <message>
-        <source>Tolerances</source>
-        <translation>Tolleranze</translation>
-    </message>
-    <message>
-        <source>Description</source>
-        <translation>Descrizione</translation>
-    </message>
-    <message>
-        <source>Values</source>
-        <translation>Valori</translation>
-    </message>
-    <message>
-        <source>Items</source>
-        <translation>Voci</translation>
-    </message>
-    <message>
-        <source>&amp;Open</source>
-        <translation>Apr&amp;i</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Salva</translation>
-    </message>
-    <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Esci</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>Annu&amp;lla</translation>
-    </message>
-    <message>
-        <source>HFU low min.</source>
-        <translation>HFU basso min.</translation>
-    </message>
-    <message>
-        <source>HFU low max.</source>
-        <translation>HFU basso max.</translation>
-    </message>
-    <message>
-        <source>HFU high min.</source>
-        <translation>HFU alto min.</translation>
-    </message>
-    <message>
-        <source>Hfu high max.</source>
-        <translation>Hfu alto max.</translation>
-    </message>
-    <message>
-        <source>Dimension min.</source>
-        <translation>Dimensione min.</translation>
-    </message>
-    <message>
-        <source>Dimension max.</source>
-        <translation>Dimensione max.</translation>
-    </message>
-    <message>
-        <source>LF min.</source>
-        <translation>LF min.</translation>
-    </message>
-    <message>
-        <source>LF max.</source>
-        <translation>LF max.</translation>
-    </message>
-    <message>
-        <source>HFL low min.</source>
-        <translation>HFL basso min.</translation>
-    </message>
-    <message>
-        <source>HFL low max.</source>
-        <translation>HFL basso max.</translation>
-    </message>
-    <message>
-        <source>HFL high min.</source>
-        <translation>HFL alto min.</translation>
-    </message>
-    <message>
-        <source>HFL high max.</source>
-        <translation>HFL alto max.</translation>
-    </message>
-    <message>
-        <source>HFL amp min.</source>
-        <translation>HFL amp min.</translation>
-    </message>
-    <message>
-        <source>HFL amp max.</source>
-        <translation>HFL amp max.</translation>
     </message>
 </context>
 </TS>

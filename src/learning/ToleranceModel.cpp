@@ -25,9 +25,6 @@ constexpr const char *kItems = QT_TRANSLATE_NOOP("TTarvikTolerance", "Items");
 constexpr const char *kValues = QT_TRANSLATE_NOOP("TTarvikTolerance", "Values");
 constexpr const char *kOk = QT_TRANSLATE_NOOP("TTarvikTolerance", "&OK");
 constexpr const char *kCancel = QT_TRANSLATE_NOOP("TTarvikTolerance", "&Cancel");
-// The standard conversion error of a text that is not an integer.
-constexpr const char *kNotInteger =
-    QT_TRANSLATE_NOOP("TTarvikTolerance", "'%s' is not a valid integer value");
 
 const QString kForm = QStringLiteral("TTarvikTolerance");
 const QString kGrid = QStringLiteral("ValueListEditor1");
@@ -100,7 +97,7 @@ bool ToleranceModel::parseRow(int row, int &value)
     bool ok = false;
     value = text.trimmed().toInt(&ok);
     if (!ok)
-        tell(fillPlaceholders(tr(kNotInteger), {text}), UserPrompt::Kind::Error);
+        tell(messageText(Msg::NotValidInteger, {text}), UserPrompt::Kind::Error);
     return ok;
 }
 
