@@ -1,17 +1,22 @@
 // Store timings of the records engine: 1,000 validators (61,000 rows with their channels)
 // stored one by one, each commit rewriting what changed and rebuilding both indexes with the
-// files flushed to disk, then each located by its identification.
-//   build/bin/records_bench [count] [directory]
+// files flushed to disk, then each located by its identification. With a language driver id
+// (0x58 for DBWINWE0, say) the tables are made under that driver, whose keys sort by its
+// weights, and the identifications carry accented letters.
+//   build/bin/records_bench [count] [directory] [driver]
 #include "DbfTable.h"
 #include "TDBModule.h"
+#include "TableSchema.h"
 #include "UserPrompt.h"
 #include "ValidatorStore.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <numeric>
 #include <vector>
 
@@ -34,7 +39,24 @@ int main(int argc, char **argv)
     QCoreApplication app(argc, argv);
     const int count = argc > 1 ? std::max(1, atoi(argv[1])) : 1000;
     QTemporaryDir temp;
-    const QString dir = argc > 2 ? QString::fromLocal8Bit(argv[2]) : temp.path();
+    const QString dir = argc > 2 && argv[2][0] ? QString::fromLocal8Bit(argv[2]) : temp.path();
+    const LanguageDriver *driver =
+        argc > 3 ? LanguageDriver::byId(quint8(std::strtol(argv[3], nullptr, 0))) : nullptr;
+    if (argc > 3 && !driver) {
+        std::fprintf(stderr, "unknown language driver %s\n", argv[3]);
+        return 2;
+    }
+    const QString stem = driver ? QStringLiteral("Validateur é") : QStringLiteral("VALIDATOR");
+    if (driver) {
+        for (const TableSchema *schema : TableSchema::all()) {
+            QString error;
+            const QString path = DbfTable::findInDirectory(dir, schema->fileName);
+            if (!QFileInfo::exists(path) && !DbfTable::create(path, *schema, &error, *driver)) {
+                std::fprintf(stderr, "%s\n", qPrintable(error));
+                return 1;
+            }
+        }
+    }
 
     TDBModule db;
     if (!db.open(dir)) {
@@ -51,7 +73,7 @@ int main(int argc, char **argv)
     QElapsedTimer timer;
     for (int i = 0; i < count; ++i) {
         const QString ident =
-            QStringLiteral("VALIDATOR %1").arg((i * 7919) % count, 5, 10, QLatin1Char('0'));
+            QStringLiteral("%1 %2").arg(stem).arg((i * 7919) % count, 5, 10, QLatin1Char('0'));
         image.prices[0] = quint8(i);
         timer.start();
         if (store.store(image, ident, QStringLiteral("bench")) != ValidatorStore::Outcome::Stored) {
@@ -65,7 +87,8 @@ int main(int argc, char **argv)
             lastStores.pop_back();
     }
     for (int i = 0; i < count; ++i) {
-        const QString ident = QStringLiteral("validator %1").arg(i, 5, 10, QLatin1Char('0'));
+        const QString ident =
+            QStringLiteral("%1 %2").arg(stem.toLower()).arg(i, 5, 10, QLatin1Char('0'));
         timer.start();
         const int row = db.Gettoniere()->locate(QStringLiteral("IDENT"), ident);
         const std::vector<int> channels =
@@ -80,8 +103,8 @@ int main(int argc, char **argv)
         store.load(ident, loaded);
         loads.push_back(timer.nsecsElapsed());
     }
-    std::printf("%d validators, %d channel rows, in %s\n", count, db.Channel()->recordCount(),
-                qPrintable(dir));
+    std::printf("%d validators, %d channel rows, driver %s, in %s\n", count,
+                db.Channel()->recordCount(), db.Channel()->driver()->name, qPrintable(dir));
     report("store (all)", stores);
     report("store (first tenth)", firstStores);
     report("store (last tenth)", lastStores);

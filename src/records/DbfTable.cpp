@@ -1,6 +1,7 @@
 #include "DbfTable.h"
 
 #include "DurableFile.h"
+#include "LanguageDriver.h"
 
 #include <QDate>
 #include <QDir>
@@ -34,42 +35,6 @@ constexpr int kDescriptor7 = 48;
 constexpr char kEndOfFile = 0x1A;
 constexpr char kFieldEnd = 0x0D;
 constexpr int kMaxFields = 1024;
-
-// The 32 characters that Windows code page 1252 puts at 0x80..0x9F; the five holes map to
-// themselves so that every byte survives a round trip.
-constexpr char16_t kCp1252High[32] = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-QString decodeText(const char *p, int n, bool ansi)
-{
-    QString s(n, Qt::Uninitialized);
-    QChar *out = s.data();
-    for (int i = 0; i < n; ++i) {
-        const uchar c = uchar(p[i]);
-        out[i] = (ansi && c >= 0x80 && c < 0xA0) ? QChar(kCp1252High[c - 0x80]) : QChar(c);
-    }
-    return s;
-}
-
-QByteArray encodeText(const QString &s, bool ansi)
-{
-    QByteArray out;
-    out.reserve(s.size());
-    for (QChar ch : s) {
-        const char16_t u = ch.unicode();
-        if (u < 0x80 || (u >= 0xA0 && u <= 0xFF) || (!ansi && u <= 0xFF)) {
-            out.append(char(u));
-            continue;
-        }
-        const auto *hit = std::find(std::begin(kCp1252High), std::end(kCp1252High), u);
-        out.append(ansi && hit != std::end(kCp1252High)
-                       ? char(0x80 + (hit - std::begin(kCp1252High)))
-                       : '?');
-    }
-    return out;
-}
 
 void stampDate(char *p, const QDate &d)
 {
@@ -162,7 +127,8 @@ bool DbfTable::fail(Msg id, const QStringList &args) const
 // ---------------------------------------------------------------------------------------------
 // Creating
 
-bool DbfTable::create(const QString &path, const TableSchema &schema, QString *error)
+bool DbfTable::create(const QString &path, const TableSchema &schema, QString *error,
+                      const LanguageDriver &driver)
 {
     const QString name = QFileInfo(path).fileName();
     if (QFileInfo::exists(path)) {
@@ -182,7 +148,7 @@ bool DbfTable::create(const QString &path, const TableSchema &schema, QString *e
     qToLittleEndian<quint16>(quint16(headerLength), h + 8);
     qToLittleEndian<quint16>(quint16(recordLength), h + 10);
     h[28] = schema.tags.isEmpty() ? 0 : 1;
-    h[29] = 0x57; // DBWINUS0: Windows ANSI, plain byte order
+    h[29] = char(driver.id);
     for (int i = 0; i < n; ++i) {
         const FieldDef &f = schema.fields.at(i);
         char *d = h + kFixedHeader + kDescriptor * i;
@@ -209,7 +175,7 @@ bool DbfTable::create(const QString &path, const TableSchema &schema, QString *e
         return false;
     }
     if (!schema.tags.isEmpty()) {
-        MdxIndex index = MdxIndex::blank(false, QFileInfo(path).completeBaseName(), 0x57);
+        MdxIndex index = MdxIndex::blank(false, QFileInfo(path).completeBaseName(), driver.id);
         for (const TagDef &tag : schema.tags) {
             const FieldDef *f = schema.field(tag.field);
             index.addTag(tag.name, tag.field, f ? f->dbaseWidth() : 1, tag.unique);
@@ -227,6 +193,22 @@ bool DbfTable::create(const QString &path, const TableSchema &schema, QString *e
     }
     DurableFile::syncDirectory(dir);
     return true;
+}
+
+const LanguageDriver *DbfTable::peekDriver(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return nullptr;
+    const QByteArray h = file.read(64);
+    if (h.size() < 32 || (h.at(0) != 0x03 && h.at(0) != 0x04))
+        return nullptr;
+    if (h.at(0) == 0x04 && h.size() >= 64) {
+        const QString name = cName(h.constData() + 32, 32);
+        if (!name.isEmpty())
+            return LanguageDriver::byName(name);
+    }
+    return LanguageDriver::byId(quint8(h.at(29)));
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -362,6 +344,7 @@ void DbfTable::close()
     m_header.clear();
     m_committedHeader.clear();
     m_headerDirty = false;
+    m_driver = nullptr;
     m_records.clear();
     m_count = m_committedCount = 0;
     m_fields.clear();
@@ -445,6 +428,7 @@ bool DbfTable::parseTable(const QByteArray &bytes)
     m_header = bytes.left(m_headerLength);
     m_committedHeader = m_header;
     m_records = bytes.mid(m_headerLength, qint64(m_count) * m_recordLength);
+    resolveDriver();
     return true;
 }
 
@@ -484,26 +468,28 @@ quint8 DbfTable::languageDriver() const
 }
 
 // Level-7 tables name their driver in the header; older ones only give its id.
-bool DbfTable::ansiText() const
+void DbfTable::resolveDriver()
 {
+    m_driver = nullptr;
     if (m_level7) {
-        const QString driver = cName(m_header.constData() + 32, 32).toUpper();
-        if (!driver.isEmpty())
-            return driver.startsWith(QLatin1String("DBWIN"));
+        const QString name = cName(m_header.constData() + 32, 32);
+        if (!name.isEmpty()) {
+            m_driver = LanguageDriver::byName(name);
+            return;
+        }
     }
-    const quint8 id = languageDriver();
-    return id == 0 || id == 0x03 || id == 0x57 || id == 0x58 || id == 0x59;
+    m_driver = LanguageDriver::byId(languageDriver());
 }
 
-bool DbfTable::binaryOrder() const
+const LanguageDriver &DbfTable::lang() const
 {
-    if (m_level7) {
-        const QString driver = cName(m_header.constData() + 32, 32).toUpper();
-        if (!driver.isEmpty())
-            return driver == QLatin1String("DBWINUS0") || driver == QLatin1String("DB437US0");
-    }
-    const quint8 id = languageDriver();
-    return id == 0 || id == 0x1B || id == 0x57;
+    // a driver this program does not know: its text read as Windows text, in byte order
+    return m_driver ? *m_driver : LanguageDriver::none();
+}
+
+quint8 DbfTable::indexLanguage() const
+{
+    return m_driver ? m_driver->id : languageDriver();
 }
 
 // Decides which tags the index must hold, checks the index file against the table, and marks
@@ -529,7 +515,7 @@ void DbfTable::attachIndex(const QByteArray *indexBytes)
     else if (!parsed)
         problem = parseProblem;
     if (!parsed) {
-        m_index = MdxIndex::blank(m_level7, QFileInfo(m_path).completeBaseName(), languageDriver());
+        m_index = MdxIndex::blank(m_level7, QFileInfo(m_path).completeBaseName(), indexLanguage());
         if (m_schema) {
             for (const TagDef &tag : m_schema->tags)
                 m_index.addTag(tag.name, tag.field, 1, tag.unique);
@@ -555,8 +541,8 @@ void DbfTable::attachIndex(const QByteArray *indexBytes)
                     problem = {Msg::IndexReasonTag, tag.name};
             }
         }
-        if (m_index.language() != languageDriver() && m_index.language() != 0) {
-            m_index.setLanguage(languageDriver());
+        if (m_index.language() != indexLanguage() && m_index.language() != 0) {
+            m_index.setLanguage(indexLanguage());
             if (!problem.isSet())
                 problem = {Msg::IndexReasonLanguage, {}};
         }
@@ -583,7 +569,7 @@ void DbfTable::attachIndex(const QByteArray *indexBytes)
         }
         m_tagFields.push_back(f);
     }
-    if (!binaryOrder()) {
+    if (!m_driver) {
         const QString driver = m_level7 ? cName(m_header.constData() + 32, 32) : QString();
         setReadOnly(
             messageText(Msg::RecordsLanguageUnsupported,
@@ -606,7 +592,7 @@ void DbfTable::attachIndex(const QByteArray *indexBytes)
     if (parsed && !problem.isSet()) {
         for (int t = 0; t < m_index.tags().size() && !problem.isSet(); ++t) {
             std::vector<MdxKey> found;
-            if (!m_index.readKeys(*indexBytes, t, found, &problem))
+            if (!m_index.readKeys(*indexBytes, t, lang(), found, &problem))
                 break;
             const std::vector<MdxKey> expected = tagKeys(t, m_tagRows[std::size_t(t)]);
             const std::size_t length = std::size_t(m_index.tags().at(t).keyLength);
@@ -667,7 +653,7 @@ QVariant DbfTable::value(int rec, int f) const
         int n = field.length;
         while (n > 0 && (p[n - 1] == ' ' || p[n - 1] == '\0'))
             --n;
-        return decodeText(p, n, ansiText());
+        return lang().decode(p, n);
     }
     case 'N':
     case 'F': {
@@ -749,7 +735,7 @@ QString DbfTable::text(int rec, int f) const
     case 'D':
         return QString::fromLatin1(record(rec) + field.offset, field.length).trimmed();
     default:
-        return decodeText(record(rec) + field.offset, field.length, ansiText()).trimmed();
+        return lang().decode(record(rec) + field.offset, field.length).trimmed();
     }
 }
 
@@ -776,7 +762,7 @@ bool DbfTable::encodeField(const DbfField &f, const QVariant &v, QByteArray *out
     };
     switch (f.type) {
     case 'C': {
-        QByteArray bytes = encodeText(v.toString(), ansiText()).left(f.length);
+        QByteArray bytes = lang().encode(v.toString()).left(f.length);
         *out = bytes.leftJustified(f.length, ' ');
         return true;
     }
@@ -976,8 +962,9 @@ std::vector<int> DbfTable::sortedRows(int f) const
     const int offset = m_fields.at(f).offset;
     const std::size_t length = std::size_t(m_fields.at(f).length);
     std::vector<int> rows = liveRows();
+    const LanguageDriver &order = lang();
     std::sort(rows.begin(), rows.end(), [&](int a, int b) {
-        const int c = std::memcmp(record(a) + offset, record(b) + offset, length);
+        const int c = order.compare(record(a) + offset, record(b) + offset, length);
         return c < 0 || (c == 0 && a < b);
     });
     return rows;
@@ -1000,8 +987,9 @@ std::vector<std::vector<int>> DbfTable::updatedTagRows() const
             continue;
         const int offset = m_fields.at(m_tagFields[t]).offset;
         const std::size_t length = std::size_t(m_fields.at(m_tagFields[t]).length);
+        const LanguageDriver &order = lang();
         auto less = [&](int a, int b) {
-            const int c = std::memcmp(record(a) + offset, record(b) + offset, length);
+            const int c = order.compare(record(a) + offset, record(b) + offset, length);
             return c < 0 || (c == 0 && a < b);
         };
         std::vector<int> kept;
@@ -1031,7 +1019,7 @@ std::vector<MdxKey> DbfTable::tagKeys(int t, const std::vector<int> &rows) const
     keys.reserve(rows.size());
     for (int r : rows) {
         const char *key = record(r) + offset;
-        if (unique && !keys.empty() && std::memcmp(keys.back().key, key, length) == 0)
+        if (unique && !keys.empty() && lang().compare(keys.back().key, key, length) == 0)
             continue;
         keys.push_back({key, quint32(r + 1)});
     }

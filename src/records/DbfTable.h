@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LanguageDriver.h"
 #include "MdxIndex.h"
 #include "TableSchema.h"
 
@@ -85,9 +86,13 @@ public:
     ~DbfTable() override;
     Q_DISABLE_COPY_MOVE(DbfTable)
 
-    // Creates an empty level-4 table with its index (version 2) holding the schema's tags.
-    // Never replaces an existing file.
-    static bool create(const QString &path, const TableSchema &schema, QString *error);
+    // Creates an empty level-4 table with its index (version 2) holding the schema's tags,
+    // under the given language driver. Never replaces an existing file.
+    static bool create(const QString &path, const TableSchema &schema, QString *error,
+                       const LanguageDriver &driver = LanguageDriver::standard());
+    // The language driver of the table at path, read from its header; null when the file is
+    // not a table or its driver is not one this program knows.
+    static const LanguageDriver *peekDriver(const QString &path);
     // The file called name in dir, found without regard to case (tables copied from Windows
     // keep any case); dir/name when none matches.
     static QString findInDirectory(const QString &dir, const QString &name);
@@ -112,7 +117,11 @@ public:
     QString fileName() const;
     const TableSchema *schema() const { return m_schema; }
     bool isLevel7() const { return m_level7; }
+    // Header byte 29.
     quint8 languageDriver() const;
+    // The driver of the table's text and key order; null for one this program does not know
+    // (the table is then read-only).
+    const LanguageDriver *driver() const { return m_driver; }
     bool hasIndex() const { return m_indexed; }
     const MdxIndex &index() const { return m_index; }
 
@@ -171,8 +180,10 @@ private:
         return m_records.constData() + qint64(rec) * m_recordLength;
     }
     char *record(int rec) { return m_records.data() + qint64(rec) * m_recordLength; }
-    bool ansiText() const;
-    bool binaryOrder() const;
+    void resolveDriver();
+    const LanguageDriver &lang() const;
+    // The driver's id as the index repeats it (level-7 tables name it instead of giving it).
+    quint8 indexLanguage() const;
     bool encodeField(const DbfField &f, const QVariant &value, QByteArray *out) const;
 
     std::vector<int> sortedRows(int f) const;
@@ -209,6 +220,7 @@ private:
     QByteArray m_committedHeader;
     bool m_headerDirty = false;
     bool m_level7 = false;
+    const LanguageDriver *m_driver = nullptr;
     int m_headerLength = 0;
     int m_recordLength = 0;
     QByteArray m_records;

@@ -1,5 +1,7 @@
 #include "MdxIndex.h"
 
+#include "LanguageDriver.h"
+
 #include <QtEndian>
 #include <algorithm>
 #include <cstring>
@@ -70,6 +72,7 @@ struct TreeWalk
 {
     const QByteArray &bytes;
     const MdxTag &tag;
+    const LanguageDriver &order;
     int blockBytes;
     std::vector<MdxKey> &out;
     std::vector<char> visited;
@@ -84,7 +87,7 @@ struct TreeWalk
 
     int compare(const char *a, const char *b) const
     {
-        return std::memcmp(a, b, std::size_t(tag.keyLength));
+        return order.compare(a, b, std::size_t(tag.keyLength));
     }
 
     // Visits the subtree at page; lo and hi receive its lowest and highest keys.
@@ -210,11 +213,11 @@ bool MdxIndex::parse(const QByteArray &bytes, MdxProblem *problem)
     return true;
 }
 
-bool MdxIndex::readKeys(const QByteArray &bytes, int t, std::vector<MdxKey> &out,
-                        MdxProblem *problem) const
+bool MdxIndex::readKeys(const QByteArray &bytes, int t, const LanguageDriver &order,
+                        std::vector<MdxKey> &out, MdxProblem *problem) const
 {
     const MdxTag &tag = m_tags.at(t);
-    TreeWalk walk{bytes, tag, blockBytes(), out, {}, -1, {}};
+    TreeWalk walk{bytes, tag, order, blockBytes(), out, {}, -1, {}};
     walk.visited.assign(std::size_t(bytes.size() / kPageBytes + 1), 0);
     const char *lo = nullptr;
     const char *hi = nullptr;

@@ -8,6 +8,8 @@
 #include <QString>
 #include <vector>
 
+struct LanguageDriver;
+
 // One key of a tag as it sits in a leaf: the 1-based record number and the key bytes, which
 // point into a buffer (the table's records or the index file) that outlives the entry.
 struct MdxKey
@@ -63,10 +65,10 @@ public:
 
     // Walks the tree of tag t: every page inside the file and reached once, entry counts
     // within a node's capacity, all leaves at one depth, every interior key at least the
-    // highest key below it and at most the lowest key of the next child. Appends the leaf
-    // entries in tree order, their keys pointing into bytes.
-    bool readKeys(const QByteArray &bytes, int t, std::vector<MdxKey> &out,
-                  MdxProblem *problem) const;
+    // highest key below it and at most the lowest key of the next child, keys compared in the
+    // table's order. Appends the leaf entries in tree order, their keys pointing into bytes.
+    bool readKeys(const QByteArray &bytes, int t, const LanguageDriver &order,
+                  std::vector<MdxKey> &out, MdxProblem *problem) const;
 
     // An empty index for a table: version 2, or 3 for a level-7 table.
     static MdxIndex blank(bool level7, const QString &baseName, quint8 language);

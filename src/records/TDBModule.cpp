@@ -9,6 +9,27 @@
 #include <QDir>
 #include <QFileInfo>
 
+namespace {
+
+// The driver a new table takes: the one the directory's other tables share, so that a database
+// keeps one text encoding and key order; Tarvik's own otherwise.
+const LanguageDriver &sharedDriver(const QString &dir)
+{
+    const LanguageDriver *shared = nullptr;
+    for (const TableSchema *schema : TableSchema::all()) {
+        const QString path = DbfTable::findInDirectory(dir, schema->fileName);
+        if (!QFileInfo::exists(path))
+            continue;
+        const LanguageDriver *driver = DbfTable::peekDriver(path);
+        if (!driver || driver->id == 0 || (shared && shared != driver))
+            return LanguageDriver::standard();
+        shared = driver;
+    }
+    return shared ? *shared : LanguageDriver::standard();
+}
+
+} // namespace
+
 TDBModule::TDBModule(QObject *parent) : QObject(parent)
 {
     for (std::size_t i = 0; i < m_tables.size(); ++i) {
@@ -42,12 +63,13 @@ bool TDBModule::open(const QString &dataDir, UserPrompt *prompt)
     QStringList created;
     const QList<const TableSchema *> schemas = TableSchema::all();
     if (errors.isEmpty()) {
+        const LanguageDriver &driver = sharedDriver(m_dir);
         for (const TableSchema *schema : schemas) {
             const QString path = DbfTable::findInDirectory(m_dir, schema->fileName);
             if (QFileInfo::exists(path))
                 continue;
             QString error;
-            if (DbfTable::create(path, *schema, &error))
+            if (DbfTable::create(path, *schema, &error, driver))
                 created.append(schema->fileName);
             else
                 errors.append(error);

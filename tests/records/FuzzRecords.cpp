@@ -39,12 +39,14 @@ void writeSeeds(const QString &out)
         const TableSchema &schema = *schemas.at(s);
         const QString path = QDir(dir.path()).filePath(schema.fileName);
         QString error;
-        DbfTable::create(path, schema, &error);
+        // tables in byte order and under Western European drivers with their own key order
+        const quint8 drivers[] = {0x57, 0x58, 0x12, 0x0F, 0x1B};
+        DbfTable::create(path, schema, &error, *LanguageDriver::byId(drivers[s % 5]));
         DbfTable t;
         t.open(path, &schema);
         for (int i = 0; i < (s == 1 ? 70 : 3); ++i) {
             const int rec = t.appendRecord();
-            t.setValue(rec, 0, QStringLiteral("key %1").arg(i % 5));
+            t.setValue(rec, 0, QStringLiteral("%1ey é %2").arg(i % 2 ? u'K' : u'k').arg(i % 5));
             t.setValue(rec, 2, i);
         }
         t.deleteRecord(1);
@@ -91,7 +93,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
                 (void)t.text(r, f);
             }
         }
-        (void)t.locate(t.field(0).name, QStringLiteral("key 1"));
+        (void)t.locate(t.field(0).name, QStringLiteral("KEY É 1"));
     }
 
     MdxIndex mdx;
@@ -99,7 +101,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (mdx.parse(index, &problem)) {
         for (int tag = 0; tag < mdx.tags().size(); ++tag) {
             std::vector<MdxKey> keys;
-            mdx.readKeys(index, tag, keys, &problem);
+            const LanguageDriver *order = LanguageDriver::byId(mdx.language());
+            mdx.readKeys(index, tag, order ? *order : LanguageDriver::none(), keys, &problem);
         }
     }
     return 0;
