@@ -154,8 +154,12 @@ DbfLayout DbfLayout::read(const QByteArray &bytes, const QString &fileName,
     const int declaredRecord = size >= 12 ? qFromLittleEndian<quint16>(h + 10) : 0;
     const Descriptors d = scanDescriptors(bytes, l.level7);
 
-    // The header as written.
-    if (size < fixed + 1 || d.cut)
+    // The header as written. A file that ends before its header does, with no room for a row
+    // after the descriptors, was cut inside its header.
+    const bool headerCut = size < fixed + 1 || d.cut ||
+                           (d.end >= 0 && declaredHeader > size && !d.fields.isEmpty() &&
+                            size - (d.end + 1) < recordLengthOf(d.fields));
+    if (headerCut)
         l.problem = messageText(Msg::RecordsHeaderTruncated, {fileName});
     else if (!d.badField.isEmpty())
         l.problem = messageText(Msg::RecordsBadField, {fileName, d.badField});

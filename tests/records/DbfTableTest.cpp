@@ -1,6 +1,7 @@
 #include "DbfTable.h"
 #include "IndexChecker.h"
 #include "Messages.h"
+#include "TableRepair.h"
 #include "TableSchema.h"
 
 #include <QDir>
@@ -269,6 +270,26 @@ TEST_F(DbfTableTest, Level7TableReadAndWrittenBack)
         ASSERT_EQ(written.at(i), original.at(i)) << "byte " << i;
     }
     EXPECT_EQ(written.mid(countAt, 4), QByteArray::fromHex("80000009"));
+    EXPECT_TRUE(checkIndex(path(QStringLiteral("LEVEL7.DBF")), path(QStringLiteral("LEVEL7.MDX")),
+                           {{QStringLiteral("NAME"), false}})
+                    .isEmpty());
+
+    // Cut inside its last row, it is repaired with its two whole rows and its header as it was
+    // (driver name, descriptor bytes, properties) but for the date and the count.
+    writeAll(path(QStringLiteral("LEVEL7.DBF")), written.left(headerLength + 2 * recordLength + 7));
+    TableRepair repair(dir.path());
+    const TableRepair::Result r = repair.repairFile(path(QStringLiteral("LEVEL7.DBF")), nullptr);
+    EXPECT_EQ(r.state, TableRepair::State::Repaired) << r.text().toStdString();
+    EXPECT_EQ(r.kept, 2);
+    EXPECT_EQ(r.unreadable, 1);
+    const QByteArray repaired = readAll(path(QStringLiteral("LEVEL7.DBF")));
+    ASSERT_EQ(repaired.size(), headerLength + 2 * recordLength + 1);
+    for (int i = 0; i < repaired.size() - 1; ++i) {
+        if (i < 1 || i > 7) {
+            ASSERT_EQ(repaired.at(i), written.at(i)) << "byte " << i;
+        }
+    }
+    EXPECT_EQ(qFromLittleEndian<quint32>(repaired.constData() + 4), 2u);
     EXPECT_TRUE(checkIndex(path(QStringLiteral("LEVEL7.DBF")), path(QStringLiteral("LEVEL7.MDX")),
                            {{QStringLiteral("NAME"), false}})
                     .isEmpty());
