@@ -12,6 +12,8 @@
 #include "TDBModule.h"
 #include "TFormData.h"
 #include "TFormMain.h"
+#include "TFormRepair.h"
+#include "TableRepairModel.h"
 #include "VirtualValidator.h"
 
 #include <QApplication>
@@ -81,6 +83,13 @@ int main(int argc, char *argv[])
         module->open(DataDirectory::resolve(), &prompt);
         dataModule = module.get();
         return module;
+    };
+    // The repair closes the module's tables around its work and opens them again after it.
+    context.repairTables = [&dataModule](QWidget *mainWindow) {
+        TableRepairModel model(dataModule ? dataModule->dataDirectory() : DataDirectory::resolve(),
+                               dataModule);
+        TFormRepair form(model, mainWindow);
+        form.exec();
     };
     context.linkSource =
         options.useVirtualValidator() ? static_cast<LinkSource *>(&simulated) : &probing;

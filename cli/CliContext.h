@@ -106,6 +106,7 @@ void registerRecordCommands(CliCommandTable &table);
 void registerEditorCommands(CliCommandTable &table);
 void registerLearnCommands(CliCommandTable &table);
 void registerValueCommands(CliCommandTable &table);
+void registerRepairCommands(CliCommandTable &table);
 
 // Runs tarvik-cli with the arguments after the program name.
 int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,

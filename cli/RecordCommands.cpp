@@ -1,18 +1,31 @@
 #include "CliContext.h"
 #include "DataDirectory.h"
+#include "DbfTable.h"
+#include "Messages.h"
 #include "TDBModule.h"
 #include "ValidatorStore.h"
+
+#include <algorithm>
 
 namespace {
 
 // Opens the five tables of the data directory the options name; the first run creates them.
-bool openTables(CliContext &cli, TDBModule &db)
+// What cannot be opened, or opens damaged, has been said once, so a command stops without a
+// word of its own when a table it reads is not open.
+bool openTables(CliContext &cli, TDBModule &db,
+                const QList<DbfTable *(TDBModule::*)() const> &reads)
 {
-    const QString dir = DataDirectory::resolve(cli.options().dataDir);
-    if (db.open(dir, &cli.prompt()))
-        return true;
-    cli.err() << db.errorString() << Qt::endl;
-    return false;
+    db.open(DataDirectory::resolve(cli.options().dataDir), &cli.prompt());
+    return std::all_of(reads.begin(), reads.end(),
+                       [&db](auto table) { return (db.*table)()->isOpen(); });
+}
+
+QString joined(const QList<int> &channels)
+{
+    QStringList out;
+    for (int c : channels)
+        out.append(QString::number(c));
+    return out.join(QStringLiteral(", "));
 }
 
 int saveCommand(CliContext &cli, const QStringList &args)
@@ -37,15 +50,12 @@ int saveCommand(CliContext &cli, const QStringList &args)
     if (!readImageInput(cli, file, image))
         return kExitFailed;
     TDBModule db;
-    if (!openTables(cli, db))
-        return kExitFailed;
-    // "%s exist! Overwrite ?" is answered by --overwrite.
+    openTables(cli, db, {});
+    // "%s exist! Overwrite ?" is answered by --overwrite; the store tells why it failed.
     cli.prompt().setAnswer(overwrite ? UserPrompt::Answer::Yes : UserPrompt::Answer::No);
     ValidatorStore store(db, cli.prompt());
-    const auto outcome = store.store(image, ident, description);
-    if (outcome == ValidatorStore::Outcome::Failed && !store.errorString().isEmpty())
-        cli.err() << store.errorString() << Qt::endl;
-    return outcome == ValidatorStore::Outcome::Stored ? kExitOk : kExitFailed;
+    return store.store(image, ident, description) == ValidatorStore::Outcome::Stored ? kExitOk
+                                                                                     : kExitFailed;
 }
 
 int loadCommand(CliContext &cli, const QStringList &arguments)
@@ -56,17 +66,26 @@ int loadCommand(CliContext &cli, const QStringList &arguments)
         return kExitUsage;
     const QString ident = args.first();
     TDBModule db;
-    if (!openTables(cli, db))
+    if (!openTables(cli, db, {&TDBModule::Gettoniere}))
         return kExitFailed;
     ValidatorStore store(db, cli.prompt());
     ConfigImage image = ConfigImage::blank();
-    if (!store.load(ident, image)) {
+    ValidatorStore::LoadReport report;
+    if (!store.load(ident, image, nullptr, &report)) {
         cli.err() << (store.errorString().isEmpty()
                           ? QStringLiteral("No validator is stored as %1").arg(ident)
                           : store.errorString())
                   << Qt::endl;
         return kExitFailed;
     }
+    // Channels a damaged channel table lost open empty, and are named.
+    if (!report.missing.isEmpty())
+        cli.prompt().tell(messageText(Msg::SavedChannelsMissing, {ident, joined(report.missing)}),
+                          UserPrompt::Kind::Warning);
+    if (!report.duplicated.isEmpty())
+        cli.prompt().tell(
+            messageText(Msg::SavedChannelsDuplicated, {ident, joined(report.duplicated)}),
+            UserPrompt::Kind::Warning);
     return writeImageOutput(cli, image, output);
 }
 
@@ -75,7 +94,7 @@ int listCommand(CliContext &cli, const QStringList &args)
     if (!args.isEmpty())
         return kExitUsage;
     TDBModule db;
-    if (!openTables(cli, db))
+    if (!openTables(cli, db, {&TDBModule::Gettoniere}))
         return kExitFailed;
     ValidatorStore store(db, cli.prompt());
     const auto entries = store.list();
@@ -91,8 +110,7 @@ int deleteCommand(CliContext &cli, const QStringList &args)
     if (args.size() != 1 || args.first().startsWith(u'-'))
         return kExitUsage;
     TDBModule db;
-    if (!openTables(cli, db))
-        return kExitFailed;
+    openTables(cli, db, {});
     ValidatorStore store(db, cli.prompt());
     if (!store.remove(args.first())) {
         cli.err() << (store.errorString().isEmpty()

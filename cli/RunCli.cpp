@@ -77,6 +77,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerEditorCommands(table);
     registerLearnCommands(table);
     registerValueCommands(table);
+    registerRepairCommands(table);
 
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {

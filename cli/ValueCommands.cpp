@@ -1,21 +1,13 @@
 #include "CliContext.h"
 #include "ConfigImage.h"
 #include "DataDirectory.h"
+#include "DbfTable.h"
 #include "Messages.h"
 #include "TDBModule.h"
 #include "ValueTableModel.h"
 #include "ValueTableStore.h"
 
 namespace {
-
-bool openTables(CliContext &cli, TDBModule &db)
-{
-    const QString dir = DataDirectory::resolve(cli.options().dataDir);
-    if (db.open(dir, &cli.prompt()))
-        return true;
-    cli.err() << db.errorString() << Qt::endl;
-    return false;
-}
 
 int listValues(CliContext &cli, ValueTableStore &store, const QStringList &args)
 {
@@ -113,8 +105,11 @@ int valuesCommand(CliContext &cli, const QStringList &arguments)
                                                : nullptr;
     if (!run)
         return kExitUsage;
+    // What cannot be opened, or opens damaged, is said once; listing and applying need the
+    // value table open, saving and deleting say why they are refused.
     TDBModule db;
-    if (!openTables(cli, db))
+    db.open(DataDirectory::resolve(cli.options().dataDir), &cli.prompt());
+    if ((run == listValues || run == applyValues) && !db.ValueTable()->isOpen())
         return kExitFailed;
     ValueTableStore store(db, cli.prompt());
     return run(cli, store, args);

@@ -539,6 +539,22 @@
         <source>Values Table</source>
         <translation>Wertetabelle</translation>
     </message>
+    <message>
+        <source>Repair tables...</source>
+        <translation>Tabellen reparieren...</translation>
+    </message>
+    <message>
+        <source>Repair tables</source>
+        <translation>Tabellen reparieren</translation>
+    </message>
+    <message>
+        <source>Tables in %s :</source>
+        <translation>Tabellen in %s :</translation>
+    </message>
+    <message>
+        <source>&amp;Repair</source>
+        <translation>&amp;Reparieren</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -929,6 +945,50 @@
     <message>
         <source>Delete record?</source>
         <translation>Datensatz löschen?</translation>
+    </message>
+    <message>
+        <source>%s is truncated inside its header: none of its records can be read</source>
+        <translation>%s ist in seinem Kopf abgeschnitten: keiner seiner Sätze kann gelesen werden</translation>
+    </message>
+    <message>
+        <source>%s. It is opened read-only with the records that can be read; repair the tables to change it.</source>
+        <translation>%s. Es wird schreibgeschützt mit den lesbaren Sätzen geöffnet; reparieren Sie die Tabellen, um es zu ändern.</translation>
+    </message>
+    <message>
+        <source>%s is damaged and cannot be changed until the tables are repaired</source>
+        <translation>%s ist beschädigt und kann erst geändert werden, wenn die Tabellen repariert sind</translation>
+    </message>
+    <message>
+        <source>%s. Nothing of it can be read; the file is left as it is.</source>
+        <translation>%s. Nichts davon kann gelesen werden; die Datei bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>%s is not open: nothing can be read from it or stored in it</source>
+        <translation>%s ist nicht geöffnet: nichts kann daraus gelesen oder darin gespeichert werden</translation>
+    </message>
+    <message>
+        <source>%s is sound and was left untouched</source>
+        <translation>%s ist in Ordnung und blieb unverändert</translation>
+    </message>
+    <message>
+        <source>%s repaired: %s records kept, %s could not be read; the damaged files are kept in %s</source>
+        <translation>%s repariert: %s Sätze behalten, %s nicht lesbar; die beschädigten Dateien liegen in %s</translation>
+    </message>
+    <message>
+        <source>%s: its index was rebuilt from the table; the old files are kept in %s</source>
+        <translation>%s: sein Index wurde aus der Tabelle neu aufgebaut; die alten Dateien liegen in %s</translation>
+    </message>
+    <message>
+        <source>%s could not be repaired: %s</source>
+        <translation>%s konnte nicht repariert werden: %s</translation>
+    </message>
+    <message>
+        <source>it is open in another program (%s)</source>
+        <translation>es ist in einem anderen Programm geöffnet (%s)</translation>
+    </message>
+    <message>
+        <source>The index %s is not usable (%s)</source>
+        <translation>Der Index %s ist nicht verwendbar (%s)</translation>
     </message>
 </context>
 <context>

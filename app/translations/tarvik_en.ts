@@ -539,6 +539,22 @@
         <source>Values Table</source>
         <translation>Values Table</translation>
     </message>
+    <message>
+        <source>Repair tables...</source>
+        <translation>Repair tables...</translation>
+    </message>
+    <message>
+        <source>Repair tables</source>
+        <translation>Repair tables</translation>
+    </message>
+    <message>
+        <source>Tables in %s :</source>
+        <translation>Tables in %s :</translation>
+    </message>
+    <message>
+        <source>&amp;Repair</source>
+        <translation>&amp;Repair</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -929,6 +945,50 @@
     <message>
         <source>Delete record?</source>
         <translation>Delete record?</translation>
+    </message>
+    <message>
+        <source>%s is truncated inside its header: none of its records can be read</source>
+        <translation>%s is truncated inside its header: none of its records can be read</translation>
+    </message>
+    <message>
+        <source>%s. It is opened read-only with the records that can be read; repair the tables to change it.</source>
+        <translation>%s. It is opened read-only with the records that can be read; repair the tables to change it.</translation>
+    </message>
+    <message>
+        <source>%s is damaged and cannot be changed until the tables are repaired</source>
+        <translation>%s is damaged and cannot be changed until the tables are repaired</translation>
+    </message>
+    <message>
+        <source>%s. Nothing of it can be read; the file is left as it is.</source>
+        <translation>%s. Nothing of it can be read; the file is left as it is.</translation>
+    </message>
+    <message>
+        <source>%s is not open: nothing can be read from it or stored in it</source>
+        <translation>%s is not open: nothing can be read from it or stored in it</translation>
+    </message>
+    <message>
+        <source>%s is sound and was left untouched</source>
+        <translation>%s is sound and was left untouched</translation>
+    </message>
+    <message>
+        <source>%s repaired: %s records kept, %s could not be read; the damaged files are kept in %s</source>
+        <translation>%s repaired: %s records kept, %s could not be read; the damaged files are kept in %s</translation>
+    </message>
+    <message>
+        <source>%s: its index was rebuilt from the table; the old files are kept in %s</source>
+        <translation>%s: its index was rebuilt from the table; the old files are kept in %s</translation>
+    </message>
+    <message>
+        <source>%s could not be repaired: %s</source>
+        <translation>%s could not be repaired: %s</translation>
+    </message>
+    <message>
+        <source>it is open in another program (%s)</source>
+        <translation>it is open in another program (%s)</translation>
+    </message>
+    <message>
+        <source>The index %s is not usable (%s)</source>
+        <translation>The index %s is not usable (%s)</translation>
     </message>
 </context>
 <context>

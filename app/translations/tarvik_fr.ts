@@ -539,6 +539,22 @@
         <source>Values Table</source>
         <translation>Table des valeurs</translation>
     </message>
+    <message>
+        <source>Repair tables...</source>
+        <translation>Réparer les tables...</translation>
+    </message>
+    <message>
+        <source>Repair tables</source>
+        <translation>Réparer les tables</translation>
+    </message>
+    <message>
+        <source>Tables in %s :</source>
+        <translation>Tables dans %s :</translation>
+    </message>
+    <message>
+        <source>&amp;Repair</source>
+        <translation>&amp;Réparer</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -929,6 +945,50 @@
     <message>
         <source>Delete record?</source>
         <translation>Supprimer l&apos;enregistrement ?</translation>
+    </message>
+    <message>
+        <source>%s is truncated inside its header: none of its records can be read</source>
+        <translation>%s est tronqué dans son en-tête : aucun de ses enregistrements ne peut être lu</translation>
+    </message>
+    <message>
+        <source>%s. It is opened read-only with the records that can be read; repair the tables to change it.</source>
+        <translation>%s. Il est ouvert en lecture seule avec les enregistrements lisibles ; réparez les tables pour le modifier.</translation>
+    </message>
+    <message>
+        <source>%s is damaged and cannot be changed until the tables are repaired</source>
+        <translation>%s est endommagé et ne peut pas être modifié tant que les tables ne sont pas réparées</translation>
+    </message>
+    <message>
+        <source>%s. Nothing of it can be read; the file is left as it is.</source>
+        <translation>%s. Rien ne peut en être lu ; le fichier est laissé tel quel.</translation>
+    </message>
+    <message>
+        <source>%s is not open: nothing can be read from it or stored in it</source>
+        <translation>%s n&apos;est pas ouvert : rien ne peut y être lu ni enregistré</translation>
+    </message>
+    <message>
+        <source>%s is sound and was left untouched</source>
+        <translation>%s est intact et n&apos;a pas été modifié</translation>
+    </message>
+    <message>
+        <source>%s repaired: %s records kept, %s could not be read; the damaged files are kept in %s</source>
+        <translation>%s réparé : %s enregistrements conservés, %s illisibles ; les fichiers endommagés sont conservés dans %s</translation>
+    </message>
+    <message>
+        <source>%s: its index was rebuilt from the table; the old files are kept in %s</source>
+        <translation>%s : son index a été reconstruit à partir de la table ; les anciens fichiers sont conservés dans %s</translation>
+    </message>
+    <message>
+        <source>%s could not be repaired: %s</source>
+        <translation>%s n&apos;a pas pu être réparé : %s</translation>
+    </message>
+    <message>
+        <source>it is open in another program (%s)</source>
+        <translation>il est ouvert dans un autre programme (%s)</translation>
+    </message>
+    <message>
+        <source>The index %s is not usable (%s)</source>
+        <translation>L&apos;index %s n&apos;est pas utilisable (%s)</translation>
     </message>
 </context>
 <context>

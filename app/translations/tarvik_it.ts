@@ -539,6 +539,22 @@
         <source>Values Table</source>
         <translation>Tabella valori</translation>
     </message>
+    <message>
+        <source>Repair tables...</source>
+        <translation>Ripara tabelle...</translation>
+    </message>
+    <message>
+        <source>Repair tables</source>
+        <translation>Ripara tabelle</translation>
+    </message>
+    <message>
+        <source>Tables in %s :</source>
+        <translation>Tabelle in %s :</translation>
+    </message>
+    <message>
+        <source>&amp;Repair</source>
+        <translation>&amp;Ripara</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -929,6 +945,50 @@
     <message>
         <source>Delete record?</source>
         <translation>Eliminare il record?</translation>
+    </message>
+    <message>
+        <source>%s is truncated inside its header: none of its records can be read</source>
+        <translation>%s è troncato nella sua intestazione: nessuno dei suoi record può essere letto</translation>
+    </message>
+    <message>
+        <source>%s. It is opened read-only with the records that can be read; repair the tables to change it.</source>
+        <translation>%s. È aperto in sola lettura con i record leggibili; riparare le tabelle per modificarlo.</translation>
+    </message>
+    <message>
+        <source>%s is damaged and cannot be changed until the tables are repaired</source>
+        <translation>%s è danneggiato e non può essere modificato finché le tabelle non sono riparate</translation>
+    </message>
+    <message>
+        <source>%s. Nothing of it can be read; the file is left as it is.</source>
+        <translation>%s. Non se ne può leggere nulla; il file viene lasciato com&apos;è.</translation>
+    </message>
+    <message>
+        <source>%s is not open: nothing can be read from it or stored in it</source>
+        <translation>%s non è aperto: non vi si può leggere né salvare nulla</translation>
+    </message>
+    <message>
+        <source>%s is sound and was left untouched</source>
+        <translation>%s è integro ed è stato lasciato intatto</translation>
+    </message>
+    <message>
+        <source>%s repaired: %s records kept, %s could not be read; the damaged files are kept in %s</source>
+        <translation>%s riparato: %s record conservati, %s illeggibili; i file danneggiati sono conservati in %s</translation>
+    </message>
+    <message>
+        <source>%s: its index was rebuilt from the table; the old files are kept in %s</source>
+        <translation>%s: il suo indice è stato ricostruito dalla tabella; i vecchi file sono conservati in %s</translation>
+    </message>
+    <message>
+        <source>%s could not be repaired: %s</source>
+        <translation>%s non ha potuto essere riparato: %s</translation>
+    </message>
+    <message>
+        <source>it is open in another program (%s)</source>
+        <translation>è aperto in un altro programma (%s)</translation>
+    </message>
+    <message>
+        <source>The index %s is not usable (%s)</source>
+        <translation>L&apos;indice %s non è utilizzabile (%s)</translation>
     </message>
 </context>
 <context>

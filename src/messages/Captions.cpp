@@ -147,6 +147,10 @@ constexpr Entry kTable[] = {
     {Cap::Delete, QT_TRANSLATE_NOOP("Captions", "&Delete")},
     {Cap::CloseButton, QT_TRANSLATE_NOOP("Captions", "&Close")},
     {Cap::ValuesTable, QT_TRANSLATE_NOOP("Captions", "Values Table")},
+    {Cap::RepairTables, QT_TRANSLATE_NOOP("Captions", "Repair tables...")},
+    {Cap::RepairTitle, QT_TRANSLATE_NOOP("Captions", "Repair tables")},
+    {Cap::RepairTablesIn, QT_TRANSLATE_NOOP("Captions", "Tables in %s :")},
+    {Cap::RepairButton, QT_TRANSLATE_NOOP("Captions", "&Repair")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

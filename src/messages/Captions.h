@@ -149,6 +149,10 @@ enum class Cap
     Delete,
     CloseButton,
     ValuesTable,
+    RepairTables,
+    RepairTitle,
+    RepairTablesIn,
+    RepairButton,
     Count_
 };
 

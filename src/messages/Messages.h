@@ -111,6 +111,18 @@ enum class Msg
     RecordsNotStored,
     RecordsChangedElsewhere,
     RecordsCannotCreateDirectory,
+    RecordsHeaderTruncated,
+    RecordsDamaged,
+    RecordsDamagedRefused,
+    RecordsUnreadable,
+    RecordsNotOpen,
+    // repairing the tables
+    RepairSound,
+    RepairDone,
+    RepairIndexDone,
+    RepairFailed,
+    RepairReasonLocked,
+    RepairIndexUnusable,
     SettingsUnreadable,
     FileNotReadable,
     Count_

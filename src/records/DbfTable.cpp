@@ -1,5 +1,6 @@
 #include "DbfTable.h"
 
+#include "DbfLayout.h"
 #include "DurableFile.h"
 #include "LanguageDriver.h"
 
@@ -29,12 +30,9 @@ DbfTable::HookAction step(DbfTable::CommitStep s)
 
 const QString kTempSuffix = QStringLiteral(".tarvik-tmp");
 constexpr int kFixedHeader = 32;
-constexpr int kFixedHeader7 = 68;
 constexpr int kDescriptor = 32;
-constexpr int kDescriptor7 = 48;
 constexpr char kEndOfFile = 0x1A;
 constexpr char kFieldEnd = 0x0D;
-constexpr int kMaxFields = 1024;
 
 void stampDate(char *p, const QDate &d)
 {
@@ -54,24 +52,6 @@ QString cName(const char *p, int max)
 bool allZero(const char *p, int n)
 {
     return std::all_of(p, p + n, [](char c) { return c == 0; });
-}
-
-int fixedWidth(char type)
-{
-    switch (type) {
-    case 'L':
-        return 1;
-    case 'D':
-        return 8;
-    case 'I':
-    case '+':
-        return 4;
-    case 'O':
-    case '@':
-        return 8;
-    default:
-        return 0;
-    }
 }
 
 bool numericType(char type)
@@ -283,7 +263,9 @@ bool DbfTable::open(const QString &path, const TableSchema *schema)
         const QString indexName = QFileInfo(m_indexPath).fileName();
         const QString reason = m_indexProblem.text();
         if (m_readOnly) {
-            m_notices.append(messageText(Msg::RecordsIndexNotRebuilt, {indexName, reason}));
+            // A damaged table's index is rebuilt with its repair; its notice says enough.
+            if (m_damage.isEmpty())
+                m_notices.append(messageText(Msg::RecordsIndexNotRebuilt, {indexName, reason}));
             m_headerDirty = false;
         } else if (commit()) {
             m_notices.append(messageText(Msg::RecordsIndexRebuilt, {indexName, reason, name}));
@@ -323,7 +305,7 @@ bool DbfTable::openBytes(const QByteArray &table, const QByteArray &index,
     if (!parseTable(table) || !checkSchema())
         return false;
     attachIndex(index.isEmpty() ? nullptr : &index);
-    if (m_indexProblem.isSet()) {
+    if (m_indexProblem.isSet() && m_damage.isEmpty()) {
         m_notices.append(
             messageText(Msg::RecordsIndexNotRebuilt, {m_indexPath, m_indexProblem.text()}));
     }
@@ -339,6 +321,8 @@ void DbfTable::close()
     m_readOnly = false;
     m_memoryOnly = false;
     m_readOnlyReason.clear();
+    m_damage.clear();
+    m_unreadable = 0;
     m_lock.reset();
     m_notices.clear();
     m_header.clear();
@@ -373,61 +357,27 @@ void DbfTable::setReadOnly(const QString &reason)
 
 bool DbfTable::parseTable(const QByteArray &bytes)
 {
-    const QString name = fileName();
-    if (bytes.isEmpty() || (bytes.at(0) != 0x03 && bytes.at(0) != 0x04))
-        return fail(Msg::RecordsNotDbase, {name});
-    m_level7 = bytes.at(0) == 0x04;
-    const int fixed = m_level7 ? kFixedHeader7 : kFixedHeader;
-    const int descriptor = m_level7 ? kDescriptor7 : kDescriptor;
-    if (bytes.size() < fixed + 1)
-        return fail(Msg::RecordsBadHeader, {name});
-    const char *h = bytes.constData();
-    m_headerLength = qFromLittleEndian<quint16>(h + 8);
-    m_recordLength = qFromLittleEndian<quint16>(h + 10);
-    const quint32 count = qFromLittleEndian<quint32>(h + 4);
-    if (m_headerLength < fixed + 1 || m_headerLength > bytes.size())
-        return fail(Msg::RecordsBadHeader, {name});
-
-    int pos = fixed;
-    int offset = 1;
-    for (;;) {
-        if (pos >= m_headerLength)
-            return fail(Msg::RecordsBadHeader, {name});
-        if (h[pos] == kFieldEnd)
-            break;
-        if (pos + descriptor > m_headerLength || m_fields.size() >= kMaxFields)
-            return fail(Msg::RecordsBadHeader, {name});
-        const char *d = h + pos;
-        DbfField f;
-        f.name = cName(d, m_level7 ? 32 : 11);
-        f.type = d[m_level7 ? 32 : 11];
-        f.length = quint8(d[m_level7 ? 33 : 16]);
-        f.decimals = quint8(d[m_level7 ? 34 : 17]);
-        f.offset = offset;
-        f.descriptorOffset = pos;
-        const int fixedLength = fixedWidth(f.type);
-        if (f.name.isEmpty() || f.length == 0 || f.type < '+' || f.type > 'Z' ||
-            (fixedLength && f.length != fixedLength)) {
-            return fail(Msg::RecordsBadField,
-                        {name, f.name.isEmpty() ? QString::number(m_fields.size() + 1) : f.name});
-        }
-        offset += f.length;
-        m_fieldByName.insert(f.name.toUpper(), int(m_fields.size()));
-        m_fields.append(f);
-        pos += descriptor;
-    }
-    if (m_fields.isEmpty() || offset != m_recordLength)
-        return fail(Msg::RecordsBadHeader, {name});
-    const qint64 available = (bytes.size() - m_headerLength) / m_recordLength;
-    if (count > quint32(INT_MAX / m_recordLength) || qint64(count) > available) {
-        return fail(
-            Msg::RecordsTruncated,
-            {name, QString::number(std::min<qint64>(available, count)), QString::number(count)});
-    }
-    m_count = m_committedCount = int(count);
-    m_header = bytes.left(m_headerLength);
+    const DbfLayout layout = DbfLayout::read(bytes, fileName(), m_schema);
+    if (layout.state == DbfLayout::State::Unreadable)
+        return fail(Msg::RecordsUnreadable, {layout.problem});
+    m_level7 = layout.level7;
+    m_header = layout.header;
     m_committedHeader = m_header;
-    m_records = bytes.mid(m_headerLength, qint64(m_count) * m_recordLength);
+    m_headerLength = int(m_header.size());
+    m_recordLength = layout.recordLength;
+    m_fields = layout.fields;
+    for (int f = 0; f < m_fields.size(); ++f)
+        m_fieldByName.insert(m_fields.at(f).name.toUpper(), f);
+    m_count = m_committedCount = layout.rows;
+    m_records = bytes.mid(layout.rowsOffset, qint64(m_count) * m_recordLength);
+    if (layout.state == DbfLayout::State::Damaged) {
+        // Changes wait for the repair, whatever else made the table read-only.
+        m_damage = layout.problem;
+        m_unreadable = layout.unreadable;
+        m_notices.append(messageText(Msg::RecordsDamaged, {m_damage}));
+        m_readOnly = true;
+        m_readOnlyReason = messageText(Msg::RecordsDamagedRefused, {fileName()});
+    }
     resolveDriver();
     return true;
 }

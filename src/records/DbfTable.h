@@ -52,6 +52,11 @@ struct DbfField
 // checks every tag of the index against the table, and rebuilds, giving the new pair. A damaged
 // or missing index is rebuilt the same way, with a notice.
 //
+// Damage: a file that does not hold what its header says (cut short, a count past its end, a
+// header that does not parse) opens read-only with the rows that can be read and a notice
+// saying what is wrong; a file of which nothing can be read does not open. Neither is
+// written to until TableRepair has mended it.
+//
 // Locking: a lock file "<table>.lck" beside the table (QLockFile) keeps a second Tarvik from
 // writing the same table; the second one opens it read-only with a notice. dBase tools do not
 // know the lock file: a commit refuses to write when the table's size or time on disk changed
@@ -110,6 +115,15 @@ public:
 
     bool isOpen() const { return m_open; }
     bool isReadOnly() const { return m_readOnly; }
+    // Why changes are refused, empty while the table takes them.
+    QString readOnlyReason() const { return m_readOnlyReason; }
+    // What is wrong with a table whose file does not hold what its header says (see
+    // DbfLayout), naming the file; empty when it is sound. A damaged table opens read-only
+    // with the rows that can be read until it is repaired (TableRepair).
+    QString damage() const { return m_damage; }
+    bool isDamaged() const { return !m_damage.isEmpty(); }
+    // Rows the damaged file was meant to hold that cannot be read.
+    qint64 unreadableRecords() const { return m_unreadable; }
     QString errorString() const { return m_error; }
     QStringList notices() const { return m_notices; }
     QString filePath() const { return m_path; }
@@ -124,6 +138,9 @@ public:
     const LanguageDriver *driver() const { return m_driver; }
     bool hasIndex() const { return m_indexed; }
     const MdxIndex &index() const { return m_index; }
+    // Why the index on disk cannot be trusted while it waits to be rebuilt; empty when it is
+    // up to date.
+    QString indexProblem() const { return m_indexNeedsWrite ? m_indexProblem.text() : QString(); }
 
     int fieldCount() const { return int(m_fields.size()); }
     const DbfField &field(int f) const { return m_fields.at(f); }
@@ -212,6 +229,8 @@ private:
     bool m_readOnly = false;
     bool m_memoryOnly = false;
     QString m_readOnlyReason;
+    QString m_damage;
+    qint64 m_unreadable = 0;
     std::unique_ptr<QLockFile> m_lock;
     qint64 m_diskSize = 0;
     QDateTime m_diskModified; // of the table as last read or written

@@ -40,11 +40,16 @@ const std::array<const char *, ProfileRecord::kTolerances> &ProfileStore::tolera
 
 bool ProfileStore::tableUsable()
 {
-    if (m_db.DemTable() && m_db.DemTable()->isOpen())
+    if (m_db.DemTable()->isOpen())
         return true;
-    m_error = messageText(Msg::RecordsFileMissing,
-                          {m_db.DemTable() ? m_db.DemTable()->filePath() : QString()});
+    m_error = TDBModule::refusal(m_db.DemTable());
     return false;
+}
+
+bool ProfileStore::canChange()
+{
+    m_error = TDBModule::refusal(m_db.DemTable());
+    return m_error.isEmpty();
 }
 
 QList<ProfileStore::Entry> ProfileStore::list() const
@@ -90,7 +95,7 @@ ProfileStore::Outcome ProfileStore::save(const ProfileRecord &profile)
     QString key = profile.name.trimmed();
     if (key.isEmpty())
         return Outcome::EmptyName;
-    if (!tableUsable()) {
+    if (!canChange()) {
         m_prompt.tell(m_error, UserPrompt::Kind::Error);
         return Outcome::Failed;
     }
@@ -129,7 +134,7 @@ ProfileStore::Outcome ProfileStore::save(const ProfileRecord &profile)
 
 bool ProfileStore::remove(const QString &profileName)
 {
-    if (!tableUsable())
+    if (!canChange())
         return false;
     DbfTable &table = *m_db.DemTable();
     const int r = table.locate(QStringLiteral("NOM"), profileName.trimmed());

@@ -60,6 +60,9 @@ public:
     // Deletes the profile of that name; false when there is none or it cannot be deleted.
     bool remove(const QString &name);
 
+    // Whether the table takes changes now; errorString() says why not.
+    bool canChange();
+
     QString errorString() const { return m_error; }
 
 private:

@@ -136,6 +136,11 @@ bool SavedValidatorsModel::BtnDeleteClick()
     if (m_current < 0)
         return false;
     const QString ident = m_rows.at(m_current).identification;
+    // A table that cannot be changed is said before anything is asked.
+    if (!m_store.canChange()) {
+        m_prompt.tell(m_store.errorString(), UserPrompt::Kind::Error);
+        return false;
+    }
     if (m_prompt.ask(messageText(Msg::DeleteSavedValidator, {ident}),
                      UserPrompt::Kind::Confirmation,
                      UserPrompt::Buttons::YesNo) != UserPrompt::Answer::Yes)

@@ -112,6 +112,15 @@ void TDBModule::close()
     m_error.clear();
 }
 
+QString TDBModule::refusal(const DbfTable *table)
+{
+    if (!table->isOpen()) {
+        return table->fileName().isEmpty() ? messageText(Msg::TablesUnavailable)
+                                           : messageText(Msg::RecordsNotOpen, {table->fileName()});
+    }
+    return table->isReadOnly() ? table->readOnlyReason() : QString();
+}
+
 bool TDBModule::GettoniereBeforeDelete(int rec)
 {
     const QString ident = Gettoniere()->text(rec, QStringLiteral("IDENT"));

@@ -26,7 +26,8 @@ public:
     // and missing tables are created empty, with their indexes, and that is said once. What
     // opening repaired or could not do is told through prompt (when given) and kept in
     // notices(); false when a table cannot be opened (errorString() names it). Tables that
-    // opened stay usable.
+    // opened stay usable; a damaged one opens read-only with the rows that can be read. Each
+    // of these is told once.
     bool open(const QString &dataDir, UserPrompt *prompt = nullptr);
     void close();
     QString dataDirectory() const { return m_dir; }
@@ -44,6 +45,10 @@ public:
     DbfTableModel *DemSource() const { return m_sources[2].get(); }
     DbfTableModel *DetSource() const { return m_sources[3].get(); }
     DbfTableModel *ValueSource() const { return m_sources[4].get(); }
+
+    // Why a table cannot take a change now, naming it: it is damaged, read-only or not open
+    // (what is wrong was said when it was opened); empty when it can.
+    static QString refusal(const DbfTable *table);
 
     // Runs before a Gettoniere row is deleted: deletes every Channel row whose MONNAYEUR
     // equals the row's IDENT without regard to case. Nothing is committed.

@@ -34,13 +34,12 @@ quint32 storedNumber(const QVariant &v, quint32 max)
 
 ValidatorStore::ValidatorStore(TDBModule &db, UserPrompt &prompt) : m_db(db), m_prompt(prompt) {}
 
-bool ValidatorStore::tablesUsable()
+bool ValidatorStore::canChange()
 {
-    for (DbfTable *table : {m_db.Gettoniere(), m_db.Channel()}) {
-        if (!table->isOpen()) {
-            m_error = messageText(Msg::RecordsFileMissing, {table->filePath()});
+    for (const DbfTable *table : {m_db.Gettoniere(), m_db.Channel()}) {
+        m_error = TDBModule::refusal(table);
+        if (!m_error.isEmpty())
             return false;
-        }
     }
     return true;
 }
@@ -54,7 +53,7 @@ ValidatorStore::Outcome ValidatorStore::store(const ConfigImage &image,
         m_prompt.tell(messageText(Msg::IdentificationMustBeFilled), UserPrompt::Kind::Warning);
         return Outcome::EmptyIdentification;
     }
-    if (!tablesUsable()) {
+    if (!canChange()) {
         m_prompt.tell(m_error, UserPrompt::Kind::Error);
         return Outcome::Failed;
     }
@@ -140,8 +139,11 @@ ValidatorStore::Outcome ValidatorStore::store(const ConfigImage &image,
 bool ValidatorStore::load(const QString &identification, ConfigImage &image, QString *description,
                           LoadReport *report)
 {
-    if (!tablesUsable())
+    // Without the channel table every channel opens empty.
+    if (!m_db.Gettoniere()->isOpen()) {
+        m_error = TDBModule::refusal(m_db.Gettoniere());
         return false;
+    }
     const DbfTable &validators = *m_db.Gettoniere();
     const DbfTable &channels = *m_db.Channel();
     const int v = validators.locate(QStringLiteral("IDENT"), identification.trimmed());
@@ -256,7 +258,7 @@ QList<ValidatorStore::Entry> ValidatorStore::list() const
 
 bool ValidatorStore::remove(const QString &identification)
 {
-    if (!tablesUsable())
+    if (!canChange())
         return false;
     const int v = m_db.Gettoniere()->locate(QStringLiteral("IDENT"), identification.trimmed());
     if (v < 0) {

@@ -39,7 +39,8 @@ public:
     };
 
     // Fills the channel table, the value block, the options and the prices of a blank image
-    // from a stored validator; every other block stays not set (255).
+    // from a stored validator; every other block stays not set (255). A channel the channel
+    // table has no row for (or the table is not open) is reported missing.
     bool load(const QString &identification, ConfigImage &image, QString *description = nullptr,
               LoadReport *report = nullptr);
     // Opens a stored validator into the image the editor holds: the family byte, the options,
@@ -61,11 +62,12 @@ public:
     // Deletes a stored validator with its channel rows.
     bool remove(const QString &identification);
 
+    // Whether both tables take changes now; errorString() says why not.
+    bool canChange();
+
     QString errorString() const { return m_error; }
 
 private:
-    bool tablesUsable();
-
     TDBModule &m_db;
     UserPrompt &m_prompt;
     QString m_error;

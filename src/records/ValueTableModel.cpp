@@ -327,6 +327,9 @@ void ValueTableModel::click(const QString &name)
         recordClick(m_record + 1);
     else if (name == QLatin1String("DBNavigator1Last") && !m_records.isEmpty())
         recordClick(int(m_records.size()) - 1);
+    else if (name == QLatin1String("DBNavigator1Delete") && m_store && m_record >= 0 &&
+             !m_store->canChange())
+        tell(m_store->errorString(), int(UserPrompt::Kind::Error));
     else if (name == QLatin1String("DBNavigator1Delete") && m_store && m_record >= 0 && m_prompt &&
              m_prompt->ask(messageText(Msg::DeleteRecord), UserPrompt::Kind::Confirmation,
                            UserPrompt::Buttons::OkCancel) == UserPrompt::Answer::Ok) {

@@ -58,11 +58,16 @@ QString ValueTableStore::notStoredText(const QString &name)
 
 bool ValueTableStore::tableUsable()
 {
-    if (m_db.ValueTable() && m_db.ValueTable()->isOpen())
+    if (m_db.ValueTable()->isOpen())
         return true;
-    m_error = messageText(Msg::RecordsFileMissing,
-                          {m_db.ValueTable() ? m_db.ValueTable()->filePath() : QString()});
+    m_error = TDBModule::refusal(m_db.ValueTable());
     return false;
+}
+
+bool ValueTableStore::canChange()
+{
+    m_error = TDBModule::refusal(m_db.ValueTable());
+    return m_error.isEmpty();
 }
 
 QList<ValueTableStore::Entry> ValueTableStore::list() const
@@ -104,7 +109,7 @@ ValueTableStore::Outcome ValueTableStore::save(const ValueBlock &block, const QS
     QString key = name.trimmed();
     if (key.isEmpty())
         return Outcome::EmptyName;
-    if (!tableUsable()) {
+    if (!canChange()) {
         m_prompt.tell(m_error, UserPrompt::Kind::Error);
         return Outcome::Failed;
     }
@@ -193,7 +198,7 @@ bool ValueTableStore::open(const QString &name, ValueBlock &block, bool light, E
 
 bool ValueTableStore::remove(int at)
 {
-    if (!tableUsable())
+    if (!canChange())
         return false;
     DbfTable &table = *m_db.ValueTable();
     const int r = rowOf(at);

@@ -54,6 +54,9 @@ public:
     bool remove(int at);
     bool remove(const QString &name);
 
+    // Whether the table takes changes now; errorString() says why not.
+    bool canChange();
+
     QString errorString() const { return m_error; }
     QStringList notices() const { return m_notices; }
 

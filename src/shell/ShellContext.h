@@ -24,4 +24,7 @@ struct ShellContext
     // Creates the editor on the open link and shows it modally over the main window (none: no
     // editor).
     std::function<void(ValidatorLink &link, QWidget *mainWindow)> showEditor;
+    // Shows the repair of the data directory's tables over the main window (none: the menu
+    // item is disabled).
+    std::function<void(QWidget *mainWindow)> repairTables;
 };

@@ -1,5 +1,6 @@
 #include "TFormMain.h"
 
+#include "Captions.h"
 #include "Encodings.h"
 #include "Languages.h"
 #include "Messages.h"
@@ -129,6 +130,10 @@ void TFormMain::buildMenu()
     m_firmware1 = m_parameters->addAction(QString());
     m_firmware1->setObjectName(QStringLiteral("Firmware1"));
     connect(m_firmware1, &QAction::triggered, this, &TFormMain::Firmware1Click);
+    m_repairtables1 = m_parameters->addAction(QString());
+    m_repairtables1->setObjectName(QStringLiteral("Repairtables1"));
+    m_repairtables1->setEnabled(bool(m_context.repairTables));
+    connect(m_repairtables1, &QAction::triggered, this, &TFormMain::Repairtables1Click);
 }
 
 void TFormMain::retranslateUi()
@@ -142,6 +147,7 @@ void TFormMain::retranslateUi()
     m_langage->setTitle(tr("&Langage"));
     m_languageItems.at(Languages::kLocal)->setText(tr("&Local"));
     m_firmware1->setText(tr("Firmware upgrade..."));
+    m_repairtables1->setText(captionText(Cap::RepairTables));
     m_bitBtn2->setText(tr("&Back"));
     m_bitBtn1->setText(tr("&Exit"));
 }
@@ -284,6 +290,12 @@ void TFormMain::Fran1Click(QAction *item)
         m_drapeau->setPixmap(Pictures::load(Pictures::flagFile(index)));
         m_shownLanguage = index;
     }
+}
+
+void TFormMain::Repairtables1Click()
+{
+    if (m_context.repairTables)
+        m_context.repairTables(this);
 }
 
 void TFormMain::Firmware1Click()

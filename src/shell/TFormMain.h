@@ -10,8 +10,9 @@ class QLabel;
 class QMenu;
 class QPushButton;
 
-// The program's frame: start-up, the Parameters menu with its switches and the language
-// choice, Back (reconnect and a fresh editor) and Exit.
+// The program's frame: start-up, the Parameters menu with its switches, the language choice,
+// the firmware upgrade and the repair of the tables, Back (reconnect and a fresh editor) and
+// Exit.
 class TFormMain final : public QMainWindow
 {
     Q_OBJECT
@@ -30,6 +31,7 @@ public:
     void Ecrituredirecte1Click();
     void Fran1Click(QAction *item); // the five language items
     void Firmware1Click();
+    void Repairtables1Click();
 
     ValidatorLink &link() { return m_link; }
     bool editorActive() const { return m_editorActive; }
@@ -66,6 +68,7 @@ private:
     QAction *m_ajustementauto1 = nullptr;
     QAction *m_ecrituredirecte1 = nullptr;
     QAction *m_firmware1 = nullptr;
+    QAction *m_repairtables1 = nullptr;
     QList<QAction *> m_languageItems;
     QLabel *m_image1;
     QLabel *m_lVersion;

@@ -2,6 +2,7 @@
 // pseudo-terminal.
 #include "CliContext.h"
 #include "ConfigFile.h"
+#include "Messages.h"
 #include "SimProcess.h"
 #include "VirtualValidator.h"
 
@@ -12,6 +13,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
+#include <QtEndian>
 #include <gtest/gtest.h>
 
 namespace {
@@ -227,6 +229,83 @@ TEST_F(Cli, StoresListsLoadsAndDeletesValidators)
     EXPECT_EQ(records({"list"}).out, "DEF\t\t19\n");
     EXPECT_EQ(records({"delete", "ABC"}).code, kExitFailed);
     EXPECT_EQ(records({"load", "nothing"}).code, kExitFailed);
+}
+
+// A channel table cut short: every command says so once, list and load work on what is intact,
+// writes to it are refused, and repair mends it.
+TEST_F(Cli, CutChannelTableIsSaidOnceReadAndRepaired)
+{
+    const QString db = dir.filePath("db");
+    auto records = [&](QStringList args) { return cli(QStringList{"--data-dir", db} + args); };
+    ConfigImage image = ConfigImage::blank();
+    image.version[0] = 0x13;
+    const QString file = dir.filePath(QStringLiteral("v.json"));
+    QString error;
+    ASSERT_TRUE(saveConfigFile(file, image, &error)) << error.toStdString();
+    ASSERT_EQ(records({"save", file, "--ident", "V0"}).code, kExitOk);
+    ASSERT_EQ(records({"save", file, "--ident", "V1"}).code, kExitOk);
+
+    // cut three bytes into the 71st of 120 channel rows: V0 keeps its 60, V1 its first 10
+    QFile table(QDir(db).filePath("Canaux.dbf"));
+    ASSERT_TRUE(table.open(QIODevice::ReadOnly));
+    const QByteArray whole = table.readAll();
+    table.close();
+    const int header = qFromLittleEndian<quint16>(whole.constData() + 8);
+    const int record = qFromLittleEndian<quint16>(whole.constData() + 10);
+    const QByteArray cut = whole.left(header + 70 * record + 3);
+    ASSERT_TRUE(table.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    table.write(cut);
+    table.close();
+
+    const QString notice = messageText(
+        Msg::RecordsDamaged,
+        {messageText(Msg::RecordsTruncated, {QStringLiteral("Canaux.dbf"), "70", "120"})});
+    const QString refusal = messageText(Msg::RecordsDamagedRefused, {QStringLiteral("Canaux.dbf")});
+    const InProcess list = records({"list"});
+    EXPECT_EQ(list.code, kExitOk);
+    EXPECT_EQ(list.out, "V0\t\t19\nV1\t\t19\n");
+    EXPECT_EQ(list.err, notice + '\n');
+
+    const InProcess load = records({"load", "V1", "-o", dir.filePath(QStringLiteral("back.json"))});
+    EXPECT_EQ(load.code, kExitOk);
+    QStringList lost;
+    for (int c = 11; c <= 60; ++c)
+        lost.append(QString::number(c));
+    EXPECT_EQ(load.err, notice + '\n' +
+                            messageText(Msg::SavedChannelsMissing,
+                                        {QStringLiteral("V1"), lost.join(QStringLiteral(", "))}) +
+                            '\n');
+
+    for (const QStringList &write :
+         {QStringList{"save", file, "--ident", "V2"}, QStringList{"delete", "V0"}}) {
+        const InProcess refused = records(write);
+        EXPECT_EQ(refused.code, kExitFailed);
+        EXPECT_EQ(refused.err, notice + '\n' + refusal + '\n');
+    }
+    EXPECT_EQ(records({"values", "save", "Euro", file}).code, kExitOk); // another table
+
+    EXPECT_EQ(records({"repair", "Nonsense"}).code, kExitUsage);
+    const InProcess repair = records({"repair"});
+    EXPECT_EQ(repair.code, kExitOk) << repair.out.toStdString();
+    const QStringList lines = repair.out.split('\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 5);
+    EXPECT_TRUE(lines.at(1).startsWith(
+        QStringLiteral("Canaux.dbf repaired: 70 records kept, 50 could not be read")))
+        << lines.at(1).toStdString();
+    EXPECT_EQ(lines.at(0), messageText(Msg::RepairSound, {QStringLiteral("Monnayeur.DBF")}));
+    const QStringList backups = QDir(QDir(db).filePath(QStringLiteral("backups")))
+                                    .entryList({QStringLiteral("damaged-*")}, QDir::Dirs);
+    ASSERT_EQ(backups.size(), 1);
+    QFile copy(QDir(db).filePath(QStringLiteral("backups/") + backups.first() + "/Canaux.dbf"));
+    ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+    EXPECT_EQ(copy.readAll(), cut);
+
+    const InProcess after = records({"list"});
+    EXPECT_EQ(after.err, QString());
+    EXPECT_EQ(records({"delete", "V1"}).code, kExitOk);
+    const InProcess one = records({"repair", "canaux"});
+    EXPECT_EQ(one.code, kExitOk);
+    EXPECT_EQ(one.out, messageText(Msg::RepairSound, {QStringLiteral("Canaux.dbf")}) + '\n');
 }
 
 class Families : public Cli, public ::testing::WithParamInterface<const char *>

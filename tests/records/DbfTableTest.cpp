@@ -1,6 +1,7 @@
 #include "DbfTable.h"
 #include "IndexChecker.h"
 #include "Messages.h"
+#include "TableRepair.h"
 #include "TableSchema.h"
 
 #include <QDir>
@@ -272,6 +273,26 @@ TEST_F(DbfTableTest, Level7TableReadAndWrittenBack)
     EXPECT_TRUE(checkIndex(path(QStringLiteral("LEVEL7.DBF")), path(QStringLiteral("LEVEL7.MDX")),
                            {{QStringLiteral("NAME"), false}})
                     .isEmpty());
+
+    // Cut inside its last row, it is repaired with its two whole rows and its header as it was
+    // (driver name, descriptor bytes, properties) but for the date and the count.
+    writeAll(path(QStringLiteral("LEVEL7.DBF")), written.left(headerLength + 2 * recordLength + 7));
+    TableRepair repair(dir.path());
+    const TableRepair::Result r = repair.repairFile(path(QStringLiteral("LEVEL7.DBF")), nullptr);
+    EXPECT_EQ(r.state, TableRepair::State::Repaired) << r.text().toStdString();
+    EXPECT_EQ(r.kept, 2);
+    EXPECT_EQ(r.unreadable, 1);
+    const QByteArray repaired = readAll(path(QStringLiteral("LEVEL7.DBF")));
+    ASSERT_EQ(repaired.size(), headerLength + 2 * recordLength + 1);
+    for (int i = 0; i < repaired.size() - 1; ++i) {
+        if (i < 1 || i > 7) {
+            ASSERT_EQ(repaired.at(i), written.at(i)) << "byte " << i;
+        }
+    }
+    EXPECT_EQ(qFromLittleEndian<quint32>(repaired.constData() + 4), 2u);
+    EXPECT_TRUE(checkIndex(path(QStringLiteral("LEVEL7.DBF")), path(QStringLiteral("LEVEL7.MDX")),
+                           {{QStringLiteral("NAME"), false}})
+                    .isEmpty());
 }
 
 // A level-4 table from another engine keeps its header bytes (language driver, reserved
@@ -306,8 +327,9 @@ TEST_F(DbfTableTest, KeepsForeignHeaderBytes)
     EXPECT_TRUE(check(s).isEmpty());
 }
 
-// Bad tables are refused with a message naming the file and the fault, and left untouched.
-TEST_F(DbfTableTest, BadTablesAreRefusedUntouched)
+// Tables of which nothing can be read are refused with a message naming the file and the
+// fault, and left untouched (damaged tables that can be read in part: DamagedTablesTest).
+TEST_F(DbfTableTest, UnreadableTablesAreRefusedUntouched)
 {
     const TableSchema &s = TableSchema::channel();
     DbfTable made;
@@ -326,28 +348,20 @@ TEST_F(DbfTableTest, BadTablesAreRefusedUntouched)
         Msg expected;
     };
     const Case cases[] = {
-        {"truncated", [](QByteArray b) { return b.left(b.size() - 50); }, &s,
-         Msg::RecordsTruncated},
-        {"record length",
-         [](QByteArray b) {
-             b[10] = char(b[10] + 1);
-             return b;
-         },
-         &s, Msg::RecordsBadHeader},
-        {"header length",
-         [](QByteArray b) {
-             b[8] = 40;
-             b[9] = 0;
-             return b;
-         },
-         &s, Msg::RecordsBadHeader},
         {"not dbase",
          [](QByteArray b) {
              b[0] = 0x30;
              return b;
          },
          &s, Msg::RecordsNotDbase},
-        {"tiny", [](QByteArray b) { return b.left(5); }, &s, Msg::RecordsBadHeader},
+        // without the fields it is known to have, a table needs a whole descriptor list
+        {"tiny", [](QByteArray b) { return b.left(5); }, nullptr, Msg::RecordsHeaderTruncated},
+        {"bad field",
+         [](QByteArray b) {
+             b[32 + 11] = 0x01;
+             return b;
+         },
+         nullptr, Msg::RecordsBadField},
         {"missing field", [](QByteArray) { return QByteArray(); }, &TableSchema::gettoniere(),
          Msg::RecordsFieldMissing},
     };

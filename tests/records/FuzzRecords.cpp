@@ -1,11 +1,14 @@
 // libFuzzer target for the table and index readers. An input is
 //   [schema selector][table length, 2 bytes little-endian][table bytes][index bytes]
-// and goes through the same reading and index checking as a table opened from disk.
+// and goes through the same reading and index checking as a table opened from disk. A damaged
+// table is also rewritten as its repair writes it, and the result must open clean.
 // With TARVIK_FUZZ_WRITE_SEEDS=<dir> set, the target writes a seed corpus there and exits.
+#include "DbfLayout.h"
 #include "DbfTable.h"
 #include "MdxIndex.h"
 #include "TableSchema.h"
 
+#include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -62,6 +65,29 @@ void writeSeeds(const QString &out)
     }
 }
 
+// The repair's rewriting of a damaged table: the table it writes opens clean, with exactly
+// the rows that could be read, field by field, and needs no second repair.
+void checkRepair(const DbfTable &damaged, const QByteArray &table, const TableSchema *schema)
+{
+    const DbfLayout layout = DbfLayout::read(table, QStringLiteral("fuzz.dbf"), schema);
+    const QByteArray repaired = layout.rebuilt(table, QDate(2024, 2, 29));
+    DbfTable t;
+    if (!t.openBytes(repaired, {}, schema) || t.isDamaged() ||
+        t.recordCount() != damaged.recordCount() || t.fieldCount() != damaged.fieldCount() ||
+        DbfLayout::read(repaired, QStringLiteral("fuzz.dbf"), schema).state !=
+            DbfLayout::State::Sound)
+        std::abort();
+    for (int r = 0; r < t.recordCount(); ++r) {
+        if (t.isDeleted(r) != damaged.isDeleted(r))
+            std::abort();
+        for (int f = 0; f < t.fieldCount(); ++f) {
+            if (t.rawField(r, f) != damaged.rawField(r, f) ||
+                t.field(f).name != damaged.field(f).name)
+                std::abort();
+        }
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
@@ -85,8 +111,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray index(reinterpret_cast<const char *>(data) + 3 + tableLength,
                            qsizetype(size - 3 - tableLength));
 
+    const TableSchema *schema = selector ? schemas.at(selector - 1) : nullptr;
     DbfTable t;
-    if (t.openBytes(table, index, selector ? schemas.at(selector - 1) : nullptr)) {
+    if (t.openBytes(table, index, schema)) {
         for (int r = 0; r < std::min(t.recordCount(), 64); ++r) {
             for (int f = 0; f < t.fieldCount(); ++f) {
                 (void)t.value(r, f);
@@ -95,6 +122,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         }
         (void)t.locate(t.field(0).name, QStringLiteral("KEY É 1"));
     }
+    if (t.isOpen() && t.isDamaged())
+        checkRepair(t, table, schema);
 
     MdxIndex mdx;
     MdxProblem problem;

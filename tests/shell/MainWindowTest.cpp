@@ -32,6 +32,7 @@ struct Start
     RecordingSounds sounds;
     RecordingPrompt prompt;
     int editorsShown = 0;
+    int repairsShown = 0;
     QString lastFamily;
     std::weak_ptr<void> dataModule;
     std::unique_ptr<TFormMain> window;
@@ -57,6 +58,10 @@ struct Start
             editor.model().flags().readOnOpen = true;
             editor.model().FormActivate();
             lastFamily = editor.findChild<QLabel *>(QStringLiteral("LVERSIONH"))->text();
+        };
+        context.repairTables = [this](QWidget *main) {
+            QCOMPARE(main, window.get());
+            ++repairsShown;
         };
         window = std::make_unique<TFormMain>(context);
     }
@@ -114,6 +119,19 @@ private Q_SLOTS:
                     ->text()
                     .endsWith(QStringLiteral(TARVIK_VERSION)));
         QVERIFY(start.sounds.played.isEmpty()); // sound is off by default
+    }
+
+    void repairTablesOpensFromTheParametersMenu()
+    {
+        VirtualValidator device(0x13, 4711);
+        SimulatedLinkSource source(&device);
+        Start start(source);
+        QVERIFY(start.window->FormCreate());
+        QAction *repair = start.action("Repairtables1");
+        QVERIFY(repair && repair->isEnabled());
+        QCOMPARE(repair->text(), QStringLiteral("Repair tables..."));
+        repair->trigger();
+        QCOMPARE(start.repairsShown, 1);
     }
 
     void captionNamesTheProbedPort()

@@ -1,18 +1,24 @@
 // The channel copy dialog and the saved validators browser, driven by their widgets' names.
+#include "DbfTable.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
+#include "Messages.h"
 #include "RecordingPrompt.h"
 #include "SavedValidatorsModel.h"
 #include "TDBModule.h"
 #include "TFormReadFileData.h"
+#include "TFormRepair.h"
 #include "TFormTransfert.h"
 #include "TFormValue.h"
+#include "TableRepairModel.h"
 #include "ValueTableModel.h"
 #include "VirtualValidator.h"
 
 #include <QCheckBox>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableWidget>
@@ -94,6 +100,61 @@ private Q_SLOTS:
         cleared.fill(255);
         QCOMPARE(editorBlock, cleared);
         QVERIFY(modified);
+    }
+
+    // The damaged table is said once, when the tables open; the browser then says nothing more,
+    // refuses the delete before asking, and "Repair tables" mends the table with the module's
+    // tables closed around it.
+    void theRepairWindowMendsACutTableSaidOnce()
+    {
+        QTemporaryDir root;
+        const QString dir = QDir(root.path()).filePath(QStringLiteral("TarvikDB"));
+        RecordingPrompt prompt(UserPrompt::Answer::Yes);
+        TDBModule db;
+        QVERIFY(db.open(dir));
+        ValidatorStore store(db, prompt);
+        QCOMPARE(store.store(VirtualValidator::factoryImage(0x13, 1001), QStringLiteral("SHOP-12"),
+                             QStringLiteral("corner")),
+                 ValidatorStore::Outcome::Stored);
+        const QString channels = db.Channel()->filePath();
+        db.close();
+        QFile file(channels);
+        QVERIFY(file.resize(file.size() - 200)); // the last two rows, one of them in part
+
+        prompt.clear();
+        QVERIFY(db.open(dir, &prompt));
+        QCOMPARE(prompt.told().size(), 1);
+        QVERIFY(prompt.told().first().contains(QStringLiteral("Canaux.dbf")));
+        DefaultEditorServices services;
+        EditorModel editor(&prompt, &services);
+        editor.loadImage(ConfigImage::blank(), false);
+        {
+            SavedValidatorsModel model(db, prompt, &editor);
+            TFormReadFileData browser(model);
+            QTest::mouseClick(browser.findChild<QPushButton *>(QStringLiteral("BtnDelete")),
+                              Qt::LeftButton);
+        }
+        QCOMPARE(prompt.told().size(), 2);
+        QCOMPARE(prompt.told().last(),
+                 messageText(Msg::RecordsDamagedRefused, {QStringLiteral("Canaux.dbf")}));
+        QVERIFY(prompt.asked().isEmpty());
+
+        TableRepairModel model(dir, &db);
+        TFormRepair form(model);
+        auto *report = form.findChild<QListWidget *>(QStringLiteral("ListReport"));
+        auto *repair = form.findChild<QPushButton *>(QStringLiteral("BtnRepair"));
+        QCOMPARE(report->count(), 5);
+        QVERIFY(!report->accessibleName().isEmpty());
+        QCOMPARE(report->item(1)->text(),
+                 messageText(Msg::RecordsTruncated, {QStringLiteral("Canaux.dbf"), "58", "60"}));
+        QVERIFY(repair->isEnabled());
+        QTest::mouseClick(repair, Qt::LeftButton);
+        QVERIFY(report->item(1)->text().startsWith(
+            QStringLiteral("Canaux.dbf repaired: 58 records kept, 2 could not be read")));
+        QVERIFY(!repair->isEnabled());
+        QCOMPARE(prompt.told().size(), 2);
+        QVERIFY(db.Channel()->isOpen() && !db.Channel()->isReadOnly());
+        QCOMPARE(db.Channel()->recordCount(), 58);
     }
 };
 
