@@ -1,8 +1,10 @@
 // The channel copy dialog and the saved validators browser, driven by their widgets' names.
 #include "EditorModel.h"
 #include "EditorServices.h"
+#include "GuiEditorServices.h"
 #include "RecordingPrompt.h"
 #include "SavedValidatorsModel.h"
+#include "Settings.h"
 #include "TDBModule.h"
 #include "TFormReadFileData.h"
 #include "TFormTransfert.h"
@@ -10,10 +12,12 @@
 #include "ValueTableModel.h"
 #include "VirtualValidator.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -94,6 +98,28 @@ private Q_SLOTS:
         cleared.fill(255);
         QCOMPARE(editorBlock, cleared);
         QVERIFY(modified);
+    }
+
+    // The editor's button opens the form with "Direct write" as the main window left it.
+    void theValueTableFormFollowsDirectWrite()
+    {
+        QTemporaryDir settingsDir;
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settingsDir.path());
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+        Settings().setDirectWrite(true);
+        RecordingPrompt prompt;
+        GuiEditorServices services(prompt, nullptr);
+        EditorModel editor(&prompt, &services);
+        editor.loadImage(VirtualValidator::factoryImage(0x13, 1001), false);
+        bool shown = false;
+        QTimer::singleShot(0, this, [&] {
+            auto *form = qobject_cast<TFormValue *>(QApplication::activeModalWidget());
+            QVERIFY(form);
+            shown = !form->findChild<QPushButton *>(QStringLiteral("BitBtn4"))->isHidden();
+            form->reject();
+        });
+        services.editValueTable(editor);
+        QVERIFY(shown);
     }
 };
 
