@@ -53,6 +53,8 @@ std::unique_ptr<Transport> CliContext::openTransport(int &comPortNumber)
         auto serial = std::make_unique<SerialTransport>();
         if (!serial->open(m_options.device)) {
             m_err << m_options.device << ": " << serial->errorString() << Qt::endl;
+            if (serial->permissionDenied())
+                m_prompt.tell(messageText(Msg::PortPermissionDenied), UserPrompt::Kind::Error);
             return nullptr;
         }
         return serial;
@@ -74,9 +76,12 @@ std::unique_ptr<Transport> CliContext::openTransport(int &comPortNumber)
         comPortNumber = probe.comPortNumber;
     }
     auto transport = opener.ComInit(comPortNumber);
-    if (!transport)
+    if (!transport) {
         m_prompt.tell(messageText(Msg::PortNotFree, {QString::number(comPortNumber)}),
                       UserPrompt::Kind::Error);
+        if (opener.lastOpenDenied())
+            m_prompt.tell(messageText(Msg::PortPermissionDenied), UserPrompt::Kind::Error);
+    }
     return transport;
 }
 

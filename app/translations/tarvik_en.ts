@@ -539,6 +539,22 @@
         <source>Values Table</source>
         <translation>Values Table</translation>
     </message>
+    <message>
+        <source>Tarvik help</source>
+        <translation>Tarvik help</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Contents</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Previous</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Next</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -557,6 +573,10 @@
     <message>
         <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>Communication port COM%d is not free or its settings are wrong.</translation>
+    </message>
+    <message>
+        <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
+        <translation>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</translation>
     </message>
     <message>
         <source>Select port !!!</source>
@@ -757,6 +777,10 @@
     <message>
         <source>Please connect the mini-programer.</source>
         <translation>Please connect the mini-programmer.</translation>
+    </message>
+    <message>
+        <source>The user guide %s is not installed.</source>
+        <translation>The user guide %s is not installed.</translation>
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>

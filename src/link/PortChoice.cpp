@@ -24,12 +24,15 @@ bool SerialPortOpener::PortComFree(int n)
 
 std::unique_ptr<Transport> SerialPortOpener::ComInit(int n)
 {
+    m_denied = false;
     const QString port = systemPort(n);
     if (port.isEmpty())
         return nullptr;
     auto transport = std::make_unique<SerialTransport>();
-    if (!transport->open(port))
+    if (!transport->open(port)) {
+        m_denied = transport->permissionDenied();
         return nullptr;
+    }
     return transport;
 }
 
@@ -94,9 +97,12 @@ std::optional<OpenedLink> OpenValidatorLink(PortOpener &opener, const QStringLis
     link.comPortNumber = port;
     link.transport = opener.ComInit(port);
     if (!link.transport) {
-        if (prompt)
+        if (prompt) {
             prompt->tell(messageText(Msg::PortNotFree, {QString::number(port)}),
                          UserPrompt::Kind::Error);
+            if (opener.lastOpenDenied())
+                prompt->tell(messageText(Msg::PortPermissionDenied), UserPrompt::Kind::Information);
+        }
         return std::nullopt;
     }
     return link;

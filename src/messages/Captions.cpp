@@ -147,6 +147,10 @@ constexpr Entry kTable[] = {
     {Cap::Delete, QT_TRANSLATE_NOOP("Captions", "&Delete")},
     {Cap::CloseButton, QT_TRANSLATE_NOOP("Captions", "&Close")},
     {Cap::ValuesTable, QT_TRANSLATE_NOOP("Captions", "Values Table")},
+    {Cap::HelpTitle, QT_TRANSLATE_NOOP("Captions", "Tarvik help")},
+    {Cap::HelpContents, QT_TRANSLATE_NOOP("Captions", "&Contents")},
+    {Cap::HelpPrevious, QT_TRANSLATE_NOOP("Captions", "&Previous")},
+    {Cap::HelpNext, QT_TRANSLATE_NOOP("Captions", "&Next")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

@@ -149,6 +149,11 @@ enum class Cap
     Delete,
     CloseButton,
     ValuesTable,
+    // help
+    HelpTitle,
+    HelpContents,
+    HelpPrevious,
+    HelpNext,
     Count_
 };
 
