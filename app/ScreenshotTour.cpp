@@ -60,20 +60,16 @@ std::function<bool(QWidget *)> afterCoins(VirtualValidator *device, CoinKind kin
 
 } // namespace
 
-ScreenshotTour::ScreenshotTour(QString directory, TFormMain *mainWindow, QWidget *panel,
-                               VirtualValidator *device, UserPrompt *prompt)
-    : m_directory(std::move(directory)), m_main(mainWindow), m_panel(panel), m_device(device),
-      m_prompt(prompt)
+ScreenshotTour::ScreenshotTour(QString directory, TFormMain *mainWindow, VirtualValidator *device,
+                               UserPrompt *prompt)
+    : m_directory(std::move(directory)), m_main(mainWindow), m_device(device), m_prompt(prompt),
+      m_firmwareFile(m_scratch.filePath(QStringLiteral("new.s19")))
 {
     m_poll.setInterval(kPollMs);
     connect(&m_poll, &QTimer::timeout, this, &ScreenshotTour::poll);
 }
 
-ScreenshotTour::~ScreenshotTour()
-{
-    if (!m_firmwareFile.isEmpty())
-        QFile::remove(m_firmwareFile);
-}
+ScreenshotTour::~ScreenshotTour() = default;
 
 void ScreenshotTour::prepareValidator(VirtualValidator &device)
 {
@@ -86,7 +82,6 @@ void ScreenshotTour::start(TFormData &editor)
 {
     m_editor = &editor;
     QDir().mkpath(m_directory);
-    m_firmwareFile = QDir(m_directory).filePath(QStringLiteral(".firmware.s19"));
     QFile firmware(m_firmwareFile);
     if (firmware.open(QIODevice::WriteOnly))
         firmware.write(kFirmware);
@@ -280,10 +275,13 @@ void ScreenshotTour::poll()
 void ScreenshotTour::picture(QWidget *window)
 {
     const QString file = QDir(m_directory).filePath(m_steps.at(m_index).picture + ".png");
+    // An open menu of the window shows over it.
     QList<QWidget *> popups;
-    if (auto *menu = window->findChild<QMenu *>(QStringLiteral("Parametres1"));
-        menu && menu->isVisible())
-        popups.append(menu);
+    const QList<QMenu *> menus = window->findChildren<QMenu *>();
+    for (QMenu *menu : menus) {
+        if (menu->isVisible())
+            popups.append(menu);
+    }
     if (!saveWindowPicture(window, popups, file)) {
         std::fprintf(stderr, "tarvik: screenshots: cannot write %s\n", qPrintable(file));
         m_missing.append(m_steps.at(m_index).picture);
@@ -297,8 +295,6 @@ void ScreenshotTour::finish()
 {
     m_finished = true;
     m_poll.stop();
-    if (!m_firmwareFile.isEmpty())
-        QFile::remove(m_firmwareFile);
     // A window left over by a step that failed must not hold the editor open.
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <functional>
 
@@ -22,8 +23,8 @@ class ScreenshotTour final : public QObject
 {
     Q_OBJECT
 public:
-    ScreenshotTour(QString directory, TFormMain *mainWindow, QWidget *panel,
-                   VirtualValidator *device, UserPrompt *prompt);
+    ScreenshotTour(QString directory, TFormMain *mainWindow, VirtualValidator *device,
+                   UserPrompt *prompt);
     ~ScreenshotTour() override;
     Q_DISABLE_COPY_MOVE(ScreenshotTour)
 
@@ -70,10 +71,10 @@ private:
 
     QString m_directory;
     TFormMain *m_main;
-    QPointer<QWidget> m_panel;
     VirtualValidator *m_device;
     UserPrompt *m_prompt;
     QPointer<TFormData> m_editor;
+    QTemporaryDir m_scratch; // the firmware file the firmware window streams
     QString m_firmwareFile;
     QList<Step> m_steps;
     qsizetype m_index = -1;

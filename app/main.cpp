@@ -122,8 +122,7 @@ int main(int argc, char *argv[])
 
     TFormMain window(context);
     if (!options.screenshots.isEmpty())
-        tour = std::make_unique<ScreenshotTour>(options.screenshots, &window, panel.get(), &device,
-                                                &prompt);
+        tour = std::make_unique<ScreenshotTour>(options.screenshots, &window, &device, &prompt);
     // F1 opens the guide at the section of the window it is pressed in.
     HelpKey help(&languages);
     app.installEventFilter(&help);
