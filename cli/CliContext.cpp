@@ -71,6 +71,8 @@ std::unique_ptr<Transport> CliContext::openTransport(int &comPortNumber)
             m_err << "No validator answered on COM1 to COM9; name the port with --port or "
                      "--device."
                   << Qt::endl;
+            if (probe.denied)
+                m_prompt.tell(messageText(Msg::PortPermissionDenied), UserPrompt::Kind::Error);
             return nullptr;
         }
         comPortNumber = probe.comPortNumber;

@@ -17,7 +17,7 @@ public:
     virtual bool PortComFree(int n) = 0;
     // ComInit: opens COMn at 9600 8N1; nullptr when it cannot (the handle -1).
     virtual std::unique_ptr<Transport> ComInit(int n) = 0;
-    // The last ComInit failed because the system refused this user the port.
+    // The last PortComFree or ComInit failed because the system refused this user the port.
     virtual bool lastOpenDenied() const { return false; }
 };
 
@@ -53,6 +53,7 @@ struct ProbeResult
     bool answered = false;
     int comPortNumber = 0; // the port that answered, or the last one tried
     QStringList items;     // "Com1", "Com2", ... for every free port tried
+    bool denied = false;   // the system refused this user one of the ports
 };
 
 // Probes COM1 to COM9 with the connect command, stopping at the first port that answers.
@@ -70,6 +71,7 @@ struct OpenedLink
 
 // Probe, then command line, then dialog; opens the chosen port. Nothing on Exit in the dialog
 // or when the port cannot be opened ("Comunication Port COM%d isn't free or Setting error.",
-// followed by how to get the right to it when the system refused it).
+// followed by how to get the right to it when the system refused it). Before the dialog, whose
+// list leaves out the ports the system refused, the same hint is given when there were any.
 std::optional<OpenedLink> OpenValidatorLink(PortOpener &opener, const QStringList &arguments,
                                             PortDialog *dialog, UserPrompt *prompt);
