@@ -2,7 +2,10 @@
 
 #include "EditorModel.h"
 #include "FileDialog.h"
+#include "HelpTopics.h"
+#include "HelpWindow.h"
 #include "Messages.h"
+#include "ResourceFiles.h"
 #include "Screenshot.h"
 #include "TCommunication.h"
 #include "TConnectForm.h"
@@ -206,6 +209,18 @@ void ScreenshotTour::buildSteps()
              return ok && ok->isVisible();
          },
          [this](QWidget *) { click(QStringLiteral("TMajFirmware"), QStringLiteral("BitBtn1")); }},
+        // F1 in the learning window opens the guide there.
+        {QStringLiteral("help-window"),
+         QStringLiteral("HelpWindow"),
+         [this] {
+             auto *help = new HelpWindow(m_editor);
+             help->setAttribute(Qt::WA_DeleteOnClose);
+             help->showSection(HelpTopics::guideFile(ResourceFiles::helpDirectory(), {}),
+                               HelpTopics::sectionFor({QStringLiteral("TFormProgCoin")}));
+             help->show();
+         },
+         {},
+         [](QWidget *window) { window->close(); }},
         {QStringLiteral("mini-programmer"),
          QStringLiteral("TConnectForm"),
          [this] { (new TConnectForm(m_editor))->show(); },
