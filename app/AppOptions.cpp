@@ -19,10 +19,14 @@ AppOptions AppOptions::parse(const QStringList &arguments)
             options.reportStartup = true;
         else if (argument == u"--screenshot")
             nextValue(options.screenshot);
+        else if (argument == u"--screenshots")
+            nextValue(options.screenshots);
         else if (argument == u"--device")
             nextValue(options.device);
         else if (argument == u"--help" || argument == u"-h")
-            options.error = usage();
+            options.help = true;
+        else if (argument == u"--version")
+            options.version = true;
         else if (argument.startsWith(u"--"))
             options.error = QStringLiteral("unknown option %1\n").arg(argument) + usage();
         else
@@ -33,7 +37,7 @@ AppOptions AppOptions::parse(const QStringList &arguments)
 
 bool AppOptions::useVirtualValidator() const
 {
-    if (simulate || !screenshot.isEmpty())
+    if (simulate || !screenshot.isEmpty() || !screenshots.isEmpty())
         return true;
     // An unattended start without a port never probes: it would wait on the port dialog.
     const bool portNamed =
@@ -46,10 +50,22 @@ QString AppOptions::usage()
 {
     return QStringLiteral(
         "usage: tarvik [COMn] [--device PATH] [--simulate] [--smoke] [--screenshot FILE]\n"
+        "              [--screenshots DIR] [--help] [--version]\n"
         "  COMn             the port to use when no validator answers the probe\n"
         "  --device PATH    a system serial port standing as COM1\n"
         "  --simulate       the in-process virtual validator, with its bench panel\n"
-        "  --smoke          start, show the main window and end at once\n"
+        "  --smoke          start, show the main window, check the data files and end at once\n"
         "  --screenshot F   run against the virtual validator and save the windows as F\n"
-        "  --report-startup say on stdout when the main window shows with the link open\n");
+        "  --screenshots D  open every window against the virtual validator and save a\n"
+        "                   picture of each in D (NAME.png); ends with 1 if one cannot be\n"
+        "                   pictured\n"
+        "  --report-startup say on stdout when the main window shows with the link open\n"
+        "  --help           print this and end\n"
+        "  --version        print the version and end\n"
+        "F1 in any window opens the user guide at that window's section.\n");
+}
+
+QString AppOptions::versionText()
+{
+    return QStringLiteral("tarvik " TARVIK_VERSION "\n");
 }

@@ -9,14 +9,18 @@ struct AppOptions
     bool simulate = false;      // --simulate: the in-process virtual validator, with its panel
     bool smoke = false;         // --smoke: start, show the main window, close at once
     bool reportStartup = false; // --report-startup: say on stdout when the link is open
+    bool help = false;          // --help: print the usage and end
+    bool version = false;       // --version: print the version and end
     QString screenshot;         // --screenshot FILE: grab the windows into FILE and end
+    QString screenshots;        // --screenshots DIR: picture every window into DIR and end
     QString device;             // --device PATH: this system port stands as COM1
     QStringList portArguments;  // the other arguments; one may name the port (COM4)
     QString error;              // not empty: bad usage
 
     static AppOptions parse(const QStringList &arguments);
     static QString usage();
+    static QString versionText();
     // No one at the screen: messages go to the error stream and nothing waits for a click.
-    bool unattended() const { return smoke || !screenshot.isEmpty(); }
+    bool unattended() const { return smoke || !screenshot.isEmpty() || !screenshots.isEmpty(); }
     bool useVirtualValidator() const;
 };

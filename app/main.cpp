@@ -3,9 +3,11 @@
 #include "DataDirectory.h"
 #include "DevicePortOpener.h"
 #include "EffectSoundPlayer.h"
+#include "HelpKey.h"
 #include "Languages.h"
 #include "MessageBoxPrompt.h"
 #include "Screenshot.h"
+#include "ScreenshotTour.h"
 #include "Settings.h"
 #include "SimulatorPanel.h"
 #include "TCommunication.h"
@@ -14,9 +16,11 @@
 #include "TFormMain.h"
 #include "TFormRepair.h"
 #include "TableRepairModel.h"
+#include "UnattendedRuns.h"
 #include "VirtualValidator.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <cstdio>
 
@@ -36,6 +40,19 @@ void closeUnattended(TFormData &editor, QWidget *mainWindow, QWidget *panel,
 
 int main(int argc, char *argv[])
 {
+    // --help and --version answer before any display is opened.
+    {
+        QStringList arguments;
+        for (int i = 0; i < argc; ++i)
+            arguments.append(QString::fromLocal8Bit(argv[i]));
+        const AppOptions early = AppOptions::parse(arguments);
+        if (early.help || early.version) {
+            std::fputs(qPrintable(early.help ? AppOptions::usage() : AppOptions::versionText()),
+                       stdout);
+            return 0;
+        }
+    }
+
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Brunfeld"));
     QApplication::setApplicationName(QStringLiteral("Tarvik"));
@@ -51,12 +68,18 @@ int main(int argc, char *argv[])
     ConsolePrompt console;
     if (options.unattended())
         MessageBoxPrompt::divertTo(&console);
+    // The pictures of the guide come from settings and tables of their own.
+    QTemporaryDir scratch;
+    if (!options.screenshots.isEmpty())
+        UnattendedRuns::useScratchSettings(scratch.path());
 
     Settings settings;
     LanguageSwitcher languages;
     EffectSoundPlayer sounds;
 
     VirtualValidator device;
+    if (!options.screenshots.isEmpty())
+        ScreenshotTour::prepareValidator(device);
     SimulatedLinkSource simulated(&device);
     SerialPortOpener serialPorts;
     DevicePortOpener devicePort(options.device);
@@ -93,9 +116,12 @@ int main(int argc, char *argv[])
     };
     context.linkSource =
         options.useVirtualValidator() ? static_cast<LinkSource *>(&simulated) : &probing;
+    std::unique_ptr<ScreenshotTour> tour;
     context.showEditor = [&](ValidatorLink &link, QWidget *mainWindow) {
         std::function<void(TFormData &)> afterOpeningRead;
-        if (options.unattended()) {
+        if (tour) {
+            afterOpeningRead = [&](TFormData &editor) { tour->start(editor); };
+        } else if (options.unattended()) {
             afterOpeningRead = [&](TFormData &editor) {
                 closeUnattended(editor, mainWindow, panel.get(), options.screenshot);
             };
@@ -104,6 +130,11 @@ int main(int argc, char *argv[])
     };
 
     TFormMain window(context);
+    if (!options.screenshots.isEmpty())
+        tour = std::make_unique<ScreenshotTour>(options.screenshots, &window, &device, &prompt);
+    // F1 opens the guide at the section of the window it is pressed in.
+    HelpKey help(&languages);
+    app.installEventFilter(&help);
     QObject::connect(&window, &TFormMain::formClosed, &app, &QCoreApplication::quit,
                      Qt::QueuedConnection);
     // The bench panel sits beside the main window once it shows.
@@ -125,8 +156,17 @@ int main(int argc, char *argv[])
 
     if (!window.FormCreate())
         return 1;
+    if (options.smoke && !UnattendedRuns::checkDataFiles(languages, settings))
+        return 1;
     if (options.unattended()) {
         QTimer::singleShot(0, &window, &QWidget::close);
     }
-    return app.exec();
+    const int code = app.exec();
+    if (tour && tour->failed()) {
+        std::fprintf(stderr, "tarvik: screenshots: not every window could be pictured%s%s\n",
+                     tour->missing().isEmpty() ? "" : ": ",
+                     qPrintable(tour->missing().join(QStringLiteral(", "))));
+        return 1;
+    }
+    return code;
 }

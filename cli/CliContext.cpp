@@ -53,6 +53,8 @@ std::unique_ptr<Transport> CliContext::openTransport(int &comPortNumber)
         auto serial = std::make_unique<SerialTransport>();
         if (!serial->open(m_options.device)) {
             m_err << m_options.device << ": " << serial->errorString() << Qt::endl;
+            if (serial->permissionDenied())
+                m_prompt.tell(messageText(Msg::PortPermissionDenied), UserPrompt::Kind::Error);
             return nullptr;
         }
         return serial;
@@ -69,14 +71,19 @@ std::unique_ptr<Transport> CliContext::openTransport(int &comPortNumber)
             m_err << "No validator answered on COM1 to COM9; name the port with --port or "
                      "--device."
                   << Qt::endl;
+            if (probe.denied)
+                m_prompt.tell(messageText(Msg::PortPermissionDenied), UserPrompt::Kind::Error);
             return nullptr;
         }
         comPortNumber = probe.comPortNumber;
     }
     auto transport = opener.ComInit(comPortNumber);
-    if (!transport)
+    if (!transport) {
         m_prompt.tell(messageText(Msg::PortNotFree, {QString::number(comPortNumber)}),
                       UserPrompt::Kind::Error);
+        if (opener.lastOpenDenied())
+            m_prompt.tell(messageText(Msg::PortPermissionDenied), UserPrompt::Kind::Error);
+    }
     return transport;
 }
 

@@ -60,7 +60,8 @@ QString cliUsage(const CliCommandTable &table)
 {
     QString text = QStringLiteral(
         "usage: tarvik-cli [--device PATH | --port COMn | --simulate [--sim-family BYTE]]\n"
-        "                  [--data-dir DIR] [--trace FILE] COMMAND [ARGS]\n\ncommands:\n");
+        "                  [--data-dir DIR] [--trace FILE] COMMAND [ARGS]\n"
+        "       tarvik-cli --help | --version\n\ncommands:\n");
     for (auto it = table.cbegin(); it != table.cend(); ++it)
         text += QStringLiteral("  %1\n      %2\n").arg(it->usage, it->help);
     text += QStringLiteral("\nexit codes: 0 success, 1 the operation failed, 2 bad usage\n");
@@ -82,6 +83,10 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {
         out << cliUsage(table);
+        return kExitOk;
+    }
+    if (args.contains(QLatin1String("--version"))) {
+        out << "tarvik-cli " << TARVIK_VERSION << Qt::endl;
         return kExitOk;
     }
     GlobalOptions options;

@@ -554,6 +554,20 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Reparieren</translation>
+        <source>Tarvik help</source>
+        <translation>Tarvik-Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
     </message>
 </context>
 <context>
@@ -573,6 +587,10 @@
     <message>
         <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>Der Kommunikationsanschluss COM%d ist nicht frei oder falsch eingestellt.</translation>
+    </message>
+    <message>
+        <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
+        <translation>Dieser Benutzer darf die serielle Schnittstelle nicht öffnen. Fügen Sie den Benutzer der Gruppe dialout hinzu (sudo usermod -aG dialout $USER), melden Sie sich dann ab und wieder an.</translation>
     </message>
     <message>
         <source>Select port !!!</source>
@@ -773,6 +791,10 @@
     <message>
         <source>Please connect the mini-programer.</source>
         <translation>Bitte den Mini-Programmer anschließen.</translation>
+    </message>
+    <message>
+        <source>The user guide %s is not installed.</source>
+        <translation>Das Benutzerhandbuch %s ist nicht installiert.</translation>
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>

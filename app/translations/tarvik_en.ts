@@ -554,6 +554,20 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Repair</translation>
+        <source>Tarvik help</source>
+        <translation>Tarvik help</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Contents</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Previous</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Next</translation>
     </message>
 </context>
 <context>
@@ -573,6 +587,10 @@
     <message>
         <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>Communication port COM%d is not free or its settings are wrong.</translation>
+    </message>
+    <message>
+        <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
+        <translation>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</translation>
     </message>
     <message>
         <source>Select port !!!</source>
@@ -773,6 +791,10 @@
     <message>
         <source>Please connect the mini-programer.</source>
         <translation>Please connect the mini-programmer.</translation>
+    </message>
+    <message>
+        <source>The user guide %s is not installed.</source>
+        <translation>The user guide %s is not installed.</translation>
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>

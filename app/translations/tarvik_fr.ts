@@ -554,6 +554,20 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Réparer</translation>
+        <source>Tarvik help</source>
+        <translation>Aide de Tarvik</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Sommaire</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Précédent</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>Sui&amp;vant</translation>
     </message>
 </context>
 <context>
@@ -573,6 +587,10 @@
     <message>
         <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>Le port de communication COM%d n&apos;est pas libre ou son paramétrage est erroné.</translation>
+    </message>
+    <message>
+        <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
+        <translation>Cet utilisateur n&apos;a pas le droit d&apos;ouvrir le port série. Ajoutez l&apos;utilisateur au groupe dialout (sudo usermod -aG dialout $USER), puis fermez la session et ouvrez-la de nouveau.</translation>
     </message>
     <message>
         <source>Select port !!!</source>
@@ -773,6 +791,10 @@
     <message>
         <source>Please connect the mini-programer.</source>
         <translation>Veuillez connecter le mini-programmateur.</translation>
+    </message>
+    <message>
+        <source>The user guide %s is not installed.</source>
+        <translation>Le guide de l&apos;utilisateur %s n&apos;est pas installé.</translation>
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>

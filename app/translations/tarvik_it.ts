@@ -554,6 +554,20 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Ripara</translation>
+        <source>Tarvik help</source>
+        <translation>Guida di Tarvik</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Indice</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Precedente</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Successivo</translation>
     </message>
 </context>
 <context>
@@ -573,6 +587,10 @@
     <message>
         <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>La porta di comunicazione COM%d non è libera o è impostata in modo errato.</translation>
+    </message>
+    <message>
+        <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
+        <translation>Questo utente non ha il permesso di aprire la porta seriale. Aggiungere l&apos;utente al gruppo dialout (sudo usermod -aG dialout $USER), poi chiudere la sessione e accedere di nuovo.</translation>
     </message>
     <message>
         <source>Select port !!!</source>
@@ -773,6 +791,10 @@
     <message>
         <source>Please connect the mini-programer.</source>
         <translation>Collegare il mini-programmatore.</translation>
+    </message>
+    <message>
+        <source>The user guide %s is not installed.</source>
+        <translation>La guida dell&apos;utente %s non è installata.</translation>
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>

@@ -13,23 +13,28 @@ QString SerialPortOpener::systemPort(int n) const
 
 bool SerialPortOpener::PortComFree(int n)
 {
+    m_denied = false;
     const QString port = systemPort(n);
     if (port.isEmpty())
         return false;
     SerialTransport probe;
     const bool free = probe.open(port);
+    m_denied = probe.permissionDenied();
     probe.close();
     return free;
 }
 
 std::unique_ptr<Transport> SerialPortOpener::ComInit(int n)
 {
+    m_denied = false;
     const QString port = systemPort(n);
     if (port.isEmpty())
         return nullptr;
     auto transport = std::make_unique<SerialTransport>();
-    if (!transport->open(port))
+    if (!transport->open(port)) {
+        m_denied = transport->permissionDenied();
         return nullptr;
+    }
     return transport;
 }
 
@@ -46,8 +51,10 @@ ProbeResult FindValidatorPort(PortOpener &opener)
     SilentPrompt silent;
     while (!result.answered && result.comPortNumber < 9) {
         ++result.comPortNumber;
-        if (!opener.PortComFree(result.comPortNumber))
+        if (!opener.PortComFree(result.comPortNumber)) {
+            result.denied = result.denied || opener.lastOpenDenied();
             continue;
+        }
         std::unique_ptr<Transport> transport = opener.ComInit(result.comPortNumber);
         result.items.append(QStringLiteral("Com%1").arg(result.comPortNumber));
         if (transport) {
@@ -84,6 +91,8 @@ std::optional<OpenedLink> OpenValidatorLink(PortOpener &opener, const QStringLis
     if (!probe.answered && PortFromCommandLine(arguments, port)) {
         if (!dialog)
             return std::nullopt;
+        if (probe.denied && prompt)
+            prompt->tell(messageText(Msg::PortPermissionDenied), UserPrompt::Kind::Information);
         const auto index = dialog->choosePort(probe.items, probe.items.isEmpty() ? -1 : 0);
         if (!index)
             return std::nullopt;
@@ -94,9 +103,12 @@ std::optional<OpenedLink> OpenValidatorLink(PortOpener &opener, const QStringLis
     link.comPortNumber = port;
     link.transport = opener.ComInit(port);
     if (!link.transport) {
-        if (prompt)
+        if (prompt) {
             prompt->tell(messageText(Msg::PortNotFree, {QString::number(port)}),
                          UserPrompt::Kind::Error);
+            if (opener.lastOpenDenied())
+                prompt->tell(messageText(Msg::PortPermissionDenied), UserPrompt::Kind::Information);
+        }
         return std::nullopt;
     }
     return link;

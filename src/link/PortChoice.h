@@ -17,6 +17,8 @@ public:
     virtual bool PortComFree(int n) = 0;
     // ComInit: opens COMn at 9600 8N1; nullptr when it cannot (the handle -1).
     virtual std::unique_ptr<Transport> ComInit(int n) = 0;
+    // The last PortComFree or ComInit failed because the system refused this user the port.
+    virtual bool lastOpenDenied() const { return false; }
 };
 
 // Opens COMn at the system port that systemPort names (the port map by default).
@@ -25,10 +27,14 @@ class SerialPortOpener : public PortOpener
 public:
     bool PortComFree(int n) override;
     std::unique_ptr<Transport> ComInit(int n) override;
+    bool lastOpenDenied() const override { return m_denied; }
 
 protected:
     // Empty when COMn has no system port.
     virtual QString systemPort(int n) const;
+
+private:
+    bool m_denied = false;
 };
 
 void CloseCom(std::unique_ptr<Transport> &transport);
@@ -47,6 +53,7 @@ struct ProbeResult
     bool answered = false;
     int comPortNumber = 0; // the port that answered, or the last one tried
     QStringList items;     // "Com1", "Com2", ... for every free port tried
+    bool denied = false;   // the system refused this user one of the ports
 };
 
 // Probes COM1 to COM9 with the connect command, stopping at the first port that answers.
@@ -63,6 +70,8 @@ struct OpenedLink
 };
 
 // Probe, then command line, then dialog; opens the chosen port. Nothing on Exit in the dialog
-// or when the port cannot be opened ("Comunication Port COM%d isn't free or Setting error.").
+// or when the port cannot be opened ("Comunication Port COM%d isn't free or Setting error.",
+// followed by how to get the right to it when the system refused it). Before the dialog, whose
+// list leaves out the ports the system refused, the same hint is given when there were any.
 std::optional<OpenedLink> OpenValidatorLink(PortOpener &opener, const QStringList &arguments,
                                             PortDialog *dialog, UserPrompt *prompt);

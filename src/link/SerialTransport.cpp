@@ -23,8 +23,10 @@ bool SerialTransport::open(const QString &systemPort)
 {
     close();
     m_error.clear();
+    m_permissionDenied = false;
     m_port->setPortName(systemPort);
     if (!m_port->open(QIODevice::ReadWrite)) {
+        m_permissionDenied = m_port->error() == QSerialPort::PermissionError;
         noteError();
         return false;
     }

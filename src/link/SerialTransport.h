@@ -24,6 +24,9 @@ public:
     int readTimeout() const override { return m_readTimeout; }
     void setReadTimeout(int ms) override { m_readTimeout = ms; }
     QString errorString() const override { return m_error; }
+    // The last open failed because the system refused this user the port (on Linux, a user
+    // outside the dialout group).
+    bool permissionDenied() const { return m_permissionDenied; }
 
     static constexpr int kDefaultReadTimeoutMs = 30;
 
@@ -33,4 +36,5 @@ private:
     std::unique_ptr<QSerialPort> m_port;
     int m_readTimeout = kDefaultReadTimeoutMs;
     QString m_error;
+    bool m_permissionDenied = false;
 };

@@ -151,6 +151,10 @@ constexpr Entry kTable[] = {
     {Cap::RepairTitle, QT_TRANSLATE_NOOP("Captions", "Repair tables")},
     {Cap::RepairTablesIn, QT_TRANSLATE_NOOP("Captions", "Tables in %s :")},
     {Cap::RepairButton, QT_TRANSLATE_NOOP("Captions", "&Repair")},
+    {Cap::HelpTitle, QT_TRANSLATE_NOOP("Captions", "Tarvik help")},
+    {Cap::HelpContents, QT_TRANSLATE_NOOP("Captions", "&Contents")},
+    {Cap::HelpPrevious, QT_TRANSLATE_NOOP("Captions", "&Previous")},
+    {Cap::HelpNext, QT_TRANSLATE_NOOP("Captions", "&Next")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

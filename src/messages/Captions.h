@@ -153,6 +153,11 @@ enum class Cap
     RepairTitle,
     RepairTablesIn,
     RepairButton,
+    // help
+    HelpTitle,
+    HelpContents,
+    HelpPrevious,
+    HelpNext,
     Count_
 };
 

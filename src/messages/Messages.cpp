@@ -18,6 +18,10 @@ constexpr Entry kTable[] = {
     {Msg::ReadingErrorFromValidator, QT_TRANSLATE_NOOP("Messages", "Reading Error fron validator")},
     {Msg::PortNotFree,
      QT_TRANSLATE_NOOP("Messages", "Comunication Port COM%d isn't free or Setting error.")},
+    {Msg::PortPermissionDenied,
+     QT_TRANSLATE_NOOP("Messages", "This user may not open the serial port. Add the user to the "
+                                   "dialout group (sudo usermod -aG dialout $USER), then log out "
+                                   "and log in again.")},
     {Msg::SelectPort, QT_TRANSLATE_NOOP("Messages", "Select port !!!")},
     {Msg::ConnectValidator, QT_TRANSLATE_NOOP("Messages", "Connect validator ")},
     {Msg::ValidatorReadingInProgress,
@@ -207,6 +211,7 @@ constexpr Entry kTable[] = {
     {Msg::RepairFailed, QT_TRANSLATE_NOOP("Messages", "%s could not be repaired: %s")},
     {Msg::RepairReasonLocked, QT_TRANSLATE_NOOP("Messages", "it is open in another program (%s)")},
     {Msg::RepairIndexUnusable, QT_TRANSLATE_NOOP("Messages", "The index %s is not usable (%s)")},
+    {Msg::GuideMissing, QT_TRANSLATE_NOOP("Messages", "The user guide %s is not installed.")},
     {Msg::SettingsUnreadable,
      QT_TRANSLATE_NOOP("Messages", "The settings could not be read; the defaults are used until a "
                                    "setting is changed.")},

@@ -13,6 +13,7 @@ enum class Msg
     CommunicationError,
     ReadingErrorFromValidator,
     PortNotFree,
+    PortPermissionDenied,
     SelectPort,
     ConnectValidator,
     // reading and writing
@@ -71,6 +72,7 @@ enum class Msg
     UpdatingPleaseWait,
     DontStop,
     PleaseConnectMiniProgrammer,
+    GuideMissing,
     LastChannelDiffers,
     WriteIncomplete,
     BackupFailed,

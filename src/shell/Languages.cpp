@@ -1,5 +1,7 @@
 #include "Languages.h"
 
+#include "ResourceFiles.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 
@@ -53,7 +55,7 @@ QString fileSuffix(int index)
 } // namespace Languages
 
 LanguageSwitcher::LanguageSwitcher(const QString &directory)
-    : m_directory(directory.isEmpty() ? QCoreApplication::applicationDirPath() : directory)
+    : m_directory(directory.isEmpty() ? ResourceFiles::translationsDirectory() : directory)
 {}
 
 LanguageSwitcher::~LanguageSwitcher()

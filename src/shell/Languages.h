@@ -27,7 +27,7 @@ QString fileSuffix(int index);
 class LanguageSwitcher final
 {
 public:
-    // Translation files are looked for in directory (empty: beside the program).
+    // Translation files are looked for in directory (empty: the program's translations folder).
     explicit LanguageSwitcher(const QString &directory = {});
     ~LanguageSwitcher();
     Q_DISABLE_COPY_MOVE(LanguageSwitcher)

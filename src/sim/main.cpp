@@ -73,6 +73,7 @@ int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tarvik-sim"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TARVIK_VERSION));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -81,6 +82,7 @@ int main(int argc, char *argv[])
                        "Bench commands, one a line on standard input, act between exchanges:\n") +
         BenchCommands::help().trimmed());
     parser.addHelpOption();
+    parser.addVersionOption();
     const QCommandLineOption family({QStringLiteral("family")},
                                     QStringLiteral("Firmware family byte (default 0x13)."),
                                     QStringLiteral("byte"), QStringLiteral("0x13"));

@@ -62,6 +62,9 @@ TEST_F(Cli, UsageErrorsExitWithTwo)
     const InProcess help = cli({"--help"});
     EXPECT_EQ(help.code, kExitOk);
     EXPECT_TRUE(help.out.contains("read [-o FILE]"));
+    const InProcess version = cli({"--version"});
+    EXPECT_EQ(version.code, kExitOk);
+    EXPECT_EQ(version.out, QStringLiteral("tarvik-cli " TARVIK_VERSION "\n"));
 }
 
 TEST_F(Cli, ReadsTheVirtualValidatorInProcess)

@@ -41,16 +41,25 @@ private:
 class FakeOpener final : public PortOpener
 {
 public:
-    std::set<int> free, validators, unopenable;
+    std::set<int> free, validators, unopenable, refused;
     std::vector<int> opened;
-    bool PortComFree(int n) override { return free.count(n) > 0; }
+    bool PortComFree(int n) override
+    {
+        m_denied = refused.count(n) > 0;
+        return free.count(n) > 0 && !m_denied;
+    }
     std::unique_ptr<Transport> ComInit(int n) override
     {
         opened.push_back(n);
-        if (unopenable.count(n))
+        m_denied = refused.count(n) > 0;
+        if (unopenable.count(n) || m_denied)
             return nullptr;
         return std::make_unique<FakePort>(validators.count(n) > 0);
     }
+    bool lastOpenDenied() const override { return m_denied; }
+
+private:
+    bool m_denied = false;
 };
 
 class FakeDialog final : public PortDialog
@@ -141,6 +150,34 @@ TEST(PortChoice, PortThatCannotOpenSaysSo)
     ASSERT_EQ(prompt.told().size(), 1);
     EXPECT_EQ(prompt.told().first(),
               QStringLiteral("Comunication Port COM7 isn't free or Setting error."));
+
+    // A port the system refuses this user is followed by how to get the right to it.
+    opener.refused = {7};
+    prompt.clear();
+    EXPECT_FALSE(OpenValidatorLink(opener, {"COM7"}, nullptr, &prompt));
+    ASSERT_EQ(prompt.told().size(), 2);
+    EXPECT_EQ(prompt.told().first(),
+              QStringLiteral("Comunication Port COM7 isn't free or Setting error."));
+    EXPECT_TRUE(prompt.told().last().contains(QStringLiteral("sudo usermod -aG dialout $USER")));
+}
+
+TEST(PortChoice, PortsRefusedInTheProbeAreExplainedBeforeTheDialog)
+{
+    FakeOpener opener;
+    opener.free = {1, 2};
+    opener.refused = {2};
+    FakeDialog dialog;
+    RecordingPrompt prompt;
+    EXPECT_FALSE(OpenValidatorLink(opener, {}, &dialog, &prompt));
+    EXPECT_EQ(dialog.items, QStringList{"Com1"});
+    ASSERT_EQ(prompt.told().size(), 1);
+    EXPECT_EQ(prompt.told().first(), messageText(Msg::PortPermissionDenied));
+
+    // Nothing refused: the dialog alone.
+    opener.refused.clear();
+    prompt.clear();
+    EXPECT_FALSE(OpenValidatorLink(opener, {}, &dialog, &prompt));
+    EXPECT_TRUE(prompt.told().isEmpty());
 }
 
 } // namespace

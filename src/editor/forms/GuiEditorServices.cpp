@@ -218,8 +218,11 @@ void GuiEditorServices::editValueTable(EditorModel &editor)
     std::unique_ptr<ValueTableStore> store;
     if (m_db)
         store = std::make_unique<ValueTableStore>(*m_db, m_prompt);
+    // The switch as the main window left it: read again each time the form opens.
+    Settings settings;
+    settings.load();
     ValueTableModel model(access, editor.image().isLight(), editor.link(), &m_prompt, store.get(),
-                          Settings().directWrite());
+                          settings.directWrite());
     TFormValue form(model, m_window);
     form.exec();
 }

@@ -2,9 +2,11 @@
 #include "DbfTable.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
+#include "GuiEditorServices.h"
 #include "Messages.h"
 #include "RecordingPrompt.h"
 #include "SavedValidatorsModel.h"
+#include "Settings.h"
 #include "TDBModule.h"
 #include "TFormReadFileData.h"
 #include "TFormRepair.h"
@@ -14,12 +16,14 @@
 #include "ValueTableModel.h"
 #include "VirtualValidator.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSettings>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -155,6 +159,28 @@ private Q_SLOTS:
         QCOMPARE(prompt.told().size(), 2);
         QVERIFY(db.Channel()->isOpen() && !db.Channel()->isReadOnly());
         QCOMPARE(db.Channel()->recordCount(), 58);
+    }
+
+    // The editor's button opens the form with "Direct write" as the main window left it.
+    void theValueTableFormFollowsDirectWrite()
+    {
+        QTemporaryDir settingsDir;
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settingsDir.path());
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+        Settings().setDirectWrite(true);
+        RecordingPrompt prompt;
+        GuiEditorServices services(prompt, nullptr);
+        EditorModel editor(&prompt, &services);
+        editor.loadImage(VirtualValidator::factoryImage(0x13, 1001), false);
+        bool shown = false;
+        QTimer::singleShot(0, this, [&] {
+            auto *form = qobject_cast<TFormValue *>(QApplication::activeModalWidget());
+            QVERIFY(form);
+            shown = !form->findChild<QPushButton *>(QStringLiteral("BitBtn4"))->isHidden();
+            form->reject();
+        });
+        services.editValueTable(editor);
+        QVERIFY(shown);
     }
 };
 
