@@ -8,6 +8,7 @@
 #include "TDBModule.h"
 #include "TableRepair.h"
 #include "TableSchema.h"
+#include "TestFiles.h"
 #include "ValidatorStore.h"
 
 #include <QDir>
@@ -24,31 +25,7 @@
 
 namespace {
 
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeAll(const QString &path, const QByteArray &bytes)
-{
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(bytes);
-}
-
-QByteArray run(const QString &program, const QStringList &arguments)
-{
-    QProcess p;
-    p.start(program, arguments);
-    if (!p.waitForFinished(60000) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0) {
-        ADD_FAILURE() << program.toStdString()
-                      << " failed: " << p.readAllStandardError().toStdString()
-                      << p.readAllStandardOutput().toStdString();
-        return {};
-    }
-    return p.readAllStandardOutput();
-}
+using namespace testfiles;
 
 // The ways a channel table gets damaged, and what can be read of it afterwards.
 struct Damage

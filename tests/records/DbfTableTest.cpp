@@ -3,6 +3,7 @@
 #include "Messages.h"
 #include "TableRepair.h"
 #include "TableSchema.h"
+#include "TestFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,18 +14,7 @@
 
 namespace {
 
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeAll(const QString &path, const QByteArray &bytes)
-{
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(bytes);
-}
+using namespace testfiles;
 
 QList<ExpectedTag> expectedTags(const TableSchema &s)
 {

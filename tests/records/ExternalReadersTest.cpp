@@ -3,6 +3,7 @@
 #include "RecordingPrompt.h"
 #include "TDBModule.h"
 #include "TableSchema.h"
+#include "TestFiles.h"
 #include "ValidatorStore.h"
 
 #include <QDir>
@@ -20,17 +21,7 @@
 // writes into the index.
 namespace {
 
-QByteArray run(const QString &program, const QStringList &arguments)
-{
-    QProcess p;
-    p.start(program, arguments);
-    if (!p.waitForFinished(60000) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0) {
-        ADD_FAILURE() << program.toStdString()
-                      << " failed: " << p.readAllStandardError().toStdString();
-        return {};
-    }
-    return p.readAllStandardOutput();
-}
+using namespace testfiles;
 
 // A data directory with every table holding rows, some deleted, and duplicate keys.
 class ExternalReadersTest : public ::testing::Test

@@ -4,6 +4,7 @@
 #include "RecordingPrompt.h"
 #include "TDBModule.h"
 #include "TableSchema.h"
+#include "TestFiles.h"
 #include "ValidatorStore.h"
 
 #include <QDir>
@@ -17,6 +18,8 @@
 // their keys in the driver's order, proved against Free Pascal's TDbf, which makes the tables
 // and then seeks through, and regenerates, the index Tarvik leaves.
 namespace {
+
+using namespace testfiles;
 
 TEST(LanguageDriverTest, CodePagesAndOrders)
 {
@@ -50,25 +53,6 @@ TEST(LanguageDriverTest, CodePagesAndOrders)
     EXPECT_TRUE(less(*we, u"e"_qs, u"É"_qs));
     EXPECT_TRUE(less(*we, u"É"_qs, u"f"_qs));
     EXPECT_TRUE(less(*de437, u"ü"_qs, u"v"_qs));
-}
-
-struct Process
-{
-    int exitCode = -1;
-    QByteArray out;
-};
-
-Process runTool(const QString &program, const QStringList &arguments)
-{
-    QProcess p;
-    p.start(program, arguments);
-    Process result;
-    if (p.waitForFinished(120000) && p.exitStatus() == QProcess::NormalExit)
-        result.exitCode = p.exitCode();
-    result.out = p.readAllStandardOutput();
-    if (result.exitCode != 0 && result.exitCode != 1)
-        ADD_FAILURE() << program.toStdString() << ": " << p.readAllStandardError().toStdString();
-    return result;
 }
 
 QString mdx(const QString &table)
@@ -114,9 +98,9 @@ protected:
             return;
         s_build = new QTemporaryDir;
         s_program = QDir(s_build->path()).filePath(QStringLiteral("tdbf_collation"));
-        runTool(QStringLiteral(TARVIK_FPC),
-                {QStringLiteral("-O1"), QStringLiteral("-FU") + s_build->path(),
-                 QStringLiteral("-o") + s_program, QStringLiteral(TARVIK_TDBF_COLLATION)});
+        run(QStringLiteral(TARVIK_FPC),
+            {QStringLiteral("-O1"), QStringLiteral("-FU") + s_build->path(),
+             QStringLiteral("-o") + s_program, QStringLiteral(TARVIK_TDBF_COLLATION)});
     }
     static void TearDownTestSuite()
     {
@@ -129,7 +113,13 @@ protected:
             GTEST_SKIP() << "fpc not found";
     }
 
-    Process tdbf(const QStringList &arguments) const { return runTool(s_program, arguments); }
+    ToolRun tdbf(const QStringList &arguments) const
+    {
+        const ToolRun r = runTool(s_program, arguments);
+        if (r.exitCode != 0 && r.exitCode != 1) // 1: a walk that missed keys, reported by it
+            ADD_FAILURE() << "tdbf_collation: " << r.err.toStdString();
+        return r;
+    }
 
     // Keys starting with every printable byte, and names in mixed case with accents.
     static QByteArray keys(const LanguageDriver &d)
@@ -151,7 +141,7 @@ protected:
     // The rows of a table in its tag's order as TDbf walks them, after seeking every key.
     QStringList walk(const QString &table, const QString &tag) const
     {
-        const Process p = tdbf({QStringLiteral("walk"), table, tag, tag});
+        const ToolRun p = tdbf({QStringLiteral("walk"), table, tag, tag});
         QStringList lines = QString::fromLatin1(p.out).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         EXPECT_EQ(p.exitCode, 0) << (lines.isEmpty() ? "" : lines.last().toStdString());
         if (!lines.isEmpty())
