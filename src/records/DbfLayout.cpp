@@ -1,5 +1,7 @@
 #include "DbfLayout.h"
 
+#include "DbfTableDetail.h"
+
 #include "Messages.h"
 #include "TableSchema.h"
 
@@ -16,15 +18,9 @@ constexpr int kDescriptor7 = 48;
 constexpr char kFieldEnd = 0x0D;
 constexpr char kEndOfFile = 0x1A;
 constexpr int kMaxFields = 1024;
-constexpr quint8 kDefaultDriver = 0x57; // DBWINUS0, the driver new tables get
+const quint8 kDefaultDriver = LanguageDriver::standard().id; // the driver new tables get
 
-QString cName(const char *p, int max)
-{
-    int n = 0;
-    while (n < max && p[n] != '\0')
-        ++n;
-    return QString::fromLatin1(p, n).trimmed();
-}
+using dbf_detail::cName;
 
 int fixedWidth(char type)
 {

@@ -1,0 +1,300 @@
+#include "DbfTable.h"
+#include "DbfTableDetail.h"
+
+#include "DbfLayout.h"
+#include "DurableFile.h"
+#include "LanguageDriver.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QLockFile>
+#include <QtEndian>
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+using namespace dbf_detail;
+
+// ---------------------------------------------------------------------------------------------
+// Index upkeep
+
+std::vector<int> DbfTable::sortedRows(int f) const
+{
+    const int offset = m_fields.at(f).offset;
+    const std::size_t length = std::size_t(m_fields.at(f).length);
+    std::vector<int> rows = liveRows();
+    const LanguageDriver &order = lang();
+    std::sort(rows.begin(), rows.end(), [&](int a, int b) {
+        const int c = order.compare(record(a) + offset, record(b) + offset, length);
+        return c < 0 || (c == 0 && a < b);
+    });
+    return rows;
+}
+
+// The tags' row lists after the pending changes: the untouched rows keep their order, the
+// changed and new live rows are sorted and merged in.
+std::vector<std::vector<int>> DbfTable::updatedTagRows() const
+{
+    std::vector<std::vector<int>> result(m_tagFields.size());
+    std::vector<char> dirty = m_dirtyMark;
+    dirty.resize(std::size_t(m_count), 0);
+    std::vector<int> changed;
+    for (int r : m_dirtyRows) {
+        if (r < m_count && record(r)[0] != '*')
+            changed.push_back(r);
+    }
+    for (std::size_t t = 0; t < m_tagFields.size(); ++t) {
+        if (m_tagFields[t] < 0)
+            continue;
+        const int offset = m_fields.at(m_tagFields[t]).offset;
+        const std::size_t length = std::size_t(m_fields.at(m_tagFields[t]).length);
+        const LanguageDriver &order = lang();
+        auto less = [&](int a, int b) {
+            const int c = order.compare(record(a) + offset, record(b) + offset, length);
+            return c < 0 || (c == 0 && a < b);
+        };
+        std::vector<int> kept;
+        kept.reserve(m_tagRows[t].size());
+        for (int r : m_tagRows[t]) {
+            if (r < m_count && !dirty[std::size_t(r)])
+                kept.push_back(r);
+        }
+        std::vector<int> added = changed;
+        std::sort(added.begin(), added.end(), less);
+        result[t].reserve(kept.size() + added.size());
+        std::merge(kept.begin(), kept.end(), added.begin(), added.end(),
+                   std::back_inserter(result[t]), less);
+    }
+    return result;
+}
+
+std::vector<MdxKey> DbfTable::tagKeys(int t, const std::vector<int> &rows) const
+{
+    std::vector<MdxKey> keys;
+    const int f = m_tagFields.at(std::size_t(t));
+    if (f < 0)
+        return keys;
+    const int offset = m_fields.at(f).offset;
+    const std::size_t length = std::size_t(m_fields.at(f).length);
+    const bool unique = m_index.tags().at(t).unique;
+    keys.reserve(rows.size());
+    for (int r : rows) {
+        const char *key = record(r) + offset;
+        if (unique && !keys.empty() && lang().compare(keys.back().key, key, length) == 0)
+            continue;
+        keys.push_back({key, quint32(r + 1)});
+    }
+    return keys;
+}
+
+bool DbfTable::writeIndexTemp(const std::vector<std::vector<int>> &rows, QString *tempPath)
+{
+    std::vector<std::vector<MdxKey>> keys;
+    keys.reserve(rows.size());
+    for (std::size_t t = 0; t < rows.size(); ++t)
+        keys.push_back(tagKeys(int(t), rows[t]));
+    *tempPath = m_indexPath + kTempSuffix;
+    QString why;
+    const HookAction action = step(CommitStep::WriteIndexTemp);
+    if (action == HookAction::Crash)
+        return false;
+    if (action == HookAction::Fail ||
+        !DurableFile::write(*tempPath, m_index.build(keys, QDate::currentDate()), &why)) {
+        QFile::remove(*tempPath);
+        return fail(Msg::RecordsCannotWrite,
+                    {QFileInfo(m_indexPath).fileName(),
+                     why.isEmpty() ? QStringLiteral("injected failure") : why});
+    }
+    if (QFileInfo::exists(m_indexPath))
+        QFile::setPermissions(*tempPath, QFile::permissions(m_indexPath));
+    return true;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Committing (see the class comment for the order of the steps)
+
+bool DbfTable::commit()
+{
+    if (!m_open)
+        return fail(Msg::RecordsFileMissing, {m_path});
+    if (!hasPendingChanges() && !m_indexNeedsWrite)
+        return true;
+    if (m_readOnly || m_memoryOnly) {
+        m_error = m_readOnlyReason;
+        return false;
+    }
+    if (m_indexed && (quint8(m_header.at(28)) & 1) == 0) {
+        m_header[28] = char(quint8(m_header.at(28)) | 1);
+        m_headerDirty = true;
+    }
+    const QString name = fileName();
+    const QString dir = QFileInfo(m_path).absolutePath();
+    // A dBase tool that ignores our lock file may have written since we read the table.
+    if (m_diskModified.isValid() && changedOnDisk())
+        return fail(Msg::RecordsChangedElsewhere, {name});
+    const std::vector<std::vector<int>> newRows = updatedTagRows();
+
+    QString indexTemp;
+    if (m_indexed && !writeIndexTemp(newRows, &indexTemp))
+        return false;
+    auto abandon = [&](const QString &why) {
+        if (!indexTemp.isEmpty())
+            QFile::remove(indexTemp);
+        rememberDiskState(); // a tail beyond the counted rows is ours, and harmless
+        return fail(Msg::RecordsCannotWrite,
+                    {name, why.isEmpty() ? QStringLiteral("injected failure") : why});
+    };
+
+    const bool tableChanged = hasPendingChanges();
+    qToLittleEndian<quint32>(quint32(m_count), m_header.data() + 4);
+    if (tableChanged)
+        stampDate(m_header.data() + 1, QDate::currentDate());
+    const qint64 committedEnd = m_headerLength + qint64(m_committedCount) * m_recordLength;
+    const bool appendOnly = !m_headerDirty && m_originals.isEmpty() && m_count > m_committedCount;
+    QString why;
+
+    if (tableChanged && appendOnly) {
+        QByteArray tail = m_records.mid(qint64(m_committedCount) * m_recordLength);
+        tail.append(kEndOfFile);
+        HookAction action = step(CommitStep::AppendRecords);
+        if (action == HookAction::Crash)
+            return false;
+        if (action == HookAction::Fail || !DurableFile::writeAt(m_path, committedEnd, tail, &why))
+            return abandon(why);
+        action = step(CommitStep::UpdateHeader);
+        if (action == HookAction::Crash)
+            return false;
+        if (action == HookAction::Fail ||
+            !DurableFile::writeAt(m_path, 1, m_header.mid(1, 7), &why))
+            return abandon(why);
+        DurableFile::truncate(m_path, committedEnd + tail.size(), &why);
+    } else if (tableChanged) {
+        const QString tableTemp = m_path + kTempSuffix;
+        QByteArray bytes;
+        bytes.reserve(m_headerLength + m_records.size() + 1);
+        bytes.append(m_header).append(m_records).append(kEndOfFile);
+        HookAction action = step(CommitStep::WriteTableTemp);
+        if (action == HookAction::Crash)
+            return false;
+        if (action == HookAction::Fail || !DurableFile::write(tableTemp, bytes, &why)) {
+            QFile::remove(tableTemp);
+            return abandon(why);
+        }
+        QFile::setPermissions(tableTemp, QFile::permissions(m_path));
+        action = step(CommitStep::ReplaceTable);
+        if (action == HookAction::Crash)
+            return false;
+        if (action == HookAction::Fail || !DurableFile::replace(tableTemp, m_path, &why)) {
+            QFile::remove(tableTemp);
+            return abandon(why);
+        }
+        DurableFile::syncDirectory(dir);
+    }
+
+    // From here on the table holds the change; the index follows it.
+    rememberDiskState();
+    m_committedHeader = m_header;
+    m_headerDirty = false;
+    m_committedCount = m_count;
+    m_originals.clear();
+    m_dirtyMark.clear();
+    m_dirtyRows.clear();
+    m_tagRows = newRows;
+
+    if (m_indexed) {
+        const HookAction action = step(CommitStep::ReplaceIndex);
+        if (action == HookAction::Crash)
+            return false;
+        if (action == HookAction::Fail || !DurableFile::replace(indexTemp, m_indexPath, &why)) {
+            QFile::remove(indexTemp);
+            m_indexNeedsWrite = true;
+            m_indexProblem = {Msg::IndexReasonEntries, {}};
+            fail(Msg::RecordsCannotWrite,
+                 {QFileInfo(m_indexPath).fileName(),
+                  why.isEmpty() ? QStringLiteral("injected failure") : why});
+            m_notices.append(m_error);
+            if (!tableChanged)
+                return false;
+        } else {
+            // No directory flush here: should a power cut undo this rename, the next open
+            // finds the old index stale and rebuilds it from the table.
+            m_indexNeedsWrite = false;
+            m_indexProblem = {};
+        }
+    }
+    if (tableChanged)
+        Q_EMIT changed();
+    return true;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Locating without regard to case
+
+QString DbfTable::foldedKey(int rec, int f) const
+{
+    return text(rec, f).toCaseFolded();
+}
+
+DbfTable::Lookup &DbfTable::lookup(int f) const
+{
+    if (m_lookups.size() < std::size_t(m_fields.size()))
+        m_lookups.resize(std::size_t(m_fields.size()));
+    std::unique_ptr<Lookup> &l = m_lookups[std::size_t(f)];
+    if (!l) {
+        l = std::make_unique<Lookup>();
+        for (int r = 0; r < m_count; ++r) {
+            if (record(r)[0] != '*')
+                l->rows[foldedKey(r, f)].push_back(r);
+        }
+    }
+    return *l;
+}
+
+void DbfTable::forgetInLookups(int rec, int onlyField)
+{
+    for (std::size_t f = 0; f < m_lookups.size(); ++f) {
+        if (!m_lookups[f] || (onlyField >= 0 && int(f) != onlyField))
+            continue;
+        auto rows = m_lookups[f]->rows.find(foldedKey(rec, int(f)));
+        if (rows == m_lookups[f]->rows.end())
+            continue;
+        auto pos = std::lower_bound(rows->begin(), rows->end(), rec);
+        if (pos != rows->end() && *pos == rec)
+            rows->erase(pos);
+    }
+}
+
+void DbfTable::noteInLookups(int rec, int onlyField)
+{
+    if (record(rec)[0] == '*')
+        return;
+    for (std::size_t f = 0; f < m_lookups.size(); ++f) {
+        if (!m_lookups[f] || (onlyField >= 0 && int(f) != onlyField))
+            continue;
+        std::vector<int> &rows = m_lookups[f]->rows[foldedKey(rec, int(f))];
+        rows.insert(std::lower_bound(rows.begin(), rows.end(), rec), rec);
+    }
+}
+
+int DbfTable::locate(const QString &fieldName, const QString &key) const
+{
+    const std::vector<int> rows = locateAll(fieldName, key);
+    return rows.empty() ? -1 : rows.front();
+}
+
+std::vector<int> DbfTable::locateAll(const QString &fieldName, const QString &key) const
+{
+    const int f = fieldIndex(fieldName);
+    if (f < 0)
+        return {};
+    QString wanted = key;
+    while (!wanted.isEmpty() && wanted.back() == QLatin1Char(' '))
+        wanted.chop(1);
+    if (m_fields.at(f).type != 'C')
+        wanted = wanted.trimmed();
+    const Lookup &l = lookup(f);
+    return l.rows.value(wanted.toCaseFolded());
+}
