@@ -132,14 +132,9 @@ const LanguageDriver *DbfTable::peekDriver(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return nullptr;
     const QByteArray h = file.read(64);
-    if (h.size() < 32 || (h.at(0) != 0x03 && h.at(0) != 0x04))
+    if (h.isEmpty() || (h.at(0) != 0x03 && h.at(0) != 0x04))
         return nullptr;
-    if (h.at(0) == 0x04 && h.size() >= 64) {
-        const QString name = cName(h.constData() + 32, 32);
-        if (!name.isEmpty())
-            return LanguageDriver::byName(name);
-    }
-    return LanguageDriver::byId(quint8(h.at(29)));
+    return driverOfHeader(h);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -371,15 +366,7 @@ quint8 DbfTable::languageDriver() const
 // Level-7 tables name their driver in the header; older ones only give its id.
 void DbfTable::resolveDriver()
 {
-    m_driver = nullptr;
-    if (m_level7) {
-        const QString name = cName(m_header.constData() + 32, 32);
-        if (!name.isEmpty()) {
-            m_driver = LanguageDriver::byName(name);
-            return;
-        }
-    }
-    m_driver = LanguageDriver::byId(languageDriver());
+    m_driver = driverOfHeader(m_header);
 }
 
 const LanguageDriver &DbfTable::lang() const

@@ -58,4 +58,19 @@ inline QString hexByte(quint8 b)
            QString::number(b, 16).rightJustified(2, QLatin1Char('0')).toUpper();
 }
 
+// The driver a table's header gives: level-7 tables name it after the fixed header, older ones
+// only give its id in byte 29 (as level-7 ones do when they leave the name blank). Null for a
+// header too short to say, or a driver this program does not know.
+inline const LanguageDriver *driverOfHeader(const QByteArray &h)
+{
+    if (h.size() < 32)
+        return nullptr;
+    if (h.at(0) == 0x04 && h.size() >= 64) {
+        const QString name = cName(h.constData() + 32, 32);
+        if (!name.isEmpty())
+            return LanguageDriver::byName(name);
+    }
+    return LanguageDriver::byId(quint8(h.at(29)));
+}
+
 } // namespace dbf_detail

@@ -63,13 +63,15 @@ bool TDBModule::open(const QString &dataDir, UserPrompt *prompt)
     QStringList created;
     const QList<const TableSchema *> schemas = TableSchema::all();
     if (errors.isEmpty()) {
-        const LanguageDriver &driver = sharedDriver(m_dir);
+        const LanguageDriver *driver = nullptr; // looked up once a table is missing
         for (const TableSchema *schema : schemas) {
             const QString path = DbfTable::findInDirectory(m_dir, schema->fileName);
             if (QFileInfo::exists(path))
                 continue;
+            if (!driver)
+                driver = &sharedDriver(m_dir);
             QString error;
-            if (DbfTable::create(path, *schema, &error, driver))
+            if (DbfTable::create(path, *schema, &error, *driver))
                 created.append(schema->fileName);
             else
                 errors.append(error);
