@@ -23,7 +23,10 @@ AppOptions AppOptions::parse(const QStringList &arguments)
             nextValue(options.screenshots);
         else if (argument == u"--device")
             nextValue(options.device);
-        else if (argument == u"--help" || argument == u"-h")
+        else if (argument == u"--sim-line") {
+            nextValue(options.simLine);
+            options.simulate = true;
+        } else if (argument == u"--help" || argument == u"-h")
             options.help = true;
         else if (argument == u"--version")
             options.version = true;
@@ -32,7 +35,17 @@ AppOptions AppOptions::parse(const QStringList &arguments)
         else
             options.portArguments.append(argument);
     }
+    QString why;
+    if (!options.simLine.isEmpty() && !LineProfile::parse(options.simLine, &why))
+        options.error = QStringLiteral("--sim-line: %1\n").arg(why);
     return options;
+}
+
+LineProfile AppOptions::simulatedLine() const
+{
+    if (!simLine.isEmpty())
+        return LineProfile::parse(simLine, nullptr).value_or(LineProfile::bench());
+    return unattended() ? LineProfile::instant() : LineProfile::bench();
 }
 
 bool AppOptions::useVirtualValidator() const
@@ -49,11 +62,15 @@ bool AppOptions::useVirtualValidator() const
 QString AppOptions::usage()
 {
     return QStringLiteral(
-        "usage: tarvik [COMn] [--device PATH] [--simulate] [--smoke] [--screenshot FILE]\n"
+        "usage: tarvik [COMn] [--device PATH] [--simulate [--sim-line LINE]] [--smoke]\n"
+        "              [--screenshot FILE]\n"
         "              [--screenshots DIR] [--help] [--version]\n"
         "  COMn             the port to use when no validator answers the probe\n"
         "  --device PATH    a system serial port standing as COM1\n"
         "  --simulate       the in-process virtual validator, with its bench panel\n"
+        "  --sim-line LINE  its line: bench (the default), instant, or bench changed by\n"
+        "                   pace,nopace,turnaround=MIN-MAX,echo=MIN-MAX,burst=MS,seed=N,\n"
+        "                   split=BYTES:MS\n"
         "  --smoke          start, show the main window, check the data files and end at once\n"
         "  --screenshot F   run against the virtual validator and save the windows as F\n"
         "  --screenshots D  open every window against the virtual validator and save a\n"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "LineProfile.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -14,6 +16,7 @@ struct AppOptions
     QString screenshot;         // --screenshot FILE: grab the windows into FILE and end
     QString screenshots;        // --screenshots DIR: picture every window into DIR and end
     QString device;             // --device PATH: this system port stands as COM1
+    QString simLine;            // --sim-line LINE: how rough the virtual validator's line is
     QStringList portArguments;  // the other arguments; one may name the port (COM4)
     QString error;              // not empty: bad usage
 
@@ -23,4 +26,7 @@ struct AppOptions
     // No one at the screen: messages go to the error stream and nothing waits for a click.
     bool unattended() const { return smoke || !screenshot.isEmpty() || !screenshots.isEmpty(); }
     bool useVirtualValidator() const;
+    // The virtual validator's line: --sim-line, else a bench's, or an instant one when nobody
+    // watches (pictures and the smoke start).
+    LineProfile simulatedLine() const;
 };

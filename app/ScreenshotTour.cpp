@@ -257,6 +257,10 @@ void ScreenshotTour::poll()
 {
     if (m_index < 0 || m_index >= m_steps.size())
         return;
+    // Not between two exchanges of an operation: its window is still at work.
+    if (const TMonnayeur *link = m_main->link().monnayeur();
+        link && link->betweenExchangesRunning())
+        return;
     const Step &step = m_steps.at(m_index);
     if (!m_stepOpened) {
         m_stepOpened = true;

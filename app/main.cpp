@@ -80,7 +80,8 @@ int main(int argc, char *argv[])
     VirtualValidator device;
     if (!options.screenshots.isEmpty())
         ScreenshotTour::prepareValidator(device);
-    SimulatedLinkSource simulated(&device);
+    LineProfile simulatedLine = options.simulatedLine();
+    SimulatedLinkSource simulated(&device, &simulatedLine);
     SerialPortOpener serialPorts;
     DevicePortOpener devicePort(options.device);
     TCommunication portDialog(&prompt);
@@ -90,7 +91,7 @@ int main(int argc, char *argv[])
 
     std::unique_ptr<SimulatorPanel> panel;
     if (options.useVirtualValidator() && !options.smoke)
-        panel = std::make_unique<SimulatorPanel>(&device);
+        panel = std::make_unique<SimulatorPanel>(&device, &simulatedLine);
 
     ShellContext context;
     context.settings = &settings;

@@ -46,7 +46,7 @@ std::unique_ptr<Transport> CliContext::openTransport(int &comPortNumber)
 {
     if (m_options.simulate) {
         comPortNumber = 1;
-        return makeSimulatedTransport(quint8(m_options.simFamily));
+        return makeSimulatedTransport(quint8(m_options.simFamily), m_options.simLine);
     }
     if (!m_options.device.isEmpty()) {
         comPortNumber = 1;

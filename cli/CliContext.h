@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LineProfile.h"
 #include "TMonnayeur.h"
 #include "Transport.h"
 #include "UserPrompt.h"
@@ -39,6 +40,8 @@ struct GlobalOptions
     QString port; // COMn
     bool simulate = false;
     int simFamily = 0x13;
+    // How rough the virtual validator's line is (--sim-line): a bench's by default.
+    LineProfile simLine = LineProfile::bench();
     QString dataDir;
     QString trace;
 };

@@ -30,6 +30,18 @@ bool parseGlobal(QStringList &args, GlobalOptions &o, QString &error)
                 return false;
         } else if (a == QLatin1String("--simulate")) {
             o.simulate = true;
+        } else if (a == QLatin1String("--sim-line")) {
+            QString text;
+            if (!value(text))
+                return false;
+            QString why;
+            const std::optional<LineProfile> line = LineProfile::parse(text, &why);
+            if (!line) {
+                error = QStringLiteral("--sim-line: ") + why;
+                return false;
+            }
+            o.simLine = *line;
+            o.simulate = true;
         } else if (a == QLatin1String("--sim-family")) {
             QString text;
             if (!value(text))
@@ -58,10 +70,11 @@ bool parseGlobal(QStringList &args, GlobalOptions &o, QString &error)
 
 QString cliUsage(const CliCommandTable &table)
 {
-    QString text = QStringLiteral(
-        "usage: tarvik-cli [--device PATH | --port COMn | --simulate [--sim-family BYTE]]\n"
-        "                  [--data-dir DIR] [--trace FILE] COMMAND [ARGS]\n"
-        "       tarvik-cli --help | --version\n\ncommands:\n");
+    QString text =
+        QStringLiteral("usage: tarvik-cli [--device PATH | --port COMn |\n"
+                       "                   --simulate [--sim-family BYTE] [--sim-line LINE]]\n"
+                       "                  [--data-dir DIR] [--trace FILE] COMMAND [ARGS]\n"
+                       "       tarvik-cli --help | --version\n\ncommands:\n");
     for (auto it = table.cbegin(); it != table.cend(); ++it)
         text += QStringLiteral("  %1\n      %2\n").arg(it->usage, it->help);
     text += QStringLiteral("\nexit codes: 0 success, 1 the operation failed, 2 bad usage\n");

@@ -9,12 +9,18 @@ namespace {
 class OwnedSimulation final : public Transport
 {
 public:
-    explicit OwnedSimulation(quint8 familyByte)
+    OwnedSimulation(quint8 familyByte, const LineProfile &line)
         : m_device(std::make_unique<VirtualValidator>(familyByte)), m_port(m_device.get())
-    {}
+    {
+        m_port.setLine(line);
+    }
     bool isOpen() const override { return m_port.isOpen(); }
     qint64 write(const QByteArray &bytes) override { return m_port.write(bytes); }
-    QByteArray read(int count) override { return m_port.read(count); }
+    using Transport::read;
+    QByteArray read(int count, int firstByteWaitMs) override
+    {
+        return m_port.read(count, firstByteWaitMs);
+    }
     void purge() override { m_port.purge(); }
     void close() override { m_port.close(); }
     int readTimeout() const override { return m_port.readTimeout(); }
@@ -28,7 +34,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<Transport> makeSimulatedTransport(quint8 familyByte)
+std::unique_ptr<Transport> makeSimulatedTransport(quint8 familyByte, const LineProfile &line)
 {
-    return std::make_unique<OwnedSimulation>(familyByte);
+    return std::make_unique<OwnedSimulation>(familyByte, line);
 }

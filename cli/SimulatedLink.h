@@ -4,5 +4,7 @@
 
 #include <memory>
 
-// The in-process virtual validator of the given family, behind a transport.
-std::unique_ptr<Transport> makeSimulatedTransport(quint8 familyByte);
+struct LineProfile;
+
+// The in-process virtual validator of the given family, behind a transport on the given line.
+std::unique_ptr<Transport> makeSimulatedTransport(quint8 familyByte, const LineProfile &line);

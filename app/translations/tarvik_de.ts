@@ -1075,6 +1075,46 @@
         <source>Silver token</source>
         <translation>Silberner Jeton</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Leitung</translation>
+    </message>
+    <message>
+        <source>9600 baud pacing</source>
+        <translation>Takt von 9600 Baud</translation>
+    </message>
+    <message>
+        <source>Count echo after (ms) :</source>
+        <translation>Zählecho nach (ms) :</translation>
+    </message>
+    <message>
+        <source>Reply after (ms) :</source>
+        <translation>Antwort nach (ms) :</translation>
+    </message>
+    <message>
+        <source>Adapter bursts every (ms) :</source>
+        <translation>Adapterpakete alle (ms) :</translation>
+    </message>
+    <message>
+        <source>Pause in replies after byte, for (ms) :</source>
+        <translation>Pause in Antworten nach Byte, für (ms) :</translation>
+    </message>
+    <message>
+        <source>Random seed :</source>
+        <translation>Zufallsstartwert :</translation>
+    </message>
+    <message>
+        <source>Count echo after at most (ms)</source>
+        <translation>Zählecho nach höchstens (ms)</translation>
+    </message>
+    <message>
+        <source>Reply after at most (ms)</source>
+        <translation>Antwort nach höchstens (ms)</translation>
+    </message>
+    <message>
+        <source>Pause in replies (ms)</source>
+        <translation>Pause in Antworten (ms)</translation>
+    </message>
 </context>
 <context>
     <name>TCloningChk</name>

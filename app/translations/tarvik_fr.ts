@@ -1075,6 +1075,46 @@
         <source>Silver token</source>
         <translation>Jeton argenté</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>9600 baud pacing</source>
+        <translation>Cadence de 9600 bauds</translation>
+    </message>
+    <message>
+        <source>Count echo after (ms) :</source>
+        <translation>Écho du compte après (ms) :</translation>
+    </message>
+    <message>
+        <source>Reply after (ms) :</source>
+        <translation>Réponse après (ms) :</translation>
+    </message>
+    <message>
+        <source>Adapter bursts every (ms) :</source>
+        <translation>Paquets de l'adaptateur toutes les (ms) :</translation>
+    </message>
+    <message>
+        <source>Pause in replies after byte, for (ms) :</source>
+        <translation>Pause dans les réponses après l'octet, pendant (ms) :</translation>
+    </message>
+    <message>
+        <source>Random seed :</source>
+        <translation>Graine aléatoire :</translation>
+    </message>
+    <message>
+        <source>Count echo after at most (ms)</source>
+        <translation>Écho du compte après au plus (ms)</translation>
+    </message>
+    <message>
+        <source>Reply after at most (ms)</source>
+        <translation>Réponse après au plus (ms)</translation>
+    </message>
+    <message>
+        <source>Pause in replies (ms)</source>
+        <translation>Pause dans les réponses (ms)</translation>
+    </message>
 </context>
 <context>
     <name>TCloningChk</name>

@@ -1075,6 +1075,46 @@
         <source>Silver token</source>
         <translation>Gettone argentato</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>9600 baud pacing</source>
+        <translation>Cadenza a 9600 baud</translation>
+    </message>
+    <message>
+        <source>Count echo after (ms) :</source>
+        <translation>Eco del conteggio dopo (ms) :</translation>
+    </message>
+    <message>
+        <source>Reply after (ms) :</source>
+        <translation>Risposta dopo (ms) :</translation>
+    </message>
+    <message>
+        <source>Adapter bursts every (ms) :</source>
+        <translation>Pacchetti dell'adattatore ogni (ms) :</translation>
+    </message>
+    <message>
+        <source>Pause in replies after byte, for (ms) :</source>
+        <translation>Pausa nelle risposte dopo il byte, per (ms) :</translation>
+    </message>
+    <message>
+        <source>Random seed :</source>
+        <translation>Seme casuale :</translation>
+    </message>
+    <message>
+        <source>Count echo after at most (ms)</source>
+        <translation>Eco del conteggio dopo al massimo (ms)</translation>
+    </message>
+    <message>
+        <source>Reply after at most (ms)</source>
+        <translation>Risposta dopo al massimo (ms)</translation>
+    </message>
+    <message>
+        <source>Pause in replies (ms)</source>
+        <translation>Pausa nelle risposte (ms)</translation>
+    </message>
 </context>
 <context>
     <name>TCloningChk</name>

@@ -249,7 +249,7 @@ void ProgCoinModel::FormActivate()
 
 void ProgCoinModel::tick()
 {
-    if (acting() || closed() || !m_link)
+    if (acting() || closed() || !m_link || m_link->betweenExchangesRunning())
         return;
     const std::optional<SampleBytes> sample = m_session.poll(*m_link, m_image.longForm());
     if (sample)

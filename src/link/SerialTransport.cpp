@@ -1,16 +1,8 @@
 #include "SerialTransport.h"
 
-#include <QElapsedTimer>
-
 #ifdef Q_OS_UNIX
 #include <termios.h>
 #endif
-
-namespace {
-// One character at 9600 baud 8N1 takes 10 bits: about 1.04 ms. Once a reply has started to
-// arrive, each further byte is allowed twice that.
-constexpr int kPerByteAllowanceMs = 2;
-} // namespace
 
 SerialTransport::SerialTransport() : m_port(std::make_unique<QSerialPort>()) {}
 
@@ -71,33 +63,22 @@ qint64 SerialTransport::write(const QByteArray &bytes)
     return n;
 }
 
-QByteArray SerialTransport::read(int count)
+QByteArray SerialTransport::read(int count, int firstByteWaitMs)
 {
-    QByteArray out;
-    if (!m_port->isOpen() || count <= 0)
-        return out;
-    QElapsedTimer clock;
-    clock.start();
-    const qint64 limit = m_readTimeout + qint64(count) * kPerByteAllowanceMs;
-    while (out.size() < count) {
-        if (m_port->bytesAvailable() > 0) {
-            out += m_port->read(count - out.size());
-            continue;
+    if (!m_port->isOpen())
+        return {};
+    const auto take = [this](int max) { return m_port->read(max); };
+    const auto wait = [this](int ms) {
+        if (m_port->waitForReadyRead(ms) || m_port->bytesAvailable() > 0)
+            return true;
+        if (m_port->error() == QSerialPort::ResourceError) {
+            noteError();
+            m_port->close();
+            return false;
         }
-        const qint64 left = limit - clock.elapsed();
-        if (left <= 0)
-            break;
-        if (!m_port->waitForReadyRead(int(left))) {
-            if (m_port->error() == QSerialPort::ResourceError) {
-                noteError();
-                m_port->close();
-                break;
-            }
-            if (m_port->bytesAvailable() == 0 && clock.elapsed() >= limit)
-                break;
-        }
-    }
-    return out;
+        return true; // a time-out: the caller looks at its clock
+    };
+    return readAtLinePace(count, firstByteWaitMs, take, wait);
 }
 
 void SerialTransport::purge()

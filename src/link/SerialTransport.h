@@ -18,7 +18,8 @@ public:
 
     bool isOpen() const override;
     qint64 write(const QByteArray &bytes) override;
-    QByteArray read(int count) override;
+    using Transport::read;
+    QByteArray read(int count, int firstByteWaitMs) override;
     void purge() override;
     void close() override;
     int readTimeout() const override { return m_readTimeout; }
@@ -27,8 +28,6 @@ public:
     // The last open failed because the system refused this user the port (on Linux, a user
     // outside the dialout group).
     bool permissionDenied() const { return m_permissionDenied; }
-
-    static constexpr int kDefaultReadTimeoutMs = 30;
 
 private:
     void noteError();

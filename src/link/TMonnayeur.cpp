@@ -21,13 +21,45 @@ TMonnayeur::TMonnayeur(Transport *transport, UserPrompt *prompt, quint8 comPortN
 
 bool TMonnayeur::ReadPort(int count, quint8 *buffer)
 {
-    const QByteArray got = m_transport ? m_transport->read(count) : QByteArray();
+    return ReadPort(count, buffer, m_transport ? m_transport->readTimeout() : 0);
+}
+
+bool TMonnayeur::ReadPort(int count, quint8 *buffer, int firstByteWaitMs)
+{
+    const QByteArray got = m_transport ? m_transport->read(count, firstByteWaitMs) : QByteArray();
     if (got.size() != count) {
         m_lastLinkError = messageText(Msg::ReadingErrorFromValidator);
         return false;
     }
     std::memcpy(buffer, got.constData(), std::size_t(count));
     return true;
+}
+
+bool TMonnayeur::readReply(int count, quint8 *buffer)
+{
+    // Reads are repeated until one brings the whole reply. Each waits the port's time-out for a
+    // first byte, cut to what is left of the window, so that a reply must begin within the
+    // window; once it has begun, the read takes it whole at the line's pace. A partial reply
+    // (the line went quiet halfway) is dropped by the next read.
+    QElapsedTimer window;
+    window.start();
+    for (;;) {
+        const qint64 left = kReplyWindowMs - window.elapsed();
+        const int wait = int(std::clamp<qint64>(left, 0, qMax(1, m_transport->readTimeout())));
+        if (ReadPort(count, buffer, wait))
+            return true;
+        if (!m_transport->isOpen() || window.elapsed() >= kReplyWindowMs)
+            return false;
+    }
+}
+
+void TMonnayeur::betweenExchanges()
+{
+    if (!m_betweenExchanges || m_inBetween)
+        return;
+    m_inBetween = true;
+    m_betweenExchanges();
+    m_inBetween = false;
 }
 
 void TMonnayeur::fail(const QString &text)
@@ -71,20 +103,8 @@ bool TMonnayeur::SendCommand(const quint8 *data, quint8 command, quint8 replyLen
                 ok = false;
             }
         }
-        if (ok && awaitReply) {
-            // The whole reply must arrive in one read; a partial reply is dropped by the retry.
-            QElapsedTimer window;
-            window.start();
-            ok = false;
-            do {
-                if (ReadPort(replyLength, reply)) {
-                    ok = true;
-                    break;
-                }
-                if (!m_transport->isOpen())
-                    break;
-            } while (window.elapsed() <= kReplyWindowMs);
-        }
+        if (ok && awaitReply)
+            ok = readReply(replyLength, reply);
     }
 
     if (!ok && showMessage) {
@@ -92,6 +112,7 @@ bool TMonnayeur::SendCommand(const quint8 *data, quint8 command, quint8 replyLen
             m_prompt->tell(m_lastLinkError, UserPrompt::Kind::Error);
         m_linkGood = false;
     }
+    betweenExchanges();
     return ok;
 }
 

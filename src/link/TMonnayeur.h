@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <array>
+#include <functional>
 
 class Transport;
 class UserPrompt;
@@ -26,8 +27,10 @@ public:
     // One command exchange: command byte, count echo, data block, reply within 900 ms.
     bool SendCommand(const quint8 *data, quint8 command, quint8 replyLength, quint8 dataLength,
                      quint8 *reply, bool awaitReply, bool showMessage);
-    // One read of exactly count bytes within the port's per-read time-out.
+    // One read of exactly count bytes: the first within the port's per-read time-out (or
+    // firstByteWaitMs), the others at the line's pace.
     bool ReadPort(int count, quint8 *buffer);
+    bool ReadPort(int count, quint8 *buffer, int firstByteWaitMs);
 
     bool ReadSample(quint8 index, bool extended, SampleBytes &sample);
     bool CheckPresence(bool showMessage);
@@ -59,8 +62,16 @@ public:
     // The reply window of one exchange, in milliseconds.
     static constexpr int kReplyWindowMs = 900;
 
+    // Called after every exchange, so that a window can repaint between exchanges; it must not
+    // deliver the user's input. Never called from inside itself.
+    void setBetweenExchanges(std::function<void()> hook) { m_betweenExchanges = std::move(hook); }
+    // True while the hook runs: a timer that would start an exchange of its own waits.
+    bool betweenExchangesRunning() const { return m_inBetween; }
+
 private:
     bool writeAccepted(quint8 command, const quint8 *data, quint8 dataLength);
+    bool readReply(int count, quint8 *buffer);
+    void betweenExchanges();
     void fail(const QString &text);
 
     Transport *m_transport;
@@ -69,4 +80,6 @@ private:
     QString m_lastLinkError;
     bool m_linkGood = true;
     quint8 m_lastStatus = 0;
+    std::function<void()> m_betweenExchanges;
+    bool m_inBetween = false;
 };

@@ -29,9 +29,9 @@ qint64 TracingTransport::write(const QByteArray &bytes)
     return n;
 }
 
-QByteArray TracingTransport::read(int count)
+QByteArray TracingTransport::read(int count, int firstByteWaitMs)
 {
-    const QByteArray got = m_inner->read(count);
+    const QByteArray got = m_inner->read(count, firstByteWaitMs);
     if (got.size() == count)
         line(QStringLiteral("recv"), got);
     else

@@ -15,7 +15,8 @@ public:
 
     bool isOpen() const override { return m_inner->isOpen(); }
     qint64 write(const QByteArray &bytes) override;
-    QByteArray read(int count) override;
+    using Transport::read;
+    QByteArray read(int count, int firstByteWaitMs) override;
     void purge() override;
     void close() override { m_inner->close(); }
     int readTimeout() const override { return m_inner->readTimeout(); }

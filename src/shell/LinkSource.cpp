@@ -15,7 +15,9 @@ std::optional<OpenedLink> ProbingLinkSource::open()
 std::optional<OpenedLink> SimulatedLinkSource::open()
 {
     OpenedLink link;
-    link.transport = std::make_unique<SimTransport>(m_device);
+    auto port = std::make_unique<SimTransport>(m_device);
+    port->followLine(m_line);
+    link.transport = std::move(port);
     link.comPortNumber = kPort;
     return link;
 }

@@ -8,6 +8,7 @@
 
 class UserPrompt;
 class VirtualValidator;
+struct LineProfile;
 
 // Where the link comes from: the probe of COM1 to COM9, the command line and the port dialog,
 // or a virtual validator.
@@ -35,15 +36,19 @@ private:
     UserPrompt *m_prompt;
 };
 
-// The in-process virtual validator on COM1, without a probe.
+// The in-process virtual validator on COM1, without a probe, on a line whose roughness the
+// bench panel may change while the link is open.
 class SimulatedLinkSource final : public LinkSource
 {
 public:
-    explicit SimulatedLinkSource(VirtualValidator *device) : m_device(device) {}
+    explicit SimulatedLinkSource(VirtualValidator *device, const LineProfile *line = nullptr)
+        : m_device(device), m_line(line)
+    {}
     std::optional<OpenedLink> open() override;
 
     static constexpr int kPort = 1;
 
 private:
     VirtualValidator *m_device;
+    const LineProfile *m_line;
 };

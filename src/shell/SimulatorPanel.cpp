@@ -1,6 +1,7 @@
 #include "SimulatorPanel.h"
 
 #include "ConfigImage.h"
+#include "LineProfile.h"
 #include "VirtualValidator.h"
 
 #include <QCheckBox>
@@ -22,7 +23,7 @@ template <typename W> W *named(W *widget, const char *name)
 }
 } // namespace
 
-SimulatorPanel::SimulatorPanel(VirtualValidator *device, QWidget *parent)
+SimulatorPanel::SimulatorPanel(VirtualValidator *device, LineProfile *line, QWidget *parent)
     : QWidget(parent, Qt::Window), m_device(device), m_validatorGroup(new QGroupBox(this)),
       m_familyLabel(new QLabel(this)), m_familyBox(named(new QComboBox(this), "FamilyBox")),
       m_serialLabel(new QLabel(this)), m_serialBox(named(new QSpinBox(this), "SerialBox")),
@@ -34,7 +35,17 @@ SimulatorPanel::SimulatorPanel(VirtualValidator *device, QWidget *parent)
       m_doorBox(named(new QCheckBox(this), "DoorBox")),
       m_cableBox(named(new QCheckBox(this), "CableBox")),
       m_miniPgmBox(named(new QCheckBox(this), "MiniPgmBox")),
-      m_firmwareRequestBtn(named(new QPushButton(this), "FirmwareRequestBtn"))
+      m_firmwareRequestBtn(named(new QPushButton(this), "FirmwareRequestBtn")), m_line(line),
+      m_lineGroup(named(new QGroupBox(this), "LineGroup")),
+      m_paceBox(named(new QCheckBox(this), "LinePaceBox")), m_echoLabel(new QLabel(this)),
+      m_echoMin(named(new QSpinBox(this), "LineEchoMin")),
+      m_echoMax(named(new QSpinBox(this), "LineEchoMax")), m_turnLabel(new QLabel(this)),
+      m_turnMin(named(new QSpinBox(this), "LineTurnaroundMin")),
+      m_turnMax(named(new QSpinBox(this), "LineTurnaroundMax")), m_burstLabel(new QLabel(this)),
+      m_burstBox(named(new QSpinBox(this), "LineBurstBox")), m_splitLabel(new QLabel(this)),
+      m_splitAt(named(new QSpinBox(this), "LineSplitAt")),
+      m_splitGap(named(new QSpinBox(this), "LineSplitGap")), m_seedLabel(new QLabel(this)),
+      m_seedBox(named(new QSpinBox(this), "LineSeedBox"))
 {
     setObjectName(QStringLiteral("SimulatorPanel"));
     for (quint8 family : kFamilies)
@@ -67,6 +78,8 @@ SimulatorPanel::SimulatorPanel(VirtualValidator *device, QWidget *parent)
     layout->addWidget(m_cableBox);
     layout->addWidget(m_miniPgmBox);
     layout->addWidget(m_firmwareRequestBtn);
+    buildLineGroup();
+    layout->addWidget(m_lineGroup);
 
     connect(m_fitBtn, &QPushButton::clicked, this, &SimulatorPanel::fitValidator);
     connect(m_insertBtn, &QPushButton::clicked, this, &SimulatorPanel::insertCoin);
@@ -99,6 +112,17 @@ void SimulatorPanel::retranslateUi()
     m_miniPgmBox->setText(tr("Mini-programmer (firmware upgrade)"));
     m_firmwareRequestBtn->setText(tr("Ask for firmware (code 11)"));
     m_firmwareRequestBtn->setAccessibleName(m_firmwareRequestBtn->text());
+    m_lineGroup->setTitle(tr("Line"));
+    m_paceBox->setText(tr("9600 baud pacing"));
+    m_echoLabel->setText(tr("Count echo after (ms) :"));
+    m_turnLabel->setText(tr("Reply after (ms) :"));
+    m_burstLabel->setText(tr("Adapter bursts every (ms) :"));
+    m_splitLabel->setText(tr("Pause in replies after byte, for (ms) :"));
+    m_seedLabel->setText(tr("Random seed :"));
+    // The second box of a pair has no label of its own.
+    m_echoMax->setAccessibleName(tr("Count echo after at most (ms)"));
+    m_turnMax->setAccessibleName(tr("Reply after at most (ms)"));
+    m_splitGap->setAccessibleName(tr("Pause in replies (ms)"));
     m_testModeLabel->setText(tr("Test mode"));
     m_testModeLabel->setAccessibleName(m_testModeLabel->text());
     for (int i = 0; i < m_coinBox->count(); ++i)
@@ -124,6 +148,68 @@ void SimulatorPanel::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         retranslateUi();
     QWidget::changeEvent(event);
+}
+
+void SimulatorPanel::buildLineGroup()
+{
+    auto *grid = new QGridLayout(m_lineGroup);
+    grid->addWidget(m_paceBox, 0, 0, 1, 3);
+    const struct
+    {
+        QLabel *label;
+        QSpinBox *first;
+        QSpinBox *second;
+        int max;
+    } rows[] = {{m_echoLabel, m_echoMin, m_echoMax, 10000},
+                {m_turnLabel, m_turnMin, m_turnMax, 10000},
+                {m_burstLabel, m_burstBox, nullptr, 255},
+                {m_splitLabel, m_splitAt, m_splitGap, 255},
+                {m_seedLabel, m_seedBox, nullptr, 999999}};
+    int row = 1;
+    for (const auto &r : rows) {
+        r.label->setBuddy(r.first);
+        grid->addWidget(r.label, row, 0);
+        for (QSpinBox *box : {r.first, r.second}) {
+            if (!box)
+                continue;
+            box->setRange(0, r.max);
+            grid->addWidget(box, row, box == r.first ? 1 : 2);
+        }
+        ++row;
+    }
+    m_splitGap->setRange(0, 10000);
+    if (m_line) {
+        m_paceBox->setChecked(m_line->pacing);
+        m_echoMin->setValue(m_line->echoMinMs);
+        m_echoMax->setValue(m_line->echoMaxMs);
+        m_turnMin->setValue(m_line->turnaroundMinMs);
+        m_turnMax->setValue(m_line->turnaroundMaxMs);
+        m_burstBox->setValue(m_line->burstMs);
+        m_splitAt->setValue(m_line->splitAt);
+        m_splitGap->setValue(m_line->splitGapMs);
+        m_seedBox->setValue(int(qMin<quint32>(m_line->seed, 999999)));
+    }
+    m_lineGroup->setVisible(m_line != nullptr);
+    connect(m_paceBox, &QCheckBox::toggled, this, &SimulatorPanel::takeLine);
+    for (QSpinBox *box :
+         {m_echoMin, m_echoMax, m_turnMin, m_turnMax, m_burstBox, m_splitAt, m_splitGap, m_seedBox})
+        connect(box, &QSpinBox::valueChanged, this, &SimulatorPanel::takeLine);
+}
+
+void SimulatorPanel::takeLine()
+{
+    if (!m_line)
+        return;
+    // A range typed upside down still means "between these two".
+    m_line->pacing = m_paceBox->isChecked();
+    m_line->echoMinMs = qMin(m_echoMin->value(), m_echoMax->value());
+    m_line->echoMaxMs = qMax(m_echoMin->value(), m_echoMax->value());
+    m_line->turnaroundMinMs = qMin(m_turnMin->value(), m_turnMax->value());
+    m_line->turnaroundMaxMs = qMax(m_turnMin->value(), m_turnMax->value());
+    m_line->burstMs = m_burstBox->value();
+    m_line->splitAt = m_splitAt->value();
+    m_line->splitGapMs = m_splitGap->value();
+    m_line->seed = quint32(m_seedBox->value());
 }
 
 void SimulatorPanel::fitValidator()

@@ -52,6 +52,7 @@ TFormMain::TFormMain(ShellContext context, QWidget *parent)
       m_bitBtn2(new QPushButton), m_bitBtn1(new QPushButton)
 {
     setObjectName(QStringLiteral("TFormMain"));
+    m_link.setBetweenExchanges([this] { m_pump.run(); });
     m_image1->setObjectName(QStringLiteral("Image1"));
     m_lVersion->setObjectName(QStringLiteral("LVersion"));
     m_lDate->setObjectName(QStringLiteral("Ldate"));

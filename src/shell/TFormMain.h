@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ExchangePump.h"
 #include "ShellContext.h"
 #include "ValidatorLink.h"
 
@@ -57,6 +58,7 @@ private:
     void showEditor();
 
     ShellContext m_context;
+    ExchangePump m_pump;
     ValidatorLink m_link;
     std::shared_ptr<void> m_dataModule;
     bool m_editorActive = false;

@@ -15,6 +15,7 @@ bool ValidatorLink::open(LinkSource &source)
     m_comPortNumber = opened->comPortNumber;
     m_monnayeur =
         std::make_unique<TMonnayeur>(m_transport.get(), m_prompt, quint8(m_comPortNumber));
+    m_monnayeur->setBetweenExchanges(m_betweenExchanges);
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include "TMonnayeur.h"
 #include "Transport.h"
 
+#include <functional>
 #include <memory>
 
 class UserPrompt;
@@ -24,6 +25,9 @@ public:
 
     bool isOpen() const { return m_transport != nullptr; }
     int comPortNumber() const { return m_comPortNumber; }
+    // Runs between two exchanges of every link this object opens (see
+    // TMonnayeur::setBetweenExchanges).
+    void setBetweenExchanges(std::function<void()> hook) { m_betweenExchanges = std::move(hook); }
     Transport *transport() const { return m_transport.get(); }
     TMonnayeur *monnayeur() const { return m_monnayeur.get(); }
 
@@ -32,4 +36,5 @@ private:
     std::unique_ptr<Transport> m_transport;
     std::unique_ptr<TMonnayeur> m_monnayeur;
     int m_comPortNumber = 0;
+    std::function<void()> m_betweenExchanges;
 };

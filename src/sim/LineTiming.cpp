@@ -2,9 +2,31 @@
 
 #include <algorithm>
 
+LineTiming::LineTiming() : m_random(m_profile.seed), m_epoch(Clock::now()) {}
+
+void LineTiming::setProfile(const LineProfile &profile)
+{
+    m_profile = profile;
+    m_random.seed(profile.seed);
+}
+
+void LineTiming::setLatencyMs(int ms)
+{
+    m_profile.turnaroundMinMs = m_profile.turnaroundMaxMs = std::max(ms, 0);
+    m_profile.echoMinMs = m_profile.echoMaxMs = std::max(ms, 0);
+}
+
+std::chrono::milliseconds LineTiming::draw(int lo, int hi)
+{
+    hi = std::max(lo, hi);
+    if (lo == hi)
+        return std::chrono::milliseconds(lo);
+    return std::chrono::milliseconds(std::uniform_int_distribution<int>(lo, hi)(m_random));
+}
+
 LineTiming::Clock::time_point LineTiming::hostByteArrives(Clock::time_point sent)
 {
-    if (!m_pacing)
+    if (!m_profile.pacing)
         return sent;
     m_hostLineFree = std::max(sent, m_hostLineFree) + kByteTime;
     return m_hostLineFree;
@@ -12,29 +34,51 @@ LineTiming::Clock::time_point LineTiming::hostByteArrives(Clock::time_point sent
 
 void LineTiming::schedule(Clock::time_point heard, const QList<DeviceOutput> &outputs)
 {
-    for (const DeviceOutput &output : outputs)
-        put(heard + m_latency + std::chrono::milliseconds(output.delayMs), output.bytes);
+    // Each answer starts its own turnaround once the device has heard the byte and has finished
+    // sending what it said before (a reply after its count echo).
+    for (const DeviceOutput &output : outputs) {
+        const Clock::time_point ready = std::max(heard, m_deviceLineFree);
+        const auto turnaround = output.echo
+                                    ? draw(m_profile.echoMinMs, m_profile.echoMaxMs)
+                                    : draw(m_profile.turnaroundMinMs, m_profile.turnaroundMaxMs);
+        const auto wait = turnaround + std::chrono::milliseconds(output.delayMs);
+        ++m_costs.answers;
+        m_costs.turnaroundMs += double(wait.count());
+        put(ready + wait, output.bytes, !output.echo);
+    }
 }
 
 void LineTiming::scheduleUnasked(Clock::time_point sent, const QByteArray &bytes)
 {
-    put(sent, bytes);
+    put(sent, bytes, false);
 }
 
-void LineTiming::put(Clock::time_point at, const QByteArray &bytes)
+void LineTiming::put(Clock::time_point at, const QByteArray &bytes, bool reply)
 {
     // One wire: a byte never overtakes the bytes sent before it.
-    if (!m_pending.empty())
-        at = std::max(at, m_pending.back().readyAt);
-    if (m_pacing)
-        at = std::max(at, m_deviceLineFree);
-    for (const char b : bytes) {
-        if (m_pacing)
+    at = std::max(at, m_deviceLineFree);
+    const bool split = reply && m_profile.splitGapMs > 0 && bytes.size() > m_profile.splitAt;
+    for (qsizetype i = 0; i < bytes.size(); ++i) {
+        if (split && i == m_profile.splitAt)
+            at += std::chrono::milliseconds(m_profile.splitGapMs);
+        if (m_profile.pacing)
             at += kByteTime;
-        m_pending.push_back({at, b});
+        m_pending.push_back({handedOver(at), bytes[i]});
     }
-    if (m_pacing)
-        m_deviceLineFree = at;
+    if (!bytes.isEmpty())
+        m_costs.adapterMs +=
+            std::chrono::duration<double, std::milli>(m_pending.back().readyAt - at).count();
+    m_deviceLineFree = at;
+}
+
+LineTiming::Clock::time_point LineTiming::handedOver(Clock::time_point at) const
+{
+    if (m_profile.burstMs <= 0 || at <= m_epoch)
+        return at;
+    const auto timer =
+        std::chrono::duration_cast<Clock::duration>(std::chrono::milliseconds(m_profile.burstMs));
+    const auto ticks = (at - m_epoch + timer - Clock::duration(1)) / timer;
+    return m_epoch + ticks * timer;
 }
 
 QByteArray LineTiming::take(Clock::time_point now, int max)

@@ -10,39 +10,37 @@ qint64 SimTransport::write(const QByteArray &bytes)
 {
     if (!m_open)
         return -1;
+    if (m_followed && *m_followed != m_timing.profile())
+        m_timing.setProfile(*m_followed);
     collectUnsolicited();
     const auto now = LineTiming::Clock::now();
+    auto heard = now;
     for (const char b : bytes) {
-        const auto heard = m_timing.hostByteArrives(now);
+        heard = m_timing.hostByteArrives(now);
         if (m_device)
             m_timing.schedule(heard, m_device->receive(QByteArray(1, b)));
     }
+    // As a serial port drains its transmit buffer before the write returns.
+    if (heard > now)
+        std::this_thread::sleep_until(heard);
     return bytes.size();
 }
 
-QByteArray SimTransport::read(int count)
+QByteArray SimTransport::read(int count, int firstByteWaitMs)
 {
-    QByteArray out;
-    if (!m_open || count <= 0)
-        return out;
+    if (!m_open)
+        return {};
     collectUnsolicited();
-    using namespace std::chrono;
-    const auto deadline = LineTiming::Clock::now() +
-                          milliseconds(m_readTimeout + qint64(count) * kPerByteAllowanceMs);
-    for (;;) {
-        out += m_timing.take(LineTiming::Clock::now(), count - int(out.size()));
-        if (out.size() == count)
-            break;
-        // Nothing new is produced while we wait: the device answers what it hears, and the
-        // bench that makes it speak unasked runs on this thread.
+    const auto take = [this](int max) { return m_timing.take(LineTiming::Clock::now(), max); };
+    // Nothing new is produced while we wait: the device answers what it hears, and the bench
+    // that makes it speak unasked runs on this thread.
+    const auto wait = [this](int ms) {
+        const auto until = LineTiming::Clock::now() + std::chrono::milliseconds(ms);
         const auto next = m_timing.readyTime(1);
-        if (!next || *next > deadline) {
-            std::this_thread::sleep_until(deadline);
-            break;
-        }
-        std::this_thread::sleep_until(*next);
-    }
-    return out;
+        std::this_thread::sleep_until(next && *next < until ? *next : until);
+        return true;
+    };
+    return readAtLinePace(count, firstByteWaitMs, take, wait);
 }
 
 void SimTransport::purge()

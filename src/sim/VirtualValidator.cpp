@@ -356,11 +356,11 @@ void VirtualValidator::startExchange(quint8 command, QList<DeviceOutput> &out)
     m_log.append({command, -1});
 
     if (m_wrongEcho.contains(command)) {
-        out.append({QByteArray(1, char(shape.dataLength + 1)), 0});
+        out.append({QByteArray(1, char(shape.dataLength + 1)), 0, true});
         return;
     }
     const bool echoOnly = shape.replyLength == 0;
-    out.append({QByteArray(1, char(shape.dataLength)), echoOnly ? delayFor(command) : 0});
+    out.append({QByteArray(1, char(shape.dataLength)), echoOnly ? delayFor(command) : 0, true});
 
     m_command = command;
     m_shape = shape;

@@ -15,6 +15,8 @@ struct DeviceOutput
 {
     QByteArray bytes;
     int delayMs = 0;
+    // The count echo of a command, rather than a reply.
+    bool echo = false;
 };
 
 // One exchange the device answered: the command and, for 3, 4, 16 and 17, the channel or slice

@@ -95,11 +95,23 @@ int main(int argc, char *argv[])
     const QCommandLineOption save(
         {QStringLiteral("save")},
         QStringLiteral("Save the memory to a configuration file on exit."), QStringLiteral("file"));
+    const QCommandLineOption line(
+        {QStringLiteral("line")},
+        QStringLiteral("How rough the line is: \"bench\" (the default: 9600 baud, echo after "
+                       "1-5 ms, reply after 2-8 ms, 1 ms adapter bursts), \"instant\", or bench "
+                       "changed by a comma list of pace, nopace, turnaround=MIN-MAX (before each "
+                       "reply), echo=MIN-MAX (before each count echo), burst=MS (the adapter's "
+                       "latency timer), seed=N (replays a random run), split=BYTES:MS (a pause "
+                       "inside every reply)."),
+        QStringLiteral("line"), QStringLiteral("bench"));
+    const QCommandLineOption instant({QStringLiteral("instant")},
+                                     QStringLiteral("The same as --line instant."));
     const QCommandLineOption pace({QStringLiteral("pace")},
                                   QStringLiteral("Send at 9600 baud (1.04 ms per byte)."));
-    const QCommandLineOption latency({QStringLiteral("latency")},
-                                     QStringLiteral("Turn-around time in ms (default 1)."),
-                                     QStringLiteral("ms"), QStringLiteral("1"));
+    const QCommandLineOption latency(
+        {QStringLiteral("latency")},
+        QStringLiteral("A fixed turnaround in ms before every echo and reply."),
+        QStringLiteral("ms"));
     const QCommandLineOption doorOpen({QStringLiteral("door-open")},
                                       QStringLiteral("Start with the door open."));
     const QCommandLineOption mini(
@@ -133,9 +145,13 @@ int main(int argc, char *argv[])
         QStringLiteral("ms"));
     const QCommandLineOption quiet({QStringLiteral("quiet")},
                                    QStringLiteral("Do not print exchanges to stderr."));
-    parser.addOptions({family, serial, load, save, pace, latency, doorOpen, mini, stopAfter,
-                       silentAck, firmwareOut, wrongEcho, refuse, delay, silentAfter,
-                       requestFirmware, quiet});
+    const QCommandLineOption costs(
+        {QStringLiteral("line-costs")},
+        QStringLiteral("On exit, print what the line cost beyond the bytes on the wire."));
+    parser.addOptions({family,      serial,    load,     save,  line,        instant,
+                       pace,        latency,   doorOpen, mini,  stopAfter,   silentAck,
+                       firmwareOut, wrongEcho, refuse,   delay, silentAfter, requestFirmware,
+                       quiet,       costs});
     parser.process(app);
 
     const auto familyByte = number(parser.value(family), 0xFF);
@@ -144,9 +160,20 @@ int main(int argc, char *argv[])
     const auto serialNumber = number(parser.value(serial), 0xFFFFFFFFu);
     if (!serialNumber)
         return fail(QStringLiteral("--serial needs a number from 0 to 4294967295"));
-    const auto latencyMs = number(parser.value(latency), 10000);
-    if (!latencyMs)
-        return fail(QStringLiteral("--latency needs milliseconds from 0 to 10000"));
+    QString lineError;
+    std::optional<LineProfile> lineProfile = LineProfile::parse(
+        parser.isSet(instant) ? QStringLiteral("instant") : parser.value(line), &lineError);
+    if (!lineProfile)
+        return fail(QStringLiteral("--line: %1").arg(lineError));
+    if (parser.isSet(pace))
+        lineProfile->pacing = true;
+    if (parser.isSet(latency)) {
+        const auto latencyMs = number(parser.value(latency), 10000);
+        if (!latencyMs)
+            return fail(QStringLiteral("--latency needs milliseconds from 0 to 10000"));
+        lineProfile->turnaroundMinMs = lineProfile->turnaroundMaxMs = int(*latencyMs);
+        lineProfile->echoMinMs = lineProfile->echoMaxMs = int(*latencyMs);
+    }
     std::optional<quint32> requestAfterMs;
     if (parser.isSet(requestFirmware)) {
         requestAfterMs = number(parser.value(requestFirmware), 3600000);
@@ -201,8 +228,9 @@ int main(int argc, char *argv[])
     }
 
     LineTiming timing;
-    timing.setPacing(parser.isSet(pace));
-    timing.setLatencyMs(int(*latencyMs));
+    timing.setProfile(*lineProfile);
+    if (!parser.isSet(quiet))
+        std::fprintf(stderr, "tarvik-sim: line %s\n", qPrintable(lineProfile->toString()));
 
     PtyServer server(&device, &timing);
     server.setVerbose(!parser.isSet(quiet));
@@ -229,6 +257,12 @@ int main(int argc, char *argv[])
     std::fflush(stdout);
     server.serve(&g_stop);
 
+    if (parser.isSet(costs)) {
+        const LineTiming::Costs &spent = timing.costs();
+        std::fprintf(stderr,
+                     "tarvik-sim: line costs: %d answers, %.1f ms turnaround, %.1f ms adapter\n",
+                     spent.answers, spent.turnaroundMs, spent.adapterMs);
+    }
     int status = 0;
     if (parser.isSet(save) && !saveConfigFile(parser.value(save), device.memory(), &error))
         status = fail(QStringLiteral("cannot save %1: %2").arg(parser.value(save), error));

@@ -20,7 +20,8 @@ public:
             m_pending += '\0';
         return bytes.size();
     }
-    QByteArray read(int count) override
+    using Transport::read;
+    QByteArray read(int count, int) override
     {
         const QByteArray out = m_pending.left(count);
         m_pending.remove(0, out.size());

@@ -21,6 +21,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTimer>
 #include <QtTest>
 
@@ -335,11 +336,12 @@ private Q_SLOTS:
     void thePanelDrivesTheValidatorWhileTheEditorIsOpen()
     {
         VirtualValidator device;
-        SimulatorPanel panel(&device);
+        LineProfile line = LineProfile::instant();
+        SimulatorPanel panel(&device, &line);
         panel.show();
         QWidget main;
         main.show();
-        SimulatedLinkSource source(&device);
+        SimulatedLinkSource source(&device, &line);
         ValidatorLink link(&m_boxes);
         QVERIFY(link.open(source));
         int queued = -1;
@@ -367,6 +369,19 @@ private Q_SLOTS:
         panel.findChild<QComboBox *>(QStringLiteral("FamilyBox"))->setCurrentIndex(3);
         panel.findChild<QPushButton *>(QStringLiteral("FitBtn"))->click();
         QCOMPARE(device.memory().familyByte(), 0x33);
+
+        // The Line group roughens the open link from its next exchange on.
+        panel.findChild<QCheckBox *>(QStringLiteral("CableBox"))->click();
+        panel.findChild<QCheckBox *>(QStringLiteral("LinePaceBox"))->click();
+        panel.findChild<QSpinBox *>(QStringLiteral("LineTurnaroundMax"))->setValue(40);
+        panel.findChild<QSpinBox *>(QStringLiteral("LineBurstBox"))->setValue(16);
+        panel.findChild<QSpinBox *>(QStringLiteral("LineSeedBox"))->setValue(7);
+        QVERIFY(line.pacing);
+        QCOMPARE(line.turnaroundMaxMs, 40);
+        QCOMPARE(line.burstMs, 16);
+        QCOMPARE(line.seed, 7u);
+        QVERIFY(link.monnayeur()->CheckPresence(true));
+        QCOMPARE(static_cast<SimTransport *>(link.transport())->timing().profile(), line);
     }
 };
 

@@ -89,7 +89,8 @@ void SerialTestModel::showCoin(int channelNumber)
 void SerialTestModel::tick(EditorServices *services)
 {
     Transport *port = m_link ? m_link->transport() : nullptr;
-    if (!port || !port->isOpen())
+    // Between two exchanges of the editor's own operations the timer keeps off the line.
+    if (!port || !port->isOpen() || m_link->betweenExchangesRunning())
         return;
     // Only what is already waiting: the timer never blocks the form.
     const int timeout = port->readTimeout();
