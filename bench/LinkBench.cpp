@@ -100,7 +100,9 @@ struct Sim
     QString path;
     explicit Sim(const QStringList &extra)
     {
-        process.start(QStringLiteral(TARVIK_SIM_PATH),
+        // TARVIK_SIM names another build of the simulator (the bench's own copy while the tree
+        // is rebuilt).
+        process.start(qEnvironmentVariable("TARVIK_SIM", QStringLiteral(TARVIK_SIM_PATH)),
                       QStringList{"--quiet", "--line-costs"} + extra);
         process.waitForStarted(5000);
         while (!process.canReadLine() && process.waitForReadyRead(5000)) {
