@@ -306,6 +306,22 @@ TEST(EditorWriting, WriteSendsTheEditAndClosingAsksOnlyAfterAChange)
     EXPECT_FALSE(e.visible("Gauge1"));
 }
 
+TEST(EditorWriting, ALightValidatorGetsBackTheEnableMaskItGave)
+{
+    // The editor starts from a blank image whose 60 enable boxes are checked; a Light read
+    // shows only 25 of them.
+    Editor e(0x33);
+    e.open();
+    const EnableBitmap read = e.device->memory().enable;
+    e.edit("EHFUBMIN3", "40");
+    e.model->SpeedButton8Click();
+    ASSERT_TRUE(e.prompt.told().contains(QStringLiteral("Finished operation!")));
+    EXPECT_EQ(e.device->memory().channels[3][Rec::HfuLowMin], 40);
+    EXPECT_EQ(e.device->memory().enable, read);
+    for (int k = 25; k < 60; ++k)
+        ASSERT_EQ(e.image().channels[std::size_t(k)][Rec::Enabled], 0) << k;
+}
+
 TEST(EditorWriting, CablePulledDuringAWriteLeavesTheFormUsable)
 {
     Editor e;

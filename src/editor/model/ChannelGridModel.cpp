@@ -154,7 +154,8 @@ QStringList ChannelGridModel::store(const DecimalWord &base1, const DecimalWord 
         if (!value)
             notNumbers.append(valueBox);
         image.values[std::size_t(Val::Channel0 + k)] = value.value_or(kNotSet);
-        record[Rec::Enabled] = m_s.checked(channelControl("Enable", k)) ? 1 : 0;
+        // The hidden boxes of a Light validator may still be checked from an earlier image.
+        record[Rec::Enabled] = k < image.channelCount() && m_s.checked(channelControl("Enable", k));
     }
     image.rebuildEnableBitmap();
     return notNumbers;
