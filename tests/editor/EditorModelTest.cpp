@@ -108,7 +108,7 @@ TEST(EditorDisplay, OpeningReadShowsTheWholeImageAndKeepsABackup)
     EXPECT_EQ(e.text("EHFUBMIN0"), ByteToText(3, image.channels[0][Rec::HfuLowMin]));
     EXPECT_EQ(e.text("EHFHMAX3"), ByteToText(3, image.channels[3][Rec::HflHighMax]));
     EXPECT_EQ(e.text("EHFUBMIN40"), QString());
-    EXPECT_EQ(e.text("Value0"), FormatChannelValue(2, 6, 5, image.valueByte(0)));
+    EXPECT_EQ(e.text("Value0"), QStringLiteral("   0.05")); // 7 wide
     EXPECT_TRUE(e.model->control("Enable0").checked);
     EXPECT_FALSE(e.model->control(QStringLiteral("Enable%1").arg(59)).checked);
     EXPECT_EQ(e.text("LVERSIONH"), QStringLiteral("5.3"));
@@ -254,6 +254,7 @@ TEST(EditorEditing, SerialBasesAndValuesGoThroughTheGeneralExit)
     // Channel values of base 1 (0.05) and of base 2, edited in the same form.
     e.edit("Value2", "0.50");
     EXPECT_EQ(e.image().valueByte(2), 10);
+    EXPECT_EQ(e.text("Value2"), QStringLiteral("   0.50"));
     e.edit("Value40", "-p2-");
     EXPECT_EQ(e.image().valueByte(40), 254);
     EXPECT_EQ(e.text("Value40"), QStringLiteral("  -P2-"));
@@ -263,7 +264,7 @@ TEST(EditorEditing, SerialBasesAndValuesGoThroughTheGeneralExit)
     EXPECT_EQ(e.image().values[Val::Base1], 0x40);
     EXPECT_EQ(e.image().values[Val::Base1 + 1], 10);
     EXPECT_EQ(e.image().valueByte(2), 10);
-    EXPECT_EQ(e.text("Value2"), QStringLiteral("  1.00"));
+    EXPECT_EQ(e.text("Value2"), QStringLiteral("   1.00"));
 }
 
 TEST(EditorEditing, ActionsThatDoNotFitTheControlAreRefused)

@@ -127,7 +127,7 @@ TEST(Bases, EqualBasesFollowAndTheSecondIsNeverClearedAlone)
     EXPECT_EQ(r.image().values[3], 10);
     // Bytes stay; amounts follow the base.
     EXPECT_EQ(r.image().valueByte(0), 1);
-    EXPECT_EQ(r.text("Value0"), QStringLiteral("  0.10"));
+    EXPECT_EQ(r.text("Value0"), QStringLiteral("   0.10"));
 
     r.prompt.clear();
     r.edit("Ebase2", "0.20");

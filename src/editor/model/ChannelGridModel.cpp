@@ -125,7 +125,8 @@ void ChannelGridModel::display()
         record[Rec::Value] = image.valueByte(k);
         const DecimalWord &base = k < 30 ? base1 : base2;
         c.setText(channelControl("Value", k),
-                  FormatChannelValue(base.decimals, 6, base.magnitude, record[Rec::Value]));
+                  FormatChannelValue(base.decimals, EditorState::kValueWidth, base.magnitude,
+                                     record[Rec::Value]));
         record[Rec::Enabled] = image.enableBit(k) ? 1 : 0;
         c.setChecked(channelControl("Enable", k), record[Rec::Enabled] != 0);
     }

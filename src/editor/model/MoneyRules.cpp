@@ -216,8 +216,8 @@ void MoneyModel::Value0Exit(int k)
         m_s.image.values[std::size_t(Val::Channel0 + k)] = record[Rec::Value] = *parsed;
     // Shown against base 1 whatever the channel, as the validator's tools always have.
     const DecimalWord base1 = m_s.base(0);
-    m_s.controls.setText(
-        box, FormatChannelValue(base1.decimals, 6, base1.magnitude, m_s.image.valueByte(k)));
+    m_s.controls.setText(box, FormatChannelValue(base1.decimals, EditorState::kValueWidth,
+                                                 base1.magnitude, m_s.image.valueByte(k)));
 }
 
 bool MoneyModel::Sub0Exit(int k)
