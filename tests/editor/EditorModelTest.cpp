@@ -40,6 +40,12 @@ public:
     QString openPath, savePath;
     int firmwareRequests = 0;
     QString backupDirectory() override { return backups; }
+    bool continueDespite(const QString &) override
+    {
+        ++warnings;
+        return true;
+    }
+    int warnings = 0;
     FakeTables fakeTables;
     QString backups;
 };
@@ -321,6 +327,29 @@ TEST(EditorWriting, ALightValidatorGetsBackTheEnableMaskItGave)
     EXPECT_EQ(e.device->memory().enable, read);
     for (int k = 25; k < 60; ++k)
         ASSERT_EQ(e.image().channels[std::size_t(k)][Rec::Enabled], 0) << k;
+}
+
+TEST(EditorWriting, SavingShowsOnceTheWarningsArePast)
+{
+    Editor e;
+    e.open();
+    ASSERT_TRUE(e.model->click("ChkCode")); // no code set: "Invalid code table !"
+    e.edit("EHFUBMIN59", "7");              // the validator's last channel differs
+    QStringList toldWhenShown;
+    int warningsWhenShown = -1;
+    e.model->changed = [&](const QStringList &names) {
+        if (names.contains(QStringLiteral("Label3")) && e.visible("Label3") &&
+            warningsWhenShown < 0) {
+            EXPECT_EQ(e.text("Label3"), QStringLiteral("Saving in progress....."));
+            EXPECT_TRUE(e.visible("Gauge1"));
+            toldWhenShown = e.prompt.told();
+            warningsWhenShown = e.services.warnings;
+        }
+    };
+    e.model->SpeedButton8Click();
+    EXPECT_EQ(warningsWhenShown, 1);
+    EXPECT_TRUE(toldWhenShown.contains(QStringLiteral("Invalid code table !")));
+    EXPECT_TRUE(e.prompt.told().contains(QStringLiteral("Finished operation!")));
 }
 
 TEST(EditorWriting, CablePulledDuringAWriteLeavesTheFormUsable)
