@@ -265,7 +265,13 @@ TEST(Counters, CountingNeedsErasableCountersAndStartsFromZero)
     EXPECT_EQ(r.text("LabeledEdit3"), QStringLiteral("      1235"));
     r.edit("LabeledEdit3", "abc");
     EXPECT_EQ(r.image().counters[3], 0xD3);
+    EXPECT_EQ(r.text("LabeledEdit3"), QStringLiteral("      1235"));
     r.edit("LabeledEdit3", "65535");
+    EXPECT_EQ(r.text("LabeledEdit3"), QString());
+    // 65535 or more leaves the box empty, whatever low 16 bits are stored.
+    r.edit("LabeledEdit3", "70000");
+    EXPECT_EQ(r.image().counters[2], 0x11);
+    EXPECT_EQ(r.image().counters[3], 0x70);
     EXPECT_EQ(r.text("LabeledEdit3"), QString());
     r.edit("LabeledEdit3", "");
     EXPECT_EQ(r.image().counters[2], 0xFF);

@@ -13,6 +13,11 @@ quint16 counterWord(const CounterBlock &block, int at)
     return quint16(block[std::size_t(at)] << 8 | block[std::size_t(at + 1)]);
 }
 
+QString limitText(quint16 limit)
+{
+    return limit == 0xFFFF ? QString() : QString::asprintf("%10d", int(limit));
+}
+
 } // namespace
 
 void CountersModel::addControls()
@@ -67,9 +72,7 @@ void CountersModel::display()
                   counter == 0xFFFF ? captionText(Cap::Off) : QString::number(counter));
     }
     for (auto [box, at] : {std::pair{"LabeledEdit3", 2}, std::pair{"LabeledEdit4", 6}}) {
-        const quint16 limit = counterWord(block, at);
-        c.setText(QLatin1String(box),
-                  limit == 0xFFFF ? QString() : QString::asprintf("%10d", int(limit)));
+        c.setText(QLatin1String(box), limitText(counterWord(block, at)));
     }
     // Counting is on while bit 6 of the second byte is clear; bit 5 set makes the counters
     // erasable.
@@ -162,12 +165,14 @@ void CountersModel::limitExit(int limit)
     const double value = ok ? 65535.0 : text.toDouble(&ok);
     if (!ok || !std::isfinite(value)) {
         m_s.tell(messageText(Msg::ValueBetween0And255));
-        return; // the old limit stays, and shows again
+        m_s.controls.setText(box, limitText(counterWord(block, at))); // the old limit stays
+        return;
     }
     const qint64 rounded = std::llround(std::clamp(value, -1e15, 1e15));
     block[std::size_t(at)] = quint8((rounded >> 8) & 0xFF);
     block[std::size_t(at + 1)] = quint8(rounded & 0xFF);
     m_s.flags.configModified = true;
+    // A limit of 65535 or more leaves the box empty, whatever low 16 bits were stored.
     m_s.controls.setText(box, rounded < 65535 ? QString::asprintf("%10d", int(quint16(rounded)))
                                               : QString());
 }

@@ -380,9 +380,8 @@ void EditorModel::exitBox(const QString &name)
         if (m_money.Sub0Exit(k))
             EHFUBMIN0Exit();
     } else if (name == QLatin1String("LabeledEdit3") || name == QLatin1String("LabeledEdit4")) {
+        // The limit box shows what its exit wrote; the rest of the form is unchanged.
         m_counters.limitExit(name == QLatin1String("LabeledEdit3") ? 1 : 2);
-        if (changed)
-            display();
     } else {
         EHFUBMIN0Exit();
     }
