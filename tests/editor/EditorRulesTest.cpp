@@ -243,9 +243,10 @@ TEST(Counters, CountingNeedsErasableCountersAndStartsFromZero)
 {
     Rules r;
     const OptionWord word = r.image().options;
-    r.click("CounterEnable");
+    ASSERT_FALSE(r.checked("CounterEnable"));
+    r.click("CounterEnable"); // checked again at once, nothing else
     EXPECT_EQ(r.image().options, word);
-    EXPECT_FALSE(r.checked("CounterEnable"));
+    EXPECT_TRUE(r.checked("CounterEnable"));
     EXPECT_EQ(r.text("CounterEnable"), QStringLiteral("Desactived"));
 
     r.pick("GroupType", 1);
@@ -282,6 +283,29 @@ TEST(Counters, CountingNeedsErasableCountersAndStartsFromZero)
     r.click("Button1");
     EXPECT_EQ(r.image().counters[0], 0);
     EXPECT_TRUE(r.model.flags().configModified);
+}
+
+TEST(Counters, UncheckingErasableLeavesCountingAsItWas)
+{
+    Rules r;
+    ConfigImage image = r.image();
+    image.options = {0xFF, 0xE7}; // erasable, counting off
+    r.model.loadImage(image, false);
+    ASSERT_TRUE(r.checked("RazEnable"));
+    ASSERT_FALSE(r.checked("CounterEnable"));
+    r.click("RazEnable");
+    EXPECT_EQ(r.image().options, (OptionWord{0xFF, 0xC7}));
+    EXPECT_TRUE(r.checked("CounterEnable"));
+    EXPECT_EQ(r.text("CounterEnable"), QStringLiteral("Desactived"));
+    EXPECT_FALSE(r.visible("Button1"));
+    EXPECT_TRUE(r.model.flags().configModified);
+    r.edit("EHFUBMIN0", "12"); // a refill keeps it checked
+    EXPECT_TRUE(r.checked("CounterEnable"));
+
+    // Erasable again: the box shows the option word.
+    r.click("RazEnable");
+    EXPECT_EQ(r.image().options, (OptionWord{0xFF, 0xE7}));
+    EXPECT_FALSE(r.checked("CounterEnable"));
 }
 
 TEST(CodeTable, CodesAndTheirLamps)

@@ -75,12 +75,13 @@ void CountersModel::display()
         c.setText(QLatin1String(box), limitText(counterWord(block, at)));
     }
     // Counting is on while bit 6 of the second byte is clear; bit 5 set makes the counters
-    // erasable.
+    // erasable. "Actived" checked again while the counters are not erasable stays checked; its
+    // caption still says what the validator does.
     const bool counting = !(word[1] & 0x40);
-    c.setChecked(QStringLiteral("CounterEnable"), counting);
+    const bool erasable = word[1] & 0x20;
+    c.setChecked(QStringLiteral("CounterEnable"), counting || (m_activedHeld && !erasable));
     c.setText(QStringLiteral("CounterEnable"),
               captionText(counting ? Cap::Actived : Cap::Desactived));
-    const bool erasable = word[1] & 0x20;
     c.setChecked(QStringLiteral("RazEnable"), erasable);
 
     // The vend limits belong to the two-price totalizer and its limit switches.
@@ -100,9 +101,12 @@ void CountersModel::display()
 
 void CountersModel::CounterEnableClick()
 {
-    // Counting cannot be switched off unless the counters are erasable.
-    if (!m_s.checked(QStringLiteral("RazEnable")))
+    // Counting cannot be switched off unless the counters are erasable: the box is checked
+    // again and nothing else happens.
+    if (!m_s.checked(QStringLiteral("RazEnable"))) {
+        m_activedHeld = true;
         return;
+    }
     OptionWord &word = m_s.image.options;
     word[1] ^= 0x40;
     m_s.flags.configModified = true;
@@ -134,9 +138,9 @@ void CountersModel::RazEnableClick()
 {
     OptionWord &word = m_s.image.options;
     word[1] ^= 0x20;
-    // Counters that cannot be erased keep counting.
-    if (!(word[1] & 0x20))
-        word[1] &= quint8(~0x40);
+    // Counters that cannot be erased show "Actived" checked; counting itself (bit 6) is left
+    // as it was.
+    m_activedHeld = !(word[1] & 0x20);
     m_s.flags.configModified = true;
 }
 

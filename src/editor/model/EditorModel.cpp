@@ -167,6 +167,7 @@ void EditorModel::loadImage(const ConfigImage &image, bool modified)
 {
     m_s.image = image;
     m_money.takeCodeFromImage();
+    m_counters.takeFromImage();
     showModel(image.isLight());
     showPagesOfImage();
     display();
@@ -250,6 +251,7 @@ void EditorModel::SpeedButton1Click()
         m_s.flags.readOnOpen = false;
         m_s.flags.editChanged = false;
         m_money.takeCodeFromImage();
+        m_counters.takeFromImage();
         display();
         m_s.flags.promptFlag = true;
         m_s.flags.configModified = false;
