@@ -100,21 +100,38 @@ TEST(Prices, SlotsStoreByTypeAndPulseWidthIsLimited)
     EXPECT_EQ(r.image().prices[2], 55);
 }
 
-TEST(Prices, ChainedEnablingUnderTheCreditTypes)
+TEST(Prices, ChainedEnablingChangesOnlyOnLeavingPriceOneOrFour)
 {
     Rules r;
-    r.pick("GroupType", 2);
-    r.edit("Eprix1", "0.10");
-    EXPECT_TRUE(r.enabled("Eprix4"));
+    auto enabled = [&r](std::initializer_list<const char *> names, bool expected) {
+        for (const char *name : names)
+            EXPECT_EQ(r.enabled(name), expected) << name;
+    };
+    // The type's defaults can be edited at once.
+    r.pick("GroupType", 4);
+    enabled({"Eprix4", "EPrix5", "LValueP5", "Eprix6"}, true);
+    r.edit("Eprix1", "1.00");
+    r.edit("EPrix5", "4");
+    EXPECT_EQ(r.image().prices[4], 4);
+
+    r.pick("GroupType", 2); // price 4 shows
+    ASSERT_TRUE(r.visible("Eprix4"));
     r.edit("Eprix1", "");
-    for (const char *name : {"Eprix4", "LValueP4", "Eprix6", "LValueP6"})
-        EXPECT_FALSE(r.enabled(name)) << name;
+    enabled({"Eprix4", "LValueP4", "Eprix6", "LValueP6"}, false);
+    enabled({"EPrix5", "LValueP5"}, true);
+    r.edit("Eprix2", "0.10"); // another box's exit leaves the chain alone
+    enabled({"Eprix4", "Eprix6"}, false);
     r.edit("Eprix1", "0.10");
-    r.edit("Eprix4", "0.20");
-    EXPECT_TRUE(r.enabled("EPrix5"));
-    EXPECT_TRUE(r.enabled("Eprix6"));
-    r.pick("GroupType", 1); // not a chained type
-    EXPECT_TRUE(r.enabled("Eprix4"));
+    enabled({"Eprix4", "Eprix6"}, true);
+    r.edit("Eprix4", "");
+    enabled({"EPrix5", "LValueP5", "Eprix6", "LValueP6"}, false);
+    enabled({"Eprix4"}, true);
+
+    // A new type starts with every price enabled; under type 1 there is no chain.
+    r.pick("GroupType", 1);
+    enabled({"EPrix5", "Eprix6"}, true);
+    r.edit("Eprix1", "");
+    enabled({"Eprix4", "Eprix6"}, true);
 }
 
 TEST(Bases, EqualBasesFollowAndTheSecondIsNeverClearedAlone)

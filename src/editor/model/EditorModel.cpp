@@ -166,7 +166,7 @@ void EditorModel::showPagesOfImage()
 void EditorModel::loadImage(const ConfigImage &image, bool modified)
 {
     m_s.image = image;
-    m_money.takeCodeFromImage();
+    m_money.takeFromImage();
     m_counters.takeFromImage();
     showModel(image.isLight());
     showPagesOfImage();
@@ -250,7 +250,7 @@ void EditorModel::SpeedButton1Click()
         }
         m_s.flags.readOnOpen = false;
         m_s.flags.editChanged = false;
-        m_money.takeCodeFromImage();
+        m_money.takeFromImage();
         m_counters.takeFromImage();
         display();
         m_s.flags.promptFlag = true;
