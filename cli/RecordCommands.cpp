@@ -69,9 +69,10 @@ int loadCommand(CliContext &cli, const QStringList &arguments)
     if (!openTables(cli, db, {&TDBModule::Gettoniere}))
         return kExitFailed;
     ValidatorStore store(db, cli.prompt());
+    // Opened as the editor opens it, into a blank image.
     ConfigImage image = ConfigImage::blank();
     ValidatorStore::LoadReport report;
-    if (!store.load(ident, image, nullptr, &report)) {
+    if (!store.loadInto(ident, image, nullptr, &report)) {
         cli.err() << (store.errorString().isEmpty()
                           ? QStringLiteral("No validator is stored as %1").arg(ident)
                           : store.errorString())
@@ -86,6 +87,11 @@ int loadCommand(CliContext &cli, const QStringList &arguments)
         cli.prompt().tell(
             messageText(Msg::SavedChannelsDuplicated, {ident, joined(report.duplicated)}),
             UserPrompt::Kind::Warning);
+    // What the tables do not hold, named as the file names it.
+    cli.prompt().tell(QStringLiteral("Not stored in the tables, left not set (ff): version bytes "
+                                     "1-2, ident, counters, values bytes 68-74, block2, block13, "
+                                     "setting8, status9"),
+                      UserPrompt::Kind::Information);
     return writeImageOutput(cli, image, output);
 }
 

@@ -30,7 +30,8 @@ void ConfigImage::rebuildEnableBitmap()
 {
     enable.fill(0);
     enable[0] = 0xF0;
-    for (int k = 0; k < kChannels; ++k) {
+    // A channel the model does not have is never enabled (25 channels on the Light model).
+    for (int k = 0; k < channelCount(); ++k) {
         if (channels[std::size_t(k)][Rec::Enabled] != 0)
             enable[std::size_t(7 - k / 8)] |= quint8(1 << (k % 8));
     }

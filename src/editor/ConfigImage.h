@@ -82,8 +82,9 @@ struct ConfigImage
 
     // Channel enable bit k of the bitmap: bit (k mod 8) of byte 7 - k/8.
     bool enableBit(int k) const;
-    // Rebuilds the bitmap from the records' enable bytes, starting from F0 00 .. 00, so that the
-    // four missing channels 60 to 63 are always sent as enabled.
+    // Rebuilds the bitmap from the enable bytes of the channels the model has, starting from
+    // F0 00 .. 00, so that the four missing channels 60 to 63 are always sent as enabled and the
+    // channels past the 25th of a Light validator never are.
     void rebuildEnableBitmap();
     // Copies the value bytes and enable bits into bytes 15 and 16 of every record, as the
     // display does.

@@ -40,6 +40,12 @@ public:
     QString openPath, savePath;
     int firmwareRequests = 0;
     QString backupDirectory() override { return backups; }
+    bool continueDespite(const QString &) override
+    {
+        ++warnings;
+        return true;
+    }
+    int warnings = 0;
     FakeTables fakeTables;
     QString backups;
 };
@@ -108,7 +114,7 @@ TEST(EditorDisplay, OpeningReadShowsTheWholeImageAndKeepsABackup)
     EXPECT_EQ(e.text("EHFUBMIN0"), ByteToText(3, image.channels[0][Rec::HfuLowMin]));
     EXPECT_EQ(e.text("EHFHMAX3"), ByteToText(3, image.channels[3][Rec::HflHighMax]));
     EXPECT_EQ(e.text("EHFUBMIN40"), QString());
-    EXPECT_EQ(e.text("Value0"), FormatChannelValue(2, 6, 5, image.valueByte(0)));
+    EXPECT_EQ(e.text("Value0"), QStringLiteral("   0.05")); // 7 wide
     EXPECT_TRUE(e.model->control("Enable0").checked);
     EXPECT_FALSE(e.model->control(QStringLiteral("Enable%1").arg(59)).checked);
     EXPECT_EQ(e.text("LVERSIONH"), QStringLiteral("5.3"));
@@ -254,6 +260,7 @@ TEST(EditorEditing, SerialBasesAndValuesGoThroughTheGeneralExit)
     // Channel values of base 1 (0.05) and of base 2, edited in the same form.
     e.edit("Value2", "0.50");
     EXPECT_EQ(e.image().valueByte(2), 10);
+    EXPECT_EQ(e.text("Value2"), QStringLiteral("   0.50"));
     e.edit("Value40", "-p2-");
     EXPECT_EQ(e.image().valueByte(40), 254);
     EXPECT_EQ(e.text("Value40"), QStringLiteral("  -P2-"));
@@ -263,7 +270,7 @@ TEST(EditorEditing, SerialBasesAndValuesGoThroughTheGeneralExit)
     EXPECT_EQ(e.image().values[Val::Base1], 0x40);
     EXPECT_EQ(e.image().values[Val::Base1 + 1], 10);
     EXPECT_EQ(e.image().valueByte(2), 10);
-    EXPECT_EQ(e.text("Value2"), QStringLiteral("  1.00"));
+    EXPECT_EQ(e.text("Value2"), QStringLiteral("   1.00"));
 }
 
 TEST(EditorEditing, ActionsThatDoNotFitTheControlAreRefused)
@@ -304,6 +311,45 @@ TEST(EditorWriting, WriteSendsTheEditAndClosingAsksOnlyAfterAChange)
     EXPECT_TRUE(e.prompt.told().contains(QStringLiteral("Finished operation!")));
     EXPECT_FALSE(e.model->flags().configModified);
     EXPECT_FALSE(e.visible("Gauge1"));
+}
+
+TEST(EditorWriting, ALightValidatorGetsBackTheEnableMaskItGave)
+{
+    // The editor starts from a blank image whose 60 enable boxes are checked; a Light read
+    // shows only 25 of them.
+    Editor e(0x33);
+    e.open();
+    const EnableBitmap read = e.device->memory().enable;
+    e.edit("EHFUBMIN3", "40");
+    e.model->SpeedButton8Click();
+    ASSERT_TRUE(e.prompt.told().contains(QStringLiteral("Finished operation!")));
+    EXPECT_EQ(e.device->memory().channels[3][Rec::HfuLowMin], 40);
+    EXPECT_EQ(e.device->memory().enable, read);
+    for (int k = 25; k < 60; ++k)
+        ASSERT_EQ(e.image().channels[std::size_t(k)][Rec::Enabled], 0) << k;
+}
+
+TEST(EditorWriting, SavingShowsOnceTheWarningsArePast)
+{
+    Editor e;
+    e.open();
+    ASSERT_TRUE(e.model->click("ChkCode")); // no code set: "Invalid code table !"
+    e.edit("EHFUBMIN59", "7");              // the validator's last channel differs
+    QStringList toldWhenShown;
+    int warningsWhenShown = -1;
+    e.model->changed = [&](const QStringList &names) {
+        if (names.contains(QStringLiteral("Label3")) && e.visible("Label3") &&
+            warningsWhenShown < 0) {
+            EXPECT_EQ(e.text("Label3"), QStringLiteral("Saving in progress....."));
+            EXPECT_TRUE(e.visible("Gauge1"));
+            toldWhenShown = e.prompt.told();
+            warningsWhenShown = e.services.warnings;
+        }
+    };
+    e.model->SpeedButton8Click();
+    EXPECT_EQ(warningsWhenShown, 1);
+    EXPECT_TRUE(toldWhenShown.contains(QStringLiteral("Invalid code table !")));
+    EXPECT_TRUE(e.prompt.told().contains(QStringLiteral("Finished operation!")));
 }
 
 TEST(EditorWriting, CablePulledDuringAWriteLeavesTheFormUsable)

@@ -100,21 +100,38 @@ TEST(Prices, SlotsStoreByTypeAndPulseWidthIsLimited)
     EXPECT_EQ(r.image().prices[2], 55);
 }
 
-TEST(Prices, ChainedEnablingUnderTheCreditTypes)
+TEST(Prices, ChainedEnablingChangesOnlyOnLeavingPriceOneOrFour)
 {
     Rules r;
-    r.pick("GroupType", 2);
-    r.edit("Eprix1", "0.10");
-    EXPECT_TRUE(r.enabled("Eprix4"));
+    auto enabled = [&r](std::initializer_list<const char *> names, bool expected) {
+        for (const char *name : names)
+            EXPECT_EQ(r.enabled(name), expected) << name;
+    };
+    // The type's defaults can be edited at once.
+    r.pick("GroupType", 4);
+    enabled({"Eprix4", "EPrix5", "LValueP5", "Eprix6"}, true);
+    r.edit("Eprix1", "1.00");
+    r.edit("EPrix5", "4");
+    EXPECT_EQ(r.image().prices[4], 4);
+
+    r.pick("GroupType", 2); // price 4 shows
+    ASSERT_TRUE(r.visible("Eprix4"));
     r.edit("Eprix1", "");
-    for (const char *name : {"Eprix4", "LValueP4", "Eprix6", "LValueP6"})
-        EXPECT_FALSE(r.enabled(name)) << name;
+    enabled({"Eprix4", "LValueP4", "Eprix6", "LValueP6"}, false);
+    enabled({"EPrix5", "LValueP5"}, true);
+    r.edit("Eprix2", "0.10"); // another box's exit leaves the chain alone
+    enabled({"Eprix4", "Eprix6"}, false);
     r.edit("Eprix1", "0.10");
-    r.edit("Eprix4", "0.20");
-    EXPECT_TRUE(r.enabled("EPrix5"));
-    EXPECT_TRUE(r.enabled("Eprix6"));
-    r.pick("GroupType", 1); // not a chained type
-    EXPECT_TRUE(r.enabled("Eprix4"));
+    enabled({"Eprix4", "Eprix6"}, true);
+    r.edit("Eprix4", "");
+    enabled({"EPrix5", "LValueP5", "Eprix6", "LValueP6"}, false);
+    enabled({"Eprix4"}, true);
+
+    // A new type starts with every price enabled; under type 1 there is no chain.
+    r.pick("GroupType", 1);
+    enabled({"EPrix5", "Eprix6"}, true);
+    r.edit("Eprix1", "");
+    enabled({"Eprix4", "Eprix6"}, true);
 }
 
 TEST(Bases, EqualBasesFollowAndTheSecondIsNeverClearedAlone)
@@ -127,7 +144,7 @@ TEST(Bases, EqualBasesFollowAndTheSecondIsNeverClearedAlone)
     EXPECT_EQ(r.image().values[3], 10);
     // Bytes stay; amounts follow the base.
     EXPECT_EQ(r.image().valueByte(0), 1);
-    EXPECT_EQ(r.text("Value0"), QStringLiteral("  0.10"));
+    EXPECT_EQ(r.text("Value0"), QStringLiteral("   0.10"));
 
     r.prompt.clear();
     r.edit("Ebase2", "0.20");
@@ -243,9 +260,10 @@ TEST(Counters, CountingNeedsErasableCountersAndStartsFromZero)
 {
     Rules r;
     const OptionWord word = r.image().options;
-    r.click("CounterEnable");
+    ASSERT_FALSE(r.checked("CounterEnable"));
+    r.click("CounterEnable"); // checked again at once, nothing else
     EXPECT_EQ(r.image().options, word);
-    EXPECT_FALSE(r.checked("CounterEnable"));
+    EXPECT_TRUE(r.checked("CounterEnable"));
     EXPECT_EQ(r.text("CounterEnable"), QStringLiteral("Desactived"));
 
     r.pick("GroupType", 1);
@@ -265,7 +283,13 @@ TEST(Counters, CountingNeedsErasableCountersAndStartsFromZero)
     EXPECT_EQ(r.text("LabeledEdit3"), QStringLiteral("      1235"));
     r.edit("LabeledEdit3", "abc");
     EXPECT_EQ(r.image().counters[3], 0xD3);
+    EXPECT_EQ(r.text("LabeledEdit3"), QStringLiteral("      1235"));
     r.edit("LabeledEdit3", "65535");
+    EXPECT_EQ(r.text("LabeledEdit3"), QString());
+    // 65535 or more leaves the box empty, whatever low 16 bits are stored.
+    r.edit("LabeledEdit3", "70000");
+    EXPECT_EQ(r.image().counters[2], 0x11);
+    EXPECT_EQ(r.image().counters[3], 0x70);
     EXPECT_EQ(r.text("LabeledEdit3"), QString());
     r.edit("LabeledEdit3", "");
     EXPECT_EQ(r.image().counters[2], 0xFF);
@@ -276,6 +300,29 @@ TEST(Counters, CountingNeedsErasableCountersAndStartsFromZero)
     r.click("Button1");
     EXPECT_EQ(r.image().counters[0], 0);
     EXPECT_TRUE(r.model.flags().configModified);
+}
+
+TEST(Counters, UncheckingErasableLeavesCountingAsItWas)
+{
+    Rules r;
+    ConfigImage image = r.image();
+    image.options = {0xFF, 0xE7}; // erasable, counting off
+    r.model.loadImage(image, false);
+    ASSERT_TRUE(r.checked("RazEnable"));
+    ASSERT_FALSE(r.checked("CounterEnable"));
+    r.click("RazEnable");
+    EXPECT_EQ(r.image().options, (OptionWord{0xFF, 0xC7}));
+    EXPECT_TRUE(r.checked("CounterEnable"));
+    EXPECT_EQ(r.text("CounterEnable"), QStringLiteral("Desactived"));
+    EXPECT_FALSE(r.visible("Button1"));
+    EXPECT_TRUE(r.model.flags().configModified);
+    r.edit("EHFUBMIN0", "12"); // a refill keeps it checked
+    EXPECT_TRUE(r.checked("CounterEnable"));
+
+    // Erasable again: the box shows the option word.
+    r.click("RazEnable");
+    EXPECT_EQ(r.image().options, (OptionWord{0xFF, 0xE7}));
+    EXPECT_FALSE(r.checked("CounterEnable"));
 }
 
 TEST(CodeTable, CodesAndTheirLamps)

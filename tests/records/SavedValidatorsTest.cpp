@@ -55,7 +55,11 @@ TEST(SavedValidators, FilterOpenIntoTheEditorAndDelete)
     EXPECT_TRUE(editor.flags().configModified);
     EXPECT_EQ(editor.control("EHFUBMIN0").text, ByteToText(3, shop.channels[0][Rec::HfuLowMin]));
 
+    // The family byte comes from the tables too.
     browser.setFilter(QStringLiteral("bar"));
+    ASSERT_TRUE(browser.BtnOpenClick());
+    EXPECT_EQ(editor.image().version[0], 0x23);
+    EXPECT_EQ(editor.image().enable, bar.enable);
     prompt.setNextAnswers({UserPrompt::Answer::No});
     EXPECT_FALSE(browser.BtnDeleteClick());
     ASSERT_TRUE(browser.BtnDeleteClick());

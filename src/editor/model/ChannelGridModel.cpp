@@ -125,7 +125,8 @@ void ChannelGridModel::display()
         record[Rec::Value] = image.valueByte(k);
         const DecimalWord &base = k < 30 ? base1 : base2;
         c.setText(channelControl("Value", k),
-                  FormatChannelValue(base.decimals, 6, base.magnitude, record[Rec::Value]));
+                  FormatChannelValue(base.decimals, EditorState::kValueWidth, base.magnitude,
+                                     record[Rec::Value]));
         record[Rec::Enabled] = image.enableBit(k) ? 1 : 0;
         c.setChecked(channelControl("Enable", k), record[Rec::Enabled] != 0);
     }
@@ -154,7 +155,8 @@ QStringList ChannelGridModel::store(const DecimalWord &base1, const DecimalWord 
         if (!value)
             notNumbers.append(valueBox);
         image.values[std::size_t(Val::Channel0 + k)] = value.value_or(kNotSet);
-        record[Rec::Enabled] = m_s.checked(channelControl("Enable", k)) ? 1 : 0;
+        // The hidden boxes of a Light validator may still be checked from an earlier image.
+        record[Rec::Enabled] = k < image.channelCount() && m_s.checked(channelControl("Enable", k));
     }
     image.rebuildEnableBitmap();
     return notNumbers;

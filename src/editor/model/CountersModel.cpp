@@ -13,6 +13,11 @@ quint16 counterWord(const CounterBlock &block, int at)
     return quint16(block[std::size_t(at)] << 8 | block[std::size_t(at + 1)]);
 }
 
+QString limitText(quint16 limit)
+{
+    return limit == 0xFFFF ? QString() : QString::asprintf("%10d", int(limit));
+}
+
 } // namespace
 
 void CountersModel::addControls()
@@ -67,17 +72,16 @@ void CountersModel::display()
                   counter == 0xFFFF ? captionText(Cap::Off) : QString::number(counter));
     }
     for (auto [box, at] : {std::pair{"LabeledEdit3", 2}, std::pair{"LabeledEdit4", 6}}) {
-        const quint16 limit = counterWord(block, at);
-        c.setText(QLatin1String(box),
-                  limit == 0xFFFF ? QString() : QString::asprintf("%10d", int(limit)));
+        c.setText(QLatin1String(box), limitText(counterWord(block, at)));
     }
     // Counting is on while bit 6 of the second byte is clear; bit 5 set makes the counters
-    // erasable.
+    // erasable. "Actived" checked again while the counters are not erasable stays checked; its
+    // caption still says what the validator does.
     const bool counting = !(word[1] & 0x40);
-    c.setChecked(QStringLiteral("CounterEnable"), counting);
+    const bool erasable = word[1] & 0x20;
+    c.setChecked(QStringLiteral("CounterEnable"), counting || (m_activedHeld && !erasable));
     c.setText(QStringLiteral("CounterEnable"),
               captionText(counting ? Cap::Actived : Cap::Desactived));
-    const bool erasable = word[1] & 0x20;
     c.setChecked(QStringLiteral("RazEnable"), erasable);
 
     // The vend limits belong to the two-price totalizer and its limit switches.
@@ -97,9 +101,12 @@ void CountersModel::display()
 
 void CountersModel::CounterEnableClick()
 {
-    // Counting cannot be switched off unless the counters are erasable.
-    if (!m_s.checked(QStringLiteral("RazEnable")))
+    // Counting cannot be switched off unless the counters are erasable: the box is checked
+    // again and nothing else happens.
+    if (!m_s.checked(QStringLiteral("RazEnable"))) {
+        m_activedHeld = true;
         return;
+    }
     OptionWord &word = m_s.image.options;
     word[1] ^= 0x40;
     m_s.flags.configModified = true;
@@ -131,9 +138,9 @@ void CountersModel::RazEnableClick()
 {
     OptionWord &word = m_s.image.options;
     word[1] ^= 0x20;
-    // Counters that cannot be erased keep counting.
-    if (!(word[1] & 0x20))
-        word[1] &= quint8(~0x40);
+    // Counters that cannot be erased show "Actived" checked; counting itself (bit 6) is left
+    // as it was.
+    m_activedHeld = !(word[1] & 0x20);
     m_s.flags.configModified = true;
 }
 
@@ -162,12 +169,14 @@ void CountersModel::limitExit(int limit)
     const double value = ok ? 65535.0 : text.toDouble(&ok);
     if (!ok || !std::isfinite(value)) {
         m_s.tell(messageText(Msg::ValueBetween0And255));
-        return; // the old limit stays, and shows again
+        m_s.controls.setText(box, limitText(counterWord(block, at))); // the old limit stays
+        return;
     }
     const qint64 rounded = std::llround(std::clamp(value, -1e15, 1e15));
     block[std::size_t(at)] = quint8((rounded >> 8) & 0xFF);
     block[std::size_t(at + 1)] = quint8(rounded & 0xFF);
     m_s.flags.configModified = true;
+    // A limit of 65535 or more leaves the box empty, whatever low 16 bits were stored.
     m_s.controls.setText(box, rounded < 65535 ? QString::asprintf("%10d", int(quint16(rounded)))
                                               : QString());
 }

@@ -18,7 +18,11 @@ public:
     void RazEnableClick();
     void resetClick(int counter);
     void limitExit(int limit);
+    // A new image shows "Actived" as its option word says.
+    void takeFromImage() { m_activedHeld = false; }
 
 private:
     EditorState &m_s;
+    // "Actived" was checked again while the counters are not erasable; bit 6 was left alone.
+    bool m_activedHeld = false;
 };

@@ -8,6 +8,8 @@
 #include "UserPrompt.h"
 #include "WriteSequence.h"
 
+#include <utility>
+
 void EditorModel::SpeedButton8Click()
 {
     if (!m_link)
@@ -20,9 +22,13 @@ void EditorModel::SpeedButton8Click()
         options.lastChannelWarning = [&](const QString &warning) {
             return !m_services || m_services->continueDespite(warning);
         };
-        showProgress(true, messageText(Msg::SavingInProgress));
+        // The label and the gauge show when the gauge starts, after the connect loop and the
+        // warnings.
+        bool shown = false;
         WriteObserver observer;
         observer.progress = [&](int gauge) {
+            if (!std::exchange(shown, true))
+                showProgress(true, messageText(Msg::SavingInProgress));
             setGauge(gauge);
             flush();
         };

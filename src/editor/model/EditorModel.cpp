@@ -166,7 +166,8 @@ void EditorModel::showPagesOfImage()
 void EditorModel::loadImage(const ConfigImage &image, bool modified)
 {
     m_s.image = image;
-    m_money.takeCodeFromImage();
+    m_money.takeFromImage();
+    m_counters.takeFromImage();
     showModel(image.isLight());
     showPagesOfImage();
     display();
@@ -249,7 +250,8 @@ void EditorModel::SpeedButton1Click()
         }
         m_s.flags.readOnOpen = false;
         m_s.flags.editChanged = false;
-        m_money.takeCodeFromImage();
+        m_money.takeFromImage();
+        m_counters.takeFromImage();
         display();
         m_s.flags.promptFlag = true;
         m_s.flags.configModified = false;
@@ -380,9 +382,8 @@ void EditorModel::exitBox(const QString &name)
         if (m_money.Sub0Exit(k))
             EHFUBMIN0Exit();
     } else if (name == QLatin1String("LabeledEdit3") || name == QLatin1String("LabeledEdit4")) {
+        // The limit box shows what its exit wrote; the rest of the form is unchanged.
         m_counters.limitExit(name == QLatin1String("LabeledEdit3") ? 1 : 2);
-        if (changed)
-            display();
     } else {
         EHFUBMIN0Exit();
     }

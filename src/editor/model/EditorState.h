@@ -43,6 +43,8 @@ struct EditorState
 
     // Under multi-pulse a coin gives at most five pulses of its substitute channel.
     static constexpr int kMaxPulses = 5;
+    // Channel value boxes show their amount right-aligned in 7 places (price boxes in 6).
+    static constexpr int kValueWidth = 7;
     // The value byte of substitute channel s (1-based); 0 when s names no channel.
     quint8 substituteValue(int s) const;
     // "The value of channels %d and %d is incompatible for the function multi-pulse ..."

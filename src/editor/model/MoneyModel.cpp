@@ -205,7 +205,6 @@ void MoneyModel::display()
     const bool price4 = !shownAndChecked("ChkActEx");
     c.setVisible(priceLabel(3), price4);
     c.setVisible(QLatin1String(kPriceBoxes[3]), price4);
-    chainEnabling();
 
     c.setVisible(QStringLiteral("ChkCode"), type == 0);
     c.setChecked(QStringLiteral("ChkCode"), m_codeShown);
@@ -227,18 +226,23 @@ void MoneyModel::display()
               FormatExponentLong(ratio, base1.decimals, base2.decimals));
 }
 
-void MoneyModel::chainEnabling()
+void MoneyModel::chainEnabling(int slot)
 {
-    ControlSet &c = m_s.controls;
-    // Under types 2, 4, 6 and 7 price 4 needs price 1, price 5 needs price 4, price 6 both.
-    const bool chained = chainedType(m_s.outputType());
-    const bool p1 = !m_s.text(QLatin1String(kPriceBoxes[0])).trimmed().isEmpty();
-    const bool p4 = !m_s.text(QLatin1String(kPriceBoxes[3])).trimmed().isEmpty();
-    const bool enabled[6] = {true,           true,           true,
-                             !chained || p1, !chained || p4, !chained || (p1 && p4)};
-    for (int slot = 3; slot < 6; ++slot) {
-        c.setEnabled(priceLabel(slot), enabled[slot]);
-        c.setEnabled(QLatin1String(kPriceBoxes[slot]), enabled[slot]);
+    if (!chainedType(m_s.outputType()) || (slot != 0 && slot != 3))
+        return;
+    // A filled price 1 opens prices 4 and 6, a filled price 4 prices 5 and 6.
+    const bool filled = !m_s.text(QLatin1String(kPriceBoxes[slot])).trimmed().isEmpty();
+    for (int opened : {slot == 0 ? 3 : 4, 5}) {
+        m_s.controls.setEnabled(priceLabel(opened), filled);
+        m_s.controls.setEnabled(QLatin1String(kPriceBoxes[opened]), filled);
+    }
+}
+
+void MoneyModel::enableAllPrices()
+{
+    for (int slot = 0; slot < 6; ++slot) {
+        m_s.controls.setEnabled(priceLabel(slot), true);
+        m_s.controls.setEnabled(QLatin1String(kPriceBoxes[slot]), true);
     }
 }
 

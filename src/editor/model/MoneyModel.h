@@ -48,8 +48,9 @@ public:
 
     // The output type's default prices (item 5 is item 2); the "Code" box as the type wants.
     void loadTypeDefaults(int type);
-    // Whether the code group shows: taken from the image when a new one comes in.
-    void takeCodeFromImage();
+    // A new image: whether the code group shows is taken from it, and every price box is
+    // enabled again.
+    void takeFromImage();
     // Under type 4 "External reset" changes slot 3 between tenths of a 10 ms step and seconds.
     void rescaleResetWidth(bool seconds);
     // The multi-pulse rule between channel k and its substitute s (1-based): true when the
@@ -58,7 +59,9 @@ public:
     bool multiPulseActive() const;
 
 private:
-    void chainEnabling();
+    // Leaving price 1 or 4 under types 2, 4, 6 and 7 enables or disables the prices it opens.
+    void chainEnabling(int slot);
+    void enableAllPrices();
     void showCode(int box);
 
     EditorState &m_s;

@@ -61,6 +61,7 @@ void MoneyModel::priceExit(int slot)
     m_s.image.prices[std::size_t(slot)] = *byte;
     m_s.flags.editChanged = false;
     display();
+    chainEnabling(slot);
 }
 
 void MoneyModel::codeExit(int box)
@@ -98,10 +99,11 @@ void MoneyModel::ChkCodeClick()
     display();
 }
 
-void MoneyModel::takeCodeFromImage()
+void MoneyModel::takeFromImage()
 {
     const PriceBlock &p = m_s.image.prices;
     m_codeShown = m_s.outputType() == 0 && (p[2] != kNotSet || p[3] != kNotSet || p[4] != kNotSet);
+    enableAllPrices();
 }
 
 void MoneyModel::loadTypeDefaults(int type)
@@ -109,6 +111,8 @@ void MoneyModel::loadTypeDefaults(int type)
     std::copy_n(kDefaultPrices[type], 6, m_s.image.prices.begin());
     if (type != 0 && type != 4)
         m_codeShown = false;
+    // The type's defaults can all be edited until price 1 or 4 is left.
+    enableAllPrices();
 }
 
 void MoneyModel::rescaleResetWidth(bool seconds)
@@ -216,8 +220,8 @@ void MoneyModel::Value0Exit(int k)
         m_s.image.values[std::size_t(Val::Channel0 + k)] = record[Rec::Value] = *parsed;
     // Shown against base 1 whatever the channel, as the validator's tools always have.
     const DecimalWord base1 = m_s.base(0);
-    m_s.controls.setText(
-        box, FormatChannelValue(base1.decimals, 6, base1.magnitude, m_s.image.valueByte(k)));
+    m_s.controls.setText(box, FormatChannelValue(base1.decimals, EditorState::kValueWidth,
+                                                 base1.magnitude, m_s.image.valueByte(k)));
 }
 
 bool MoneyModel::Sub0Exit(int k)

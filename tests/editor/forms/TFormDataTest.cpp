@@ -242,7 +242,7 @@ private Q_SLOTS:
         QTest::mouseClick(types->item(4), Qt::LeftButton);
         QCOMPARE(editor.form.model().image().options[0], quint8(0xF5));
         QCOMPARE(editor.find<QLineEdit>("EPrix5")->text(), QStringLiteral("     3"));
-        QVERIFY(editor.find<QLineEdit>("Eprix4")->isEnabled() == false); // no price 1 yet
+        QVERIFY(editor.find<QLineEdit>("Eprix4")->isEnabled()); // until price 1 is left empty
 
         // Back to the validator output: a pulse too long is brought to 630 ms.
         QTest::mouseClick(types->item(0), Qt::LeftButton);
