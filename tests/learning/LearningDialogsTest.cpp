@@ -70,7 +70,7 @@ TEST(ChannelToAdjust, StartsAtOneAndRefusesAnEmptyChannel)
     const ConfigImage image = VirtualValidator::factoryImage(0x13, 1001);
     RecordingPrompt prompt;
     {
-        CAdjustModel dialog(image, &prompt, true);
+        CAdjustModel dialog(image, &prompt);
         EXPECT_EQ(dialog.control(QStringLiteral("TFormCAdjust")).text,
                   QStringLiteral("Channel to adjust"));
         EXPECT_EQ(dialog.control(QStringLiteral("Label2")).text,
@@ -83,8 +83,7 @@ TEST(ChannelToAdjust, StartsAtOneAndRefusesAnEmptyChannel)
         EXPECT_TRUE(dialog.accepted()); // 0 searches: never empty
     }
     {
-        CAdjustModel dialog(image, &prompt, false);
-        EXPECT_FALSE(dialog.automaticAdjustment());
+        CAdjustModel dialog(image, &prompt);
         dialog.type(QStringLiteral("SpinEdit1"), QStringLiteral("40"));
         dialog.click(QStringLiteral("BtnOK"));
         EXPECT_TRUE(dialog.closed());
@@ -94,7 +93,7 @@ TEST(ChannelToAdjust, StartsAtOneAndRefusesAnEmptyChannel)
     // Only the amplitude missing: the channel holds data.
     ConfigImage noAmp = image;
     noAmp.channels[2][Rec::AmpMin] = noAmp.channels[2][Rec::AmpMax] = 255;
-    CAdjustModel dialog(noAmp, &prompt, false);
+    CAdjustModel dialog(noAmp, &prompt);
     dialog.type(QStringLiteral("SpinEdit1"), QStringLiteral("3"));
     dialog.click(QStringLiteral("BtnOK"));
     EXPECT_TRUE(dialog.accepted());
@@ -185,7 +184,7 @@ TEST(LearningTranslations, EveryCaptionIsTranslated)
                           {ProgCoinSetup::Mode::Modify, false, false, false});
     control.setControlChannel(1);
     ToleranceModel tolerances(nullptr);
-    CAdjustModel adjust(image, nullptr, true);
+    CAdjustModel adjust(image, nullptr);
     SuperpositionModel overlap({});
     AnalyseModel analyse({});
     RefChannelModel notice;
