@@ -53,11 +53,15 @@ TEST(Tolerances, RowsShowSevenWideAndReadBackAsBytes)
     EXPECT_EQ(read.values[13], 0);
     EXPECT_TRUE(prompt.told().isEmpty());
 
-    // A value that is not a number: the conversion error, and nothing changes.
+    // A value that is not a number: the conversion error; the rows before it are stored, that
+    // row and the rest keep their margins.
     grid.type(QStringLiteral("Value9"), QStringLiteral("x7"));
     Tolerances kept = tolerances;
     EXPECT_FALSE(grid.readBack(kept));
-    EXPECT_EQ(kept, tolerances);
+    Tolerances partly = tolerances;
+    partly.values[2] = 12;
+    partly.values[3] = 44;
+    EXPECT_EQ(kept, partly);
     EXPECT_EQ(prompt.told(), QStringList{"'x7' is not a valid integer value"});
 
     grid.click(QStringLiteral("BtnCancel"));
