@@ -961,10 +961,6 @@
         <translation>Keine Wertetabelle %s gespeichert</translation>
     </message>
     <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Wertetabelle %s: die Kanäle %s enthalten keine Zahl; sie bleiben ohne Wert</translation>
-    </message>
-    <message>
         <source>Delete record?</source>
         <translation>Datensatz löschen?</translation>
     </message>

@@ -961,10 +961,6 @@
         <translation>No value table %s is stored</translation>
     </message>
     <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Value table %s: the channels %s do not hold a number; they are left without value</translation>
-    </message>
-    <message>
         <source>Delete record?</source>
         <translation>Delete record?</translation>
     </message>

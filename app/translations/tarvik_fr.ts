@@ -961,10 +961,6 @@
         <translation>Aucune table de valeurs %s n&apos;est enregistrée</translation>
     </message>
     <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Table de valeurs %s : les canaux %s ne contiennent pas de nombre ; ils restent sans valeur</translation>
-    </message>
-    <message>
         <source>Delete record?</source>
         <translation>Supprimer l&apos;enregistrement ?</translation>
     </message>

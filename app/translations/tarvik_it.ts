@@ -961,10 +961,6 @@
         <translation>Nessuna tabella dei valori %s è salvata</translation>
     </message>
     <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Tabella dei valori %s: i canali %s non contengono un numero; restano senza valore</translation>
-    </message>
-    <message>
         <source>Delete record?</source>
         <translation>Eliminare il record?</translation>
     </message>
