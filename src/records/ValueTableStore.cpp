@@ -2,6 +2,7 @@
 
 #include "DbfTable.h"
 #include "Encodings.h"
+#include "KeyOrder.h"
 #include "Messages.h"
 #include "TDBModule.h"
 #include "UserPrompt.h"
@@ -76,7 +77,7 @@ QList<ValueTableStore::Entry> ValueTableStore::list() const
     const DbfTable *table = m_db.ValueTable();
     if (!table || !table->isOpen())
         return entries;
-    for (int r : table->liveRows())
+    for (int r : rowsInKeyOrder(*table, QStringLiteral("IDENTI")))
         entries.append(
             {table->text(r, QStringLiteral("IDENTI")), table->text(r, QStringLiteral("DESCRIP"))});
     return entries;
@@ -87,7 +88,7 @@ int ValueTableStore::rowOf(int at) const
     const DbfTable *table = m_db.ValueTable();
     if (!table || !table->isOpen() || at < 0)
         return -1;
-    const std::vector<int> rows = table->liveRows();
+    const std::vector<int> rows = rowsInKeyOrder(*table, QStringLiteral("IDENTI"));
     return at < int(rows.size()) ? rows[std::size_t(at)] : -1;
 }
 
@@ -99,7 +100,7 @@ int ValueTableStore::find(const QString &name) const
     const int r = table->locate(QStringLiteral("IDENTI"), name.trimmed());
     if (r < 0)
         return -1;
-    const std::vector<int> rows = table->liveRows();
+    const std::vector<int> rows = rowsInKeyOrder(*table, QStringLiteral("IDENTI"));
     return int(std::find(rows.begin(), rows.end(), r) - rows.begin());
 }
 

@@ -23,7 +23,7 @@ public:
         QString name;
         QString description;
     };
-    // The stored tables in file order.
+    // The stored tables by name (the active index IDENTI), in the order of the table's driver.
     QList<Entry> list() const;
     // The position in list() of the table whose name equals name without regard to case; -1.
     int find(const QString &name) const;
