@@ -554,6 +554,8 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Reparieren</translation>
+    </message>
+    <message>
         <source>Tarvik help</source>
         <translation>Tarvik-Hilfe</translation>
     </message>

@@ -554,6 +554,8 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Repair</translation>
+    </message>
+    <message>
         <source>Tarvik help</source>
         <translation>Tarvik help</translation>
     </message>

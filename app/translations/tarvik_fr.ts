@@ -554,6 +554,8 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Réparer</translation>
+    </message>
+    <message>
         <source>Tarvik help</source>
         <translation>Aide de Tarvik</translation>
     </message>

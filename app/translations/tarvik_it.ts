@@ -554,6 +554,8 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Ripara</translation>
+    </message>
+    <message>
         <source>Tarvik help</source>
         <translation>Guida di Tarvik</translation>
     </message>
