@@ -152,3 +152,13 @@ TEST(Messages, EveryLanguageTranslatesEveryText)
                 << lang << ": " << qPrintable(entry.first) << ": " << qPrintable(entry.second);
     }
 }
+
+// English shows the program's own texts: the English module changes none of them.
+TEST(Messages, EnglishIsTheProgramsOwnText)
+{
+    const TsFile en = readTs(shippedTs("en"));
+    ASSERT_TRUE(en.ok);
+    EXPECT_FALSE(en.finished.isEmpty());
+    for (auto it = en.finished.cbegin(); it != en.finished.cend(); ++it)
+        EXPECT_EQ(it.value(), it.key().second) << qPrintable(it.key().first);
+}
