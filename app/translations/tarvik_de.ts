@@ -554,6 +554,8 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Reparieren</translation>
+    </message>
+    <message>
         <source>Tarvik help</source>
         <translation>Tarvik-Hilfe</translation>
     </message>
@@ -959,10 +961,6 @@
     <message>
         <source>No value table %s is stored</source>
         <translation>Keine Wertetabelle %s gespeichert</translation>
-    </message>
-    <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Wertetabelle %s: die Kanäle %s enthalten keine Zahl; sie bleiben ohne Wert</translation>
     </message>
     <message>
         <source>Delete record?</source>

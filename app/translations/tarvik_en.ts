@@ -554,6 +554,8 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Repair</translation>
+    </message>
+    <message>
         <source>Tarvik help</source>
         <translation>Tarvik help</translation>
     </message>
@@ -574,19 +576,19 @@
     <name>Messages</name>
     <message>
         <source>Internal or Comunication Error</source>
-        <translation>Internal or communication error</translation>
+        <translation>Internal or Comunication Error</translation>
     </message>
     <message>
         <source>Comunication Error !</source>
-        <translation>Communication error!</translation>
+        <translation>Comunication Error !</translation>
     </message>
     <message>
         <source>Reading Error fron validator</source>
-        <translation>Error reading from the validator</translation>
+        <translation>Reading Error fron validator</translation>
     </message>
     <message>
         <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
-        <translation>Communication port COM%d is not free or its settings are wrong.</translation>
+        <translation>Comunication Port COM%d isn&apos;t free or Setting error.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
@@ -594,63 +596,63 @@
     </message>
     <message>
         <source>Select port !!!</source>
-        <translation>Please select a port.</translation>
+        <translation>Select port !!!</translation>
     </message>
     <message>
         <source>Connect validator </source>
-        <translation>Connect the validator </translation>
+        <translation>Connect validator </translation>
     </message>
     <message>
         <source>Validator reading in progress....</source>
-        <translation>Reading the validator...</translation>
+        <translation>Validator reading in progress....</translation>
     </message>
     <message>
         <source>Saving in progress.....</source>
-        <translation>Saving...</translation>
+        <translation>Saving in progress.....</translation>
     </message>
     <message>
         <source>Finished operation!</source>
-        <translation>Operation finished!</translation>
+        <translation>Finished operation!</translation>
     </message>
     <message>
         <source>Fault during save operation !</source>
-        <translation>Fault during the save operation!</translation>
+        <translation>Fault during save operation !</translation>
     </message>
     <message>
         <source>Operation cancelled</source>
-        <translation>The operation was cancelled</translation>
+        <translation>Operation cancelled</translation>
     </message>
     <message>
         <source>Invalid code table !</source>
-        <translation>The code table is not valid!</translation>
+        <translation>Invalid code table !</translation>
     </message>
     <message>
         <source>Incorrect version of validator</source>
-        <translation>The validator&apos;s version is incorrect</translation>
+        <translation>Incorrect version of validator</translation>
     </message>
     <message>
         <source>Save on validator?</source>
-        <translation>Save to the validator?</translation>
+        <translation>Save on validator?</translation>
     </message>
     <message>
         <source>By Mini-Pgm</source>
-        <translation>By mini-programmer</translation>
+        <translation>By Mini-Pgm</translation>
     </message>
     <message>
         <source>#NA</source>
-        <translation>n/a</translation>
+        <translation>#NA</translation>
     </message>
     <message>
         <source>Value must be between 0 and 255</source>
-        <translation>The value must be between 0 and 255</translation>
+        <translation>Value must be between 0 and 255</translation>
     </message>
     <message>
         <source>Value over the maximum, it will be correct</source>
-        <translation>The value is above the maximum; it will be corrected</translation>
+        <translation>Value over the maximum, it will be correct</translation>
     </message>
     <message>
         <source>Value under the minimum, it will be correct.</source>
-        <translation>The value is below the minimum; it will be corrected.</translation>
+        <translation>Value under the minimum, it will be correct.</translation>
     </message>
     <message>
         <source>&apos;%s&apos; is not a valid integer value</source>
@@ -658,139 +660,139 @@
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
-        <translation>The value is above %d ms; it will be adjusted!</translation>
+        <translation>Value over %d ms, it will be adjusted!</translation>
     </message>
     <message>
         <source>Wrong way! Please the counter must be desactived if the base value is clear</source>
-        <translation>Not possible: the counter must be deactivated when the base value is empty</translation>
+        <translation>Wrong way! Please the counter must be desactived if the base value is clear</translation>
     </message>
     <message>
         <source>Modifing this value will take effect on channels from 1 to 30 !</source>
-        <translation>Changing this value affects channels 1 to 30!</translation>
+        <translation>Modifing this value will take effect on channels from 1 to 30 !</translation>
     </message>
     <message>
         <source>Modifing this value will take effect on channels from 31 to 60 !</source>
-        <translation>Changing this value affects channels 31 to 60!</translation>
+        <translation>Modifing this value will take effect on channels from 31 to 60 !</translation>
     </message>
     <message>
         <source>The value of channels %d and %d is incompatible for the function multi-pulse (max %d pulses)</source>
-        <translation>The values of channels %d and %d are incompatible with the multi-pulse function (at most %d pulses)</translation>
+        <translation>The value of channels %d and %d is incompatible for the function multi-pulse (max %d pulses)</translation>
     </message>
     <message>
         <source>Impossible displacement, the channel of origin and the one of destination coincides</source>
-        <translation>Cannot move: the source and destination channels are the same</translation>
+        <translation>Impossible displacement, the channel of origin and the one of destination coincides</translation>
     </message>
     <message>
         <source>Identification field must be filled</source>
-        <translation>The identification field must be filled in</translation>
+        <translation>Identification field must be filled</translation>
     </message>
     <message>
         <source>%s exist! Overwrite ?</source>
-        <translation>%s exists! Overwrite it?</translation>
+        <translation>%s exist! Overwrite ?</translation>
     </message>
     <message>
         <source>File %s saved</source>
-        <translation>File %s has been saved</translation>
+        <translation>File %s saved</translation>
     </message>
     <message>
         <source>The validity of data of this validator is not guaranteed by BRUNFELDGroup!</source>
-        <translation>BRUNFELDGroup does not guarantee the validity of this validator&apos;s data!</translation>
+        <translation>The validity of data of this validator is not guaranteed by BRUNFELDGroup!</translation>
     </message>
     <message>
         <source>Select number of channel !</source>
-        <translation>Select the channel number!</translation>
+        <translation>Select number of channel !</translation>
     </message>
     <message>
         <source>Number of coins is less than %d. Proceed?</source>
-        <translation>Fewer than %d coins were inserted. Proceed?</translation>
+        <translation>Number of coins is less than %d. Proceed?</translation>
     </message>
     <message>
         <source>Modify another channel ?</source>
-        <translation>Change another channel?</translation>
+        <translation>Modify another channel ?</translation>
     </message>
     <message>
         <source>Calibrate another channel ?</source>
-        <translation>Calibrate one more channel?</translation>
+        <translation>Calibrate another channel ?</translation>
     </message>
     <message>
         <source>Values directly saved into validator</source>
-        <translation>The values have been saved directly to the validator</translation>
+        <translation>Values directly saved into validator</translation>
     </message>
     <message>
         <source>The value matchs the channel %d. Load it ?</source>
-        <translation>The value matches channel %d. Load it?</translation>
+        <translation>The value matchs the channel %d. Load it ?</translation>
     </message>
     <message>
         <source>No matched data !</source>
-        <translation>No matching data!</translation>
+        <translation>No matched data !</translation>
     </message>
     <message>
         <source>Door open, no data will be transfered ;</source>
-        <translation>The door is open; no data will be transferred.</translation>
+        <translation>Door open, no data will be transfered ;</translation>
     </message>
     <message>
         <source>Prepare the golden tokens.</source>
-        <translation>Get the gold tokens ready.</translation>
+        <translation>Prepare the golden tokens.</translation>
     </message>
     <message>
         <source>Prepare the silver tokens.</source>
-        <translation>Get the silver tokens ready.</translation>
+        <translation>Prepare the silver tokens.</translation>
     </message>
     <message>
         <source>Insert the golden tokens. (5 pieces)</source>
-        <translation>Insert the gold tokens (5 of them).</translation>
+        <translation>Insert the golden tokens. (5 pieces)</translation>
     </message>
     <message>
         <source>Insert the silver tokens. (5 pieces)</source>
-        <translation>Insert the silver tokens (5 of them).</translation>
+        <translation>Insert the silver tokens. (5 pieces)</translation>
     </message>
     <message>
         <source>Reference Channel saved !</source>
-        <translation>Reference channel saved!</translation>
+        <translation>Reference Channel saved !</translation>
     </message>
     <message>
         <source>Programming Error !</source>
-        <translation>Programming error!</translation>
+        <translation>Programming Error !</translation>
     </message>
     <message>
         <source>Channel %d is empty! No data to control.</source>
-        <translation>Channel %d is empty! There is nothing to check.</translation>
+        <translation>Channel %d is empty! No data to control.</translation>
     </message>
     <message>
         <source>No overlapping !</source>
-        <translation>No overlap!</translation>
+        <translation>No overlapping !</translation>
     </message>
     <message>
         <source>Table of values transferred in the validator!</source>
-        <translation>The value table has been transferred to the validator!</translation>
+        <translation>Table of values transferred in the validator!</translation>
     </message>
     <message>
         <source>All data transfered !</source>
-        <translation>All data transferred!</translation>
+        <translation>All data transfered !</translation>
     </message>
     <message>
         <source>This option will be activated to the next starting of the program</source>
-        <translation>This option will take effect the next time the program starts</translation>
+        <translation>This option will be activated to the next starting of the program</translation>
     </message>
     <message>
         <source>Upgrade over...</source>
-        <translation>Upgrade finished.</translation>
+        <translation>Upgrade over...</translation>
     </message>
     <message>
         <source>Operation cancelled by operator</source>
-        <translation>Operation cancelled by the operator</translation>
+        <translation>Operation cancelled by operator</translation>
     </message>
     <message>
         <source>Updating... Please Wait !</source>
-        <translation>Updating... Please wait!</translation>
+        <translation>Updating... Please Wait !</translation>
     </message>
     <message>
         <source>Don&apos;t Stop or disconnect !!!</source>
-        <translation>Do not stop or disconnect!</translation>
+        <translation>Don&apos;t Stop or disconnect !!!</translation>
     </message>
     <message>
         <source>Please connect the mini-programer.</source>
-        <translation>Please connect the mini-programmer.</translation>
+        <translation>Please connect the mini-programer.</translation>
     </message>
     <message>
         <source>The user guide %s is not installed.</source>
@@ -798,123 +800,123 @@
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
-        <translation>Channel %d of the validator differs from this configuration&apos;s: its windows may not suit this validator. Continue?</translation>
+        <translation>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</translation>
     </message>
     <message>
         <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
-        <translation>Only part of the configuration has been written to the validator, and nothing already written has been undone. Write it again before using the validator.</translation>
+        <translation>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</translation>
     </message>
     <message>
         <source>%s is missing</source>
-        <translation>%s cannot be found</translation>
+        <translation>%s is missing</translation>
     </message>
     <message>
         <source>%s cannot be opened: %s</source>
-        <translation>Unable to open %s: %s</translation>
+        <translation>%s cannot be opened: %s</translation>
     </message>
     <message>
         <source>%s cannot be written: %s</source>
-        <translation>Unable to write %s: %s</translation>
+        <translation>%s cannot be written: %s</translation>
     </message>
     <message>
         <source>%s is not a dBase table of level 3, 4, 5 or 7</source>
-        <translation>%s is not a level 3, 4, 5 or 7 dBase table</translation>
+        <translation>%s is not a dBase table of level 3, 4, 5 or 7</translation>
     </message>
     <message>
         <source>%s has a damaged header: its header length, record length and field widths do not add up</source>
-        <translation>The header of %s is damaged: its header length, record length and field widths are inconsistent</translation>
+        <translation>%s has a damaged header: its header length, record length and field widths do not add up</translation>
     </message>
     <message>
         <source>%s has a damaged header: field %s is not valid</source>
-        <translation>The header of %s is damaged: field %s is invalid</translation>
+        <translation>%s has a damaged header: field %s is not valid</translation>
     </message>
     <message>
         <source>%s is truncated: it holds %s of its %s records</source>
-        <translation>%s has been cut short: only %s of its %s records are present</translation>
+        <translation>%s is truncated: it holds %s of its %s records</translation>
     </message>
     <message>
         <source>%s has no field %s</source>
-        <translation>%s lacks the field %s</translation>
+        <translation>%s has no field %s</translation>
     </message>
     <message>
         <source>%s: field %s is of type %s where %s is expected</source>
-        <translation>%s: field %s has type %s, but %s was expected</translation>
+        <translation>%s: field %s is of type %s where %s is expected</translation>
     </message>
     <message>
         <source>%s is open in another program (%s); it is opened read-only</source>
-        <translation>%s is in use by another program (%s), so it has been opened read-only</translation>
+        <translation>%s is open in another program (%s); it is opened read-only</translation>
     </message>
     <message>
         <source>%s cannot be changed: the file or its directory is read-only</source>
-        <translation>Unable to change %s: the file or its folder is read-only</translation>
+        <translation>%s cannot be changed: the file or its directory is read-only</translation>
     </message>
     <message>
         <source>%s cannot be changed: its index tag %s (%s) is not one this program can keep up to date</source>
-        <translation>Unable to change %s: this program cannot maintain its index tag %s (%s)</translation>
+        <translation>%s cannot be changed: its index tag %s (%s) is not one this program can keep up to date</translation>
     </message>
     <message>
         <source>%s cannot be changed: its language driver %s sorts keys in an order this program cannot keep</source>
-        <translation>Unable to change %s: its language driver %s uses a key order this program cannot maintain</translation>
+        <translation>%s cannot be changed: its language driver %s sorts keys in an order this program cannot keep</translation>
     </message>
     <message>
         <source>The value %s does not fit field %s of %s</source>
-        <translation>The value %s is too wide for field %s of %s</translation>
+        <translation>The value %s does not fit field %s of %s</translation>
     </message>
     <message>
         <source>The index %s was not usable (%s) and has been rebuilt from %s</source>
-        <translation>The index %s could not be used (%s) and has been rebuilt from %s</translation>
+        <translation>The index %s was not usable (%s) and has been rebuilt from %s</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s) and cannot be rebuilt now</source>
-        <translation>The index %s cannot be used (%s) and cannot be rebuilt at the moment</translation>
+        <translation>The index %s is not usable (%s) and cannot be rebuilt now</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation>it cannot be found</translation>
+        <translation>it is missing</translation>
     </message>
     <message>
         <source>its header is damaged</source>
-        <translation>its header is corrupt</translation>
+        <translation>its header is damaged</translation>
     </message>
     <message>
         <source>its pages are damaged</source>
-        <translation>its pages are corrupt</translation>
+        <translation>its pages are damaged</translation>
     </message>
     <message>
         <source>its keys are out of order</source>
-        <translation>its keys are not sorted</translation>
+        <translation>its keys are out of order</translation>
     </message>
     <message>
         <source>its entries do not match the records</source>
-        <translation>its entries disagree with the records</translation>
+        <translation>its entries do not match the records</translation>
     </message>
     <message>
         <source>tag %s is missing or does not match its field</source>
-        <translation>tag %s is absent or does not match its field</translation>
+        <translation>tag %s is missing or does not match its field</translation>
     </message>
     <message>
         <source>its language driver differs from the table&apos;s</source>
-        <translation>its language driver is not the table&apos;s</translation>
+        <translation>its language driver differs from the table&apos;s</translation>
     </message>
     <message>
         <source>The data directory %s has been created with empty tables</source>
-        <translation>The data folder %s has been created with empty tables</translation>
+        <translation>The data directory %s has been created with empty tables</translation>
     </message>
     <message>
         <source>Empty tables have been created in %s: %s</source>
-        <translation>Empty tables were created in %s: %s</translation>
+        <translation>Empty tables have been created in %s: %s</translation>
     </message>
     <message>
         <source>No validator %s is stored</source>
-        <translation>There is no stored validator %s</translation>
+        <translation>No validator %s is stored</translation>
     </message>
     <message>
         <source>The settings could not be read; the defaults are used until a setting is changed.</source>
-        <translation>The settings could not be read, so the defaults are in use until you change a setting.</translation>
+        <translation>The settings could not be read; the defaults are used until a setting is changed.</translation>
     </message>
     <message>
         <source>The file %s could not be read.</source>
-        <translation>Unable to read the file %s.</translation>
+        <translation>The file %s could not be read.</translation>
     </message>
     <message>
         <source>%s was changed by another program; open it again before changing it</source>
@@ -959,10 +961,6 @@
     <message>
         <source>No value table %s is stored</source>
         <translation>No value table %s is stored</translation>
-    </message>
-    <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Value table %s: the channels %s do not hold a number; they are left without value</translation>
     </message>
     <message>
         <source>Delete record?</source>
@@ -1025,11 +1023,11 @@
     </message>
     <message>
         <source>Family :</source>
-        <translation>Family:</translation>
+        <translation>Family :</translation>
     </message>
     <message>
         <source>Serial number :</source>
-        <translation>Serial number:</translation>
+        <translation>Serial number :</translation>
     </message>
     <message>
         <source>Fit a new validator</source>
@@ -1057,7 +1055,7 @@
     </message>
     <message>
         <source>Coins waiting : %1</source>
-        <translation>Coins waiting: %1</translation>
+        <translation>Coins waiting : %1</translation>
     </message>
     <message>
         <source>Ask for firmware (code 11)</source>
@@ -1084,7 +1082,7 @@
     </message>
     <message>
         <source>Please! Be sure that validator is connected.</source>
-        <translation>Please make sure that the validator is connected.</translation>
+        <translation>Please! Be sure that validator is connected.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -1092,23 +1090,23 @@
     </message>
     <message>
         <source>Channels data</source>
-        <translation>Channel data</translation>
+        <translation>Channels data</translation>
     </message>
     <message>
         <source>Values table :</source>
-        <translation>Value table</translation>
+        <translation>Values table :</translation>
     </message>
     <message>
         <source>Prices table :</source>
-        <translation>Price table</translation>
+        <translation>Prices table :</translation>
     </message>
     <message>
         <source>Configuration :</source>
-        <translation>Configuration</translation>
+        <translation>Configuration :</translation>
     </message>
     <message>
         <source>Enable table :</source>
-        <translation>Enable table</translation>
+        <translation>Enable table :</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -1127,7 +1125,7 @@
     </message>
     <message>
         <source>Port selection</source>
-        <translation>Select a port</translation>
+        <translation>Port selection</translation>
     </message>
     <message>
         <source>Port</source>
@@ -1139,7 +1137,7 @@
     </message>
     <message>
         <source>&amp;Exit</source>
-        <translation>E&amp;xit</translation>
+        <translation>&amp;Exit</translation>
     </message>
 </context>
 <context>
@@ -1214,7 +1212,7 @@
     <name>TFormMain</name>
     <message>
         <source>&amp;Parameters</source>
-        <translation>&amp;Settings</translation>
+        <translation>&amp;Parameters</translation>
     </message>
     <message>
         <source>&amp;Sound</source>
@@ -1222,19 +1220,19 @@
     </message>
     <message>
         <source>&amp;Auto adjust</source>
-        <translation>&amp;Automatic adjustment</translation>
+        <translation>&amp;Auto adjust</translation>
     </message>
     <message>
         <source>&amp;Direct write</source>
-        <translation>&amp;Direct writing</translation>
+        <translation>&amp;Direct write</translation>
     </message>
     <message>
         <source>Only for calibration</source>
-        <translation>For calibration only</translation>
+        <translation>Only for calibration</translation>
     </message>
     <message>
         <source>&amp;Langage</source>
-        <translation>&amp;Language</translation>
+        <translation>&amp;Langage</translation>
     </message>
     <message>
         <source>&amp;Local</source>
@@ -1242,7 +1240,7 @@
     </message>
     <message>
         <source>Firmware upgrade...</source>
-        <translation>Upgrade firmware...</translation>
+        <translation>Firmware upgrade...</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -1250,7 +1248,7 @@
     </message>
     <message>
         <source>&amp;Exit</source>
-        <translation>E&amp;xit</translation>
+        <translation>&amp;Exit</translation>
     </message>
 </context>
 <context>
@@ -1609,11 +1607,11 @@
     </message>
     <message>
         <source>&amp;Transfert</source>
-        <translation>&amp;Transfer</translation>
+        <translation>&amp;Transfert</translation>
     </message>
     <message>
         <source>Transfert de la table des valeurs dans le monnayeur</source>
-        <translation>Transfer the value table to the validator</translation>
+        <translation>Transfert de la table des valeurs dans le monnayeur</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1621,7 +1619,7 @@
     </message>
     <message>
         <source>Aplly the value table</source>
-        <translation>Apply the value table</translation>
+        <translation>Aplly the value table</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -1645,7 +1643,7 @@
     </message>
     <message>
         <source>Reseting value table</source>
-        <translation>Resetting value table</translation>
+        <translation>Reseting value table</translation>
     </message>
     <message>
         <source>&amp;Exit</source>
@@ -1676,15 +1674,15 @@
     <name>TMajFirmware</name>
     <message>
         <source>Fichier Firmware VK2</source>
-        <translation>VK2 firmware file</translation>
+        <translation>Fichier Firmware VK2</translation>
     </message>
     <message>
         <source>Firmware upgrade</source>
-        <translation>Upgrade firmware</translation>
+        <translation>Firmware upgrade</translation>
     </message>
     <message>
         <source>Upgrade</source>
-        <translation>Firmware upgrade</translation>
+        <translation>Upgrade</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1706,11 +1704,11 @@
     <name>TTarvikFormInit</name>
     <message>
         <source>Validator setting</source>
-        <translation>Validator settings</translation>
+        <translation>Validator setting</translation>
     </message>
     <message>
         <source>Serial Number :</source>
-        <translation>Serial number:</translation>
+        <translation>Serial Number :</translation>
     </message>
     <message>
         <source>Outlet</source>
@@ -1718,7 +1716,7 @@
     </message>
     <message>
         <source>Game Fast</source>
-        <translation>Fast game</translation>
+        <translation>Game Fast</translation>
     </message>
     <message>
         <source>Game</source>
@@ -1726,7 +1724,7 @@
     </message>
     <message>
         <source>Vending anti-jam</source>
-        <translation>Vending (anti-jam)</translation>
+        <translation>Vending anti-jam</translation>
     </message>
     <message>
         <source>Vending</source>
@@ -1734,7 +1732,7 @@
     </message>
     <message>
         <source>Resetable counter :</source>
-        <translation>Resettable counter</translation>
+        <translation>Resetable counter :</translation>
     </message>
     <message>
         <source>&amp;OK</source>

@@ -554,6 +554,8 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Réparer</translation>
+    </message>
+    <message>
         <source>Tarvik help</source>
         <translation>Aide de Tarvik</translation>
     </message>
@@ -959,10 +961,6 @@
     <message>
         <source>No value table %s is stored</source>
         <translation>Aucune table de valeurs %s n&apos;est enregistrée</translation>
-    </message>
-    <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Table de valeurs %s : les canaux %s ne contiennent pas de nombre ; ils restent sans valeur</translation>
     </message>
     <message>
         <source>Delete record?</source>

@@ -554,6 +554,8 @@
     <message>
         <source>&amp;Repair</source>
         <translation>&amp;Ripara</translation>
+    </message>
+    <message>
         <source>Tarvik help</source>
         <translation>Guida di Tarvik</translation>
     </message>
@@ -959,10 +961,6 @@
     <message>
         <source>No value table %s is stored</source>
         <translation>Nessuna tabella dei valori %s è salvata</translation>
-    </message>
-    <message>
-        <source>Value table %s: the channels %s do not hold a number; they are left without value</source>
-        <translation>Tabella dei valori %s: i canali %s non contengono un numero; restano senza valore</translation>
     </message>
     <message>
         <source>Delete record?</source>

@@ -17,7 +17,7 @@ const QString kForm = QStringLiteral("TFormCAdjust");
 
 } // namespace
 
-CAdjustModel::CAdjustModel(const ConfigImage &image, UserPrompt *prompt, bool automaticAdjustment)
+CAdjustModel::CAdjustModel(const ConfigImage &image, UserPrompt *prompt)
     : FormModel("TFormCAdjust", prompt), m_image(image)
 {
     c().add(kForm, ControlKind::Label);
@@ -27,7 +27,7 @@ CAdjustModel::CAdjustModel(const ConfigImage &image, UserPrompt *prompt, bool au
     c().setBuddy(QStringLiteral("SpinEdit1"), QStringLiteral("Label1"));
     c().add(QStringLiteral("Label2"), ControlKind::Label);
     c().add(QStringLiteral("CheckBox1"), ControlKind::Check);
-    c().setChecked(QStringLiteral("CheckBox1"), automaticAdjustment);
+    c().setChecked(QStringLiteral("CheckBox1"), true);
     c().add(QStringLiteral("BtnOK"), ControlKind::Button);
     c().add(QStringLiteral("BtnCancel"), ControlKind::Button);
     retranslate();

@@ -9,8 +9,8 @@ struct ConfigImage;
 class CAdjustModel final : public FormModel
 {
 public:
-    // automaticAdjustment: the box's first state (the "&Auto adjust" setting).
-    CAdjustModel(const ConfigImage &image, UserPrompt *prompt, bool automaticAdjustment);
+    // "&Automatic adjustment :" starts checked: the coins widen the controlled channel's windows.
+    CAdjustModel(const ConfigImage &image, UserPrompt *prompt);
 
     int channel() const { return spinValue(QStringLiteral("SpinEdit1")); }
     bool automaticAdjustment() const { return control(QStringLiteral("CheckBox1")).checked; }

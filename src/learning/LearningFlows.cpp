@@ -111,7 +111,7 @@ bool controlChannel(TMonnayeur &link, ConfigImage &image, const LearningContext 
     if (!doorShut(link, context))
         return false;
 
-    CAdjustModel choice(image, context.prompt, context.autoAdjust);
+    CAdjustModel choice(image, context.prompt);
     context.windows->runChannelToAdjust(choice);
     if (!choice.accepted())
         return false;

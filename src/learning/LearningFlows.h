@@ -32,7 +32,7 @@ struct LearningContext
     UserPrompt *prompt = nullptr;
     LearningServices *services = nullptr;
     LearningWindows *windows = nullptr;
-    bool autoAdjust = false;  // "&Auto adjust": shows "Anal&yse", ticks "&Automatic adjustment :"
+    bool autoAdjust = false;  // "&Auto adjust": shows "Anal&yse"
     bool directWrite = false; // "&Direct write": "&OK" writes the channel at once
     bool soundOn = false;
     std::function<void()> coinSound;

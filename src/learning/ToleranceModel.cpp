@@ -103,15 +103,14 @@ bool ToleranceModel::parseRow(int row, int &value)
 
 bool ToleranceModel::readBack(Tolerances &tolerances)
 {
-    Tolerances read = tolerances;
+    // Row by row: a row that is not an integer stops the reading where it is.
     for (int row = 0; row < kRows; ++row) {
         int value = 0;
         if (!parseRow(row, value))
             return false;
         // No range check: the low eight bits are kept (300 becomes 44).
-        read.values[std::size_t(row)] = quint8(value & 0xFF);
+        tolerances.values[std::size_t(row)] = quint8(value & 0xFF);
     }
-    tolerances = read;
     return true;
 }
 

@@ -21,7 +21,8 @@ public:
     // The caller's margins into the rows.
     void load(const Tolerances &tolerances);
     // The rows back into the margins, each kept to its low eight bits. False, after the
-    // conversion error, when a row is not an integer: then nothing is changed.
+    // conversion error, when a row is not an integer: the rows before it are stored, that row
+    // and the ones after keep their margins.
     bool readBack(Tolerances &tolerances);
 
     // A click anywhere in the grid: every row re-read and shown "%7d".

@@ -126,10 +126,6 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages",
                        "%s has more than one row for channels %s: the first row of each is used.")},
     {Msg::ValueTableNotStored, QT_TRANSLATE_NOOP("Messages", "No value table %s is stored")},
-    {Msg::ValueTableNotNumbers,
-     QT_TRANSLATE_NOOP(
-         "Messages",
-         "Value table %s: the channels %s do not hold a number; they are left without value")},
     {Msg::DeleteRecord, QT_TRANSLATE_NOOP("Messages", "Delete record?")},
     {Msg::DeleteSavedValidator,
      QT_TRANSLATE_NOOP("Messages", "Delete %s and its channels from the tables?")},

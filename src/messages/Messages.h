@@ -82,7 +82,6 @@ enum class Msg
     SavedChannelsDuplicated,
     DeleteSavedValidator,
     ValueTableNotStored,
-    ValueTableNotNumbers,
     DeleteRecord,
     // records engine
     RecordsFileMissing,

@@ -1,6 +1,7 @@
 #include "ValidatorStore.h"
 
 #include "DbfTable.h"
+#include "KeyOrder.h"
 #include "Messages.h"
 #include "TDBModule.h"
 #include "UserPrompt.h"
@@ -248,7 +249,7 @@ QList<ValidatorStore::Entry> ValidatorStore::list() const
     const DbfTable &validators = *m_db.Gettoniere();
     if (!validators.isOpen())
         return entries;
-    for (int r : validators.liveRows()) {
+    for (int r : rowsInKeyOrder(validators, QStringLiteral("IDENT"))) {
         entries.append({validators.text(r, QStringLiteral("IDENT")),
                         validators.text(r, QStringLiteral("DESCRIPTIO")),
                         validators.text(r, QStringLiteral("VERSION"))});

@@ -56,7 +56,8 @@ public:
         QString description;
         QString version;
     };
-    // The stored validators in file order.
+    // The stored validators by identification (the active index IDENT), in the order of the
+    // table's driver.
     QList<Entry> list() const;
 
     // Deletes a stored validator with its channel rows.

@@ -2,6 +2,7 @@
 
 #include "DbfTable.h"
 #include "Encodings.h"
+#include "KeyOrder.h"
 #include "Messages.h"
 #include "TDBModule.h"
 #include "UserPrompt.h"
@@ -37,14 +38,14 @@ void putBigEndian(ValueBlock &block, int at, int count, quint32 v)
         block[std::size_t(at + i)] = quint8(v);
 }
 
-// A field's text as a whole number; nothing for a blank field or text that is not a number.
-std::optional<double> wholeNumber(const QString &text)
+// A field's text as an integer: nothing for a blank field or text that is not a whole number.
+std::optional<qint64> integer(const QString &text)
 {
     bool ok = false;
-    const double d = text.trimmed().toDouble(&ok);
-    if (!ok)
+    const double d = text.toDouble(&ok);
+    if (!ok || d != std::trunc(d) || std::abs(d) > 9.0e15)
         return std::nullopt;
-    return std::round(d);
+    return qint64(d);
 }
 
 } // namespace
@@ -76,7 +77,7 @@ QList<ValueTableStore::Entry> ValueTableStore::list() const
     const DbfTable *table = m_db.ValueTable();
     if (!table || !table->isOpen())
         return entries;
-    for (int r : table->liveRows())
+    for (int r : rowsInKeyOrder(*table, QStringLiteral("IDENTI")))
         entries.append(
             {table->text(r, QStringLiteral("IDENTI")), table->text(r, QStringLiteral("DESCRIP"))});
     return entries;
@@ -87,7 +88,7 @@ int ValueTableStore::rowOf(int at) const
     const DbfTable *table = m_db.ValueTable();
     if (!table || !table->isOpen() || at < 0)
         return -1;
-    const std::vector<int> rows = table->liveRows();
+    const std::vector<int> rows = rowsInKeyOrder(*table, QStringLiteral("IDENTI"));
     return at < int(rows.size()) ? rows[std::size_t(at)] : -1;
 }
 
@@ -99,7 +100,7 @@ int ValueTableStore::find(const QString &name) const
     const int r = table->locate(QStringLiteral("IDENTI"), name.trimmed());
     if (r < 0)
         return -1;
-    const std::vector<int> rows = table->liveRows();
+    const std::vector<int> rows = rowsInKeyOrder(*table, QStringLiteral("IDENTI"));
     return int(std::find(rows.begin(), rows.end(), r) - rows.begin());
 }
 
@@ -150,37 +151,44 @@ ValueTableStore::Outcome ValueTableStore::save(const ValueBlock &block, const QS
 
 bool ValueTableStore::open(int at, ValueBlock &block, bool light, Entry *entry)
 {
-    m_notices.clear();
+    m_conversionError.clear();
     if (!tableUsable())
         return false;
     const int r = rowOf(at);
     if (r < 0)
         return false;
     const DbfTable &table = *m_db.ValueTable();
-    auto number = [&](const char *field, double max) {
-        const auto v = wholeNumber(table.text(r, QLatin1String(field)));
-        return quint32(!v ? max : std::clamp(*v, 0.0, max));
-    };
-    putBigEndian(block, Val::Base1, 2, number("BASE1", 0xFFFF));
-    putBigEndian(block, Val::Base2, 2, number("BASE2", 0xFFFF));
-    putBigEndian(block, Val::Conversion, 4, number("CONVERT", 0xFFFFFFFF));
-    QStringList bad;
-    for (int channel = 1; channel <= channelsOf(light); ++channel) {
-        const QString text = table.text(r, channelField(channel)).trimmed();
-        const auto v = wholeNumber(text);
-        // A blank field is a channel without value; anything else must be a byte.
-        if (!text.isEmpty() && (!v || *v < 0 || *v > 255))
-            bad.append(QString::number(channel));
-        block[std::size_t(Val::Channel0 + channel - 1)] =
-            v && *v >= 0 && *v <= 255 ? quint8(*v) : kNotSet;
-    }
-    const QString name = table.text(r, QStringLiteral("IDENTI"));
     if (entry)
-        *entry = {name, table.text(r, QStringLiteral("DESCRIP"))};
-    if (!bad.isEmpty()) {
-        m_notices.append(
-            messageText(Msg::ValueTableNotNumbers, {name, bad.join(QStringLiteral(", "))}));
-        m_prompt.tell(m_notices.last(), UserPrompt::Kind::Warning);
+        *entry = {table.text(r, QStringLiteral("IDENTI")),
+                  table.text(r, QStringLiteral("DESCRIP"))};
+    // Field by field, each read as text and converted; the first that does not convert stops
+    // the reading, so the bytes it and the later fields would give keep their values.
+    auto convert = [&](const QString &field, qint64 *value) {
+        const QString text = table.text(r, field).trimmed();
+        const std::optional<qint64> v = integer(text);
+        if (!v) {
+            m_conversionError = messageText(Msg::NotValidInteger, {text});
+            m_prompt.tell(m_conversionError, UserPrompt::Kind::Error);
+            return false;
+        }
+        *value = *v;
+        return true;
+    };
+    qint64 v = 0;
+    if (!convert(QStringLiteral("BASE1"), &v))
+        return true;
+    putBigEndian(block, Val::Base1, 2, quint32(v));
+    if (!convert(QStringLiteral("BASE2"), &v))
+        return true;
+    putBigEndian(block, Val::Base2, 2, quint32(v));
+    if (!convert(QStringLiteral("CONVERT"), &v))
+        return true;
+    putBigEndian(block, Val::Conversion, 4, quint32(v));
+    for (int channel = 1; channel <= channelsOf(light); ++channel) {
+        if (!convert(channelField(channel), &v))
+            return true;
+        // A byte keeps the low eight bits of the number.
+        block[std::size_t(Val::Channel0 + channel - 1)] = quint8(v);
     }
     return true;
 }

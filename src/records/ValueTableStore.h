@@ -23,7 +23,7 @@ public:
         QString name;
         QString description;
     };
-    // The stored tables in file order.
+    // The stored tables by name (the active index IDENTI), in the order of the table's driver.
     QList<Entry> list() const;
     // The position in list() of the table whose name equals name without regard to case; -1.
     int find(const QString &name) const;
@@ -43,9 +43,12 @@ public:
                  bool light);
 
     // Fills block from entry `at` of list(): the bases, the ratio and the value bytes of
-    // channels 1 to 60 (1 to 25 on the Light model); every other byte keeps its value. A
-    // channel field that is not a number leaves its channel empty (255); those channels are
-    // told in one notice through the prompt and kept in notices().
+    // channels 1 to 60 (1 to 25 on the Light model), in that order; every other byte keeps its
+    // value. Each field is read as text and converted to an integer (a word, the ratio and a
+    // byte keep its low 16, 32 and 8 bits). A field that does not convert, a blank one too,
+    // stops the reading with the conversion error, told through the prompt and kept in
+    // conversionError(): the fields before it are in block, the bytes of the others keep their
+    // values. False only when there is no such entry.
     bool open(int at, ValueBlock &block, bool light, Entry *entry = nullptr);
     // The same by name; false when there is none (errorString() is then notStoredText()).
     bool open(const QString &name, ValueBlock &block, bool light, Entry *entry = nullptr);
@@ -58,7 +61,8 @@ public:
     bool canChange();
 
     QString errorString() const { return m_error; }
-    QStringList notices() const { return m_notices; }
+    // Why the last open stopped before the last field; empty when every field converted.
+    QString conversionError() const { return m_conversionError; }
 
     // "No value table %s is stored".
     static QString notStoredText(const QString &name);
@@ -70,5 +74,5 @@ private:
     TDBModule &m_db;
     UserPrompt &m_prompt;
     QString m_error;
-    QStringList m_notices;
+    QString m_conversionError;
 };

@@ -11,8 +11,9 @@ enum class Sound
 
 QString soundFileName(Sound sound);
 
-// Plays sounds without waiting for them; a machine without an audio device plays nothing and
-// says nothing. Whether sound is on is the caller's decision (the Sound setting).
+// Plays a sound to its end before returning: the main window shows after the chime, a coin's
+// learning goes on after its sound. A machine without an audio device plays nothing, says
+// nothing and returns at once. Whether sound is on is the caller's decision (the Sound setting).
 class SoundPlayer
 {
 public:

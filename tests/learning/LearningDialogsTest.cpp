@@ -53,11 +53,15 @@ TEST(Tolerances, RowsShowSevenWideAndReadBackAsBytes)
     EXPECT_EQ(read.values[13], 0);
     EXPECT_TRUE(prompt.told().isEmpty());
 
-    // A value that is not a number: the conversion error, and nothing changes.
+    // A value that is not a number: the conversion error; the rows before it are stored, that
+    // row and the rest keep their margins.
     grid.type(QStringLiteral("Value9"), QStringLiteral("x7"));
     Tolerances kept = tolerances;
     EXPECT_FALSE(grid.readBack(kept));
-    EXPECT_EQ(kept, tolerances);
+    Tolerances partly = tolerances;
+    partly.values[2] = 12;
+    partly.values[3] = 44;
+    EXPECT_EQ(kept, partly);
     EXPECT_EQ(prompt.told(), QStringList{"'x7' is not a valid integer value"});
 
     grid.click(QStringLiteral("BtnCancel"));
@@ -70,7 +74,7 @@ TEST(ChannelToAdjust, StartsAtOneAndRefusesAnEmptyChannel)
     const ConfigImage image = VirtualValidator::factoryImage(0x13, 1001);
     RecordingPrompt prompt;
     {
-        CAdjustModel dialog(image, &prompt, true);
+        CAdjustModel dialog(image, &prompt);
         EXPECT_EQ(dialog.control(QStringLiteral("TFormCAdjust")).text,
                   QStringLiteral("Channel to adjust"));
         EXPECT_EQ(dialog.control(QStringLiteral("Label2")).text,
@@ -83,8 +87,7 @@ TEST(ChannelToAdjust, StartsAtOneAndRefusesAnEmptyChannel)
         EXPECT_TRUE(dialog.accepted()); // 0 searches: never empty
     }
     {
-        CAdjustModel dialog(image, &prompt, false);
-        EXPECT_FALSE(dialog.automaticAdjustment());
+        CAdjustModel dialog(image, &prompt);
         dialog.type(QStringLiteral("SpinEdit1"), QStringLiteral("40"));
         dialog.click(QStringLiteral("BtnOK"));
         EXPECT_TRUE(dialog.closed());
@@ -94,7 +97,7 @@ TEST(ChannelToAdjust, StartsAtOneAndRefusesAnEmptyChannel)
     // Only the amplitude missing: the channel holds data.
     ConfigImage noAmp = image;
     noAmp.channels[2][Rec::AmpMin] = noAmp.channels[2][Rec::AmpMax] = 255;
-    CAdjustModel dialog(noAmp, &prompt, false);
+    CAdjustModel dialog(noAmp, &prompt);
     dialog.type(QStringLiteral("SpinEdit1"), QStringLiteral("3"));
     dialog.click(QStringLiteral("BtnOK"));
     EXPECT_TRUE(dialog.accepted());
@@ -185,7 +188,7 @@ TEST(LearningTranslations, EveryCaptionIsTranslated)
                           {ProgCoinSetup::Mode::Modify, false, false, false});
     control.setControlChannel(1);
     ToleranceModel tolerances(nullptr);
-    CAdjustModel adjust(image, nullptr, true);
+    CAdjustModel adjust(image, nullptr);
     SuperpositionModel overlap({});
     AnalyseModel analyse({});
     RefChannelModel notice;

@@ -360,12 +360,14 @@ TEST(ProgCoin, TheChannelControlLoadsTheChannelAndRefusesAnEmptyOne)
     EXPECT_EQ(bench.prompt.told(), QStringList{"Channel 30 is empty! No data to control."});
     EXPECT_FALSE(formShown);
 
-    // Channel 2 with automatic adjustment: its windows are shown and widened by the coins.
+    // Channel 2 with automatic adjustment, checked by default whatever "&Auto adjust" says:
+    // its windows are shown and widened by the coins.
     bench.prompt.clear();
+    context.autoAdjust = false;
     windows.choose = [](CAdjustModel &m) {
         EXPECT_EQ(m.channel(), 1);
+        EXPECT_TRUE(m.automaticAdjustment());
         m.type(QStringLiteral("SpinEdit1"), QStringLiteral("2"));
-        m.click(QStringLiteral("CheckBox1"));
         m.click(QStringLiteral("BtnOK"));
     };
     windows.run = [&](ProgCoinModel &m) {

@@ -2,9 +2,13 @@
 #include "DbfTable.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
+#include "ProfileStore.h"
 #include "RecordingPrompt.h"
 #include "SavedValidatorsModel.h"
 #include "TDBModule.h"
+#include "TableSchema.h"
+#include "ValueTableModel.h"
+#include "ValueTableStore.h"
 #include "VirtualValidator.h"
 
 #include <QDir>
@@ -95,4 +99,65 @@ TEST(SavedValidators, MissingChannelRowsOpenEmptyAndAreNamed)
     EXPECT_EQ(prompt.told(), QStringList{"V has no row for channels 2, 3: they open empty."});
     EXPECT_EQ(editor.control("EHFUBMIN1").text, QString());
     EXPECT_FALSE(editor.image().enableBit(1));
+}
+
+// The saved validators and the value tables are listed under their active index (IDENT,
+// IDENTI) in the order of the table's language driver; the coin profiles, opened without one,
+// in file order.
+TEST(SavedValidators, ListedInTheOrderOfTheirIndex)
+{
+    QTemporaryDir root;
+    const QString dir = QDir(root.path()).filePath(QStringLiteral("TarvikDB"));
+    ASSERT_TRUE(QDir().mkpath(dir));
+    // DBWINWE0: lower case before upper, both before the next letter.
+    const LanguageDriver *western = LanguageDriver::byId(0x58);
+    ASSERT_TRUE(western);
+    for (const TableSchema *schema : TableSchema::all()) {
+        QString error;
+        ASSERT_TRUE(
+            DbfTable::create(QDir(dir).filePath(schema->fileName), *schema, &error, *western))
+            << error.toStdString();
+    }
+    TDBModule db;
+    ASSERT_TRUE(db.open(dir));
+    RecordingPrompt prompt(UserPrompt::Answer::Yes);
+    ValidatorStore validators(db, prompt);
+    ValueTableStore values(db, prompt);
+    ProfileStore profiles(db, prompt);
+    const ConfigImage image = VirtualValidator::factoryImage(0x13, 1001);
+    const QStringList names = {QStringLiteral("zulu"), QStringLiteral("Beta"),
+                               QStringLiteral("alpha")};
+    for (int i = 0; i < names.size(); ++i) {
+        ValueBlock block = image.values;
+        block[Val::Channel0] = quint8(i);
+        ASSERT_EQ(validators.store(image, names[i], {}), ValidatorStore::Outcome::Stored);
+        ASSERT_EQ(values.save(block, names[i], {}, false), ValueTableStore::Outcome::Saved);
+        ProfileRecord profile;
+        profile.name = names[i];
+        ASSERT_EQ(profiles.save(profile), ProfileStore::Outcome::Saved);
+    }
+
+    SavedValidatorsModel browser(db, prompt, nullptr);
+    QStringList listed;
+    for (const ValidatorStore::Entry &entry : browser.rows())
+        listed.append(entry.identification);
+    EXPECT_EQ(listed, (QStringList{"alpha", "Beta", "zulu"}));
+
+    ValueBlock editor = image.values;
+    bool modified = false;
+    ValueTableModel form(editor, &modified, false, nullptr, &prompt, &values, false);
+    form.FormActivate();
+    listed.clear();
+    for (const ValueTableStore::Entry &entry : form.records())
+        listed.append(entry.name);
+    EXPECT_EQ(listed, (QStringList{"alpha", "Beta", "zulu"}));
+    EXPECT_EQ(values.find(QStringLiteral("ZULU")), 2);
+    form.recordClick(1);
+    form.click(QStringLiteral("BitBtn5"));
+    EXPECT_EQ(form.workingCopy()[Val::Channel0], 1); // Beta's
+
+    listed.clear();
+    for (const ProfileStore::Entry &entry : profiles.list())
+        listed.append(entry.name);
+    EXPECT_EQ(listed, names);
 }

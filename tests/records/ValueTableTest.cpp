@@ -147,7 +147,7 @@ TEST_F(ValueTableTest, LightKeepsChannels26To60OutOfTheTable)
     EXPECT_TRUE(row.value(QLatin1String("CANAL60")).isNull());
 }
 
-TEST_F(ValueTableTest, AChannelFieldThatIsNotANumberOpensEmptyWithANotice)
+TEST_F(ValueTableTest, OpeningStopsAtAFieldThatIsNotAnIntegerAndKeepsTheRest)
 {
     ASSERT_EQ(store.save(sampleBlock(), QStringLiteral("Bad"), {}, false),
               ValueTableStore::Outcome::Saved);
@@ -167,14 +167,17 @@ TEST_F(ValueTableTest, AChannelFieldThatIsNotANumberOpensEmptyWithANotice)
     file.close();
     ASSERT_TRUE(db.open(dir.path()));
 
-    ValueBlock opened = sampleBlock();
-    ASSERT_TRUE(store.open(0, opened, false));
-    EXPECT_EQ(opened[Val::Channel0 + 6], 255);
-    EXPECT_EQ(opened[Val::Channel0 + 5], 5);
-    EXPECT_EQ(opened[Val::Channel0 + 7], 7);
-    ASSERT_EQ(store.notices().size(), 1);
-    EXPECT_TRUE(store.notices().first().contains(QLatin1String("channels 7 ")));
-    EXPECT_EQ(prompt.told(), store.notices());
+    // The bases, the ratio and channels 1 to 6 come from the row; channel 7 on keep theirs.
+    ValueBlock opened;
+    opened.fill(99);
+    EXPECT_TRUE(store.open(0, opened, false));
+    EXPECT_EQ(prompt.told(), QStringList{QStringLiteral("'abc' is not a valid integer value")});
+    EXPECT_EQ(store.conversionError(), prompt.told().constFirst());
+    const ValueBlock saved = sampleBlock();
+    for (int i = 0; i < 75; ++i)
+        EXPECT_EQ(opened[std::size_t(i)],
+                  i < Val::Channel0 + 6 || (i >= 64 && i < 68) ? saved[std::size_t(i)] : 99)
+            << "byte " << i;
 }
 
 namespace {
@@ -268,6 +271,26 @@ TEST_F(ValueTableModelTest, LightLayoutSaveAndOpen)
     form.click(QStringLiteral("DBNavigator1Delete"));
     EXPECT_TRUE(form.records().isEmpty());
     EXPECT_TRUE(store.list().isEmpty());
+}
+
+// A table saved from a Light validator (CANAL26 to CANAL60 blank) opened and applied on a
+// 60-channel validator: channels 26 to 60 keep their values.
+TEST_F(ValueTableModelTest, ALightTableNeverErasesChannels26To60)
+{
+    ValueBlock light = sampleBlock();
+    for (int i = 0; i < kLightChannels; ++i)
+        light[std::size_t(Val::Channel0 + i)] = quint8(100 + i);
+    ASSERT_EQ(store.save(light, QStringLiteral("Light"), {}, true),
+              ValueTableStore::Outcome::Saved);
+    ValueTableModel form(editor, &modified, false, nullptr, &prompt, &store, false);
+    form.FormActivate();
+    form.click(QStringLiteral("DBNavigator1First"));
+    form.click(QStringLiteral("BitBtn5"));
+    EXPECT_EQ(form.control(QStringLiteral("LabeledEdit4")).text, QLatin1String("Light"));
+    EXPECT_EQ(prompt.told(), QStringList{QStringLiteral("'' is not a valid integer value")});
+    form.click(QStringLiteral("BitBtn3"));
+    for (int i = 0; i < kChannels; ++i)
+        EXPECT_EQ(editor[std::size_t(Val::Channel0 + i)], i < 25 ? 100 + i : i) << i;
 }
 
 #include "SimTransport.h"

@@ -1,7 +1,9 @@
+#include "EffectSoundPlayer.h"
 #include "FileDialog.h"
 #include "MessageBoxPrompt.h"
 #include "Messages.h"
 #include "RecordingPrompt.h"
+#include "ResourceFiles.h"
 #include "ShellTestSupport.h"
 #include "TCloningChk.h"
 #include "TConnectForm.h"
@@ -13,6 +15,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -54,6 +57,47 @@ private Q_SLOTS:
         MessageBoxPrompt::divertTo(&m_boxes);
     }
     void cleanup() { MessageBoxPrompt::divertTo(nullptr); }
+
+    // A sound plays to its end before play() returns; without a device nothing plays.
+    void soundsPlayToTheirEnd()
+    {
+        struct Voice final : SoundVoice
+        {
+            QStringList *events = nullptr;
+            bool done = false;
+            void start() override
+            {
+                events->append(QStringLiteral("start"));
+                done = false;
+                QTimer::singleShot(150, [this] {
+                    done = true;
+                    events->append(QStringLiteral("end"));
+                });
+            }
+            bool ended() const override { return done; }
+        };
+        QStringList events;
+        QStringList files;
+        EffectSoundPlayer player(nullptr, [&](const QString &file) {
+            files.append(QFileInfo(file).fileName());
+            auto voice = std::make_unique<Voice>();
+            voice->events = &events;
+            return voice;
+        });
+        player.play(Sound::Chimes);
+        events.append(QStringLiteral("shown"));
+        player.play(Sound::Coin);
+        events.append(QStringLiteral("tick goes on"));
+        QCOMPARE(events, (QStringList{"start", "end", "shown", "start", "end", "tick goes on"}));
+        QCOMPARE(files, (QStringList{"Chimes.Wav", "Coin.Wav"}));
+
+        EffectSoundPlayer silent(nullptr, [](const QString &) { return nullptr; });
+        silent.play(Sound::Chimes); // returns: nothing to wait for
+
+        // The wait is bounded by the sound's own length.
+        const auto chime = EffectSoundPlayer::wavLength(ResourceFiles::path("Chimes.Wav"));
+        QVERIFY(chime && chime->count() > 1000 && chime->count() < 3000);
+    }
 
     void initFormWritesTheImage()
     {

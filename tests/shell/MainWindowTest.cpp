@@ -276,7 +276,10 @@ private Q_SLOTS:
         start.action("English1")->trigger();
         QTRY_COMPARE(back->text(), QStringLiteral("&Back"));
         QTRY_COMPARE(ok->text(), QStringLiteral("&OK"));
-        QCOMPARE(init->windowTitle(), QStringLiteral("Validator settings"));
+        // English shows the program's own texts.
+        QCOMPARE(init->windowTitle(), QStringLiteral("Validator setting"));
+        QCOMPARE(messageText(Msg::ReadingErrorFromValidator),
+                 QStringLiteral("Reading Error fron validator"));
 
         // Local comes back only with the next start; the texts stay as they are.
         start.action("Deutsch1")->trigger();

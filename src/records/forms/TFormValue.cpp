@@ -237,6 +237,7 @@ void TFormValue::repaintGrids()
         }
     }
     m_table->setCurrentCell(m_model.currentRow(), m_model.currentColumn());
+    fitTable();
 
     m_records->setHorizontalHeaderLabels(m_model.gridTitles());
     const auto &records = m_model.records();
@@ -248,4 +249,24 @@ void TFormValue::repaintGrids()
     if (m_model.currentRecord() >= 0)
         m_records->selectRow(m_model.currentRecord());
     m_painting = false;
+}
+
+void TFormValue::fitTable()
+{
+    // The grid has no scroll bars: it takes the room of all its cells, wide enough for the
+    // widest value a channel can show.
+    const int least = m_table->fontMetrics().horizontalAdvance(QStringLiteral("0000.00")) + 8;
+    m_table->resizeColumnsToContents();
+    m_table->resizeRowsToContents();
+    int width = 2 * m_table->frameWidth();
+    for (int col = 0; col < m_table->columnCount(); ++col) {
+        if (m_table->columnWidth(col) < least)
+            m_table->setColumnWidth(col, least);
+        width += m_table->columnWidth(col);
+    }
+    int height = 2 * m_table->frameWidth();
+    for (int row = 0; row < m_table->rowCount(); ++row)
+        height += m_table->rowHeight(row);
+    m_table->setMinimumSize(width, height);
+    m_table->setMaximumHeight(height);
 }

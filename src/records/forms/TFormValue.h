@@ -27,6 +27,7 @@ protected:
 private:
     void repaint(const QStringList &names);
     void repaintGrids();
+    void fitTable();
 
     ValueTableModel &m_model;
     QHash<QString, QWidget *> m_widgets;

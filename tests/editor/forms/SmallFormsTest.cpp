@@ -106,6 +106,27 @@ private Q_SLOTS:
         QVERIFY(modified);
     }
 
+    // Without scroll bars, the grid shows all its 11 x 7 cells at the size the form opens with.
+    void theValueTableGridShowsEveryCell()
+    {
+        ValueBlock editorBlock = VirtualValidator::factoryImage(0x13, 1001).values;
+        bool modified = false;
+        ValueTableModel model(editorBlock, &modified, false, nullptr, nullptr, nullptr, false);
+        TFormValue form(model);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        auto *grid = form.findChild<QTableWidget *>(QStringLiteral("TableauValue"));
+        QCOMPARE(grid->rowCount(), 7);
+        QCOMPARE(grid->columnCount(), 11);
+        for (int row = 0; row < grid->rowCount(); ++row) {
+            for (int column = 0; column < grid->columnCount(); ++column) {
+                const QRect cell = grid->visualRect(grid->model()->index(row, column));
+                QVERIFY2(grid->viewport()->rect().contains(cell),
+                         qPrintable(QStringLiteral("cell %1,%2").arg(row).arg(column)));
+            }
+        }
+    }
+
     // The damaged table is said once, when the tables open; the browser then says nothing more,
     // refuses the delete before asking, and "Repair tables" mends the table with the module's
     // tables closed around it.
