@@ -1073,6 +1073,46 @@
         <source>Silver token</source>
         <translation>Silver token</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>9600 baud pacing</source>
+        <translation>9600 baud pacing</translation>
+    </message>
+    <message>
+        <source>Count echo after (ms) :</source>
+        <translation>Count echo after (ms) :</translation>
+    </message>
+    <message>
+        <source>Reply after (ms) :</source>
+        <translation>Reply after (ms) :</translation>
+    </message>
+    <message>
+        <source>Adapter bursts every (ms) :</source>
+        <translation>Adapter bursts every (ms) :</translation>
+    </message>
+    <message>
+        <source>Pause in replies after byte, for (ms) :</source>
+        <translation>Pause in replies after byte, for (ms) :</translation>
+    </message>
+    <message>
+        <source>Random seed :</source>
+        <translation>Random seed :</translation>
+    </message>
+    <message>
+        <source>Count echo after at most (ms)</source>
+        <translation>Count echo after at most (ms)</translation>
+    </message>
+    <message>
+        <source>Reply after at most (ms)</source>
+        <translation>Reply after at most (ms)</translation>
+    </message>
+    <message>
+        <source>Pause in replies (ms)</source>
+        <translation>Pause in replies (ms)</translation>
+    </message>
 </context>
 <context>
     <name>TCloningChk</name>
