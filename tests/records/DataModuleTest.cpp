@@ -23,6 +23,8 @@ protected:
     {
         QSettings::setDefaultFormat(QSettings::IniFormat);
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
+        // The data directory's setting is written with the native format: never the user's own.
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settingsDir.path());
         qunsetenv(DataDirectory::kEnvironmentVariable);
         DataDirectory::setConfigured({});
         dataDir = QDir(root.path()).filePath(QStringLiteral("TarvikDB"));
