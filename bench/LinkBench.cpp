@@ -175,7 +175,8 @@ bool run(bool write, int seed, ConfigImage &image, Tally &tally)
     serial.close();
     const double bound = double(port.bytes()) * kByteMs + sim.stopAndCost();
     tally.ratios.push_back(ms / bound);
-    tally.failed += ok && prompt.told().isEmpty() ? 0 : 1;
+    // A shown exchange that failed clears the link-good flag.
+    tally.failed += ok && link.linkGood() ? 0 : 1;
     tally.shortReads += port.shortReads();
     return true;
 }
