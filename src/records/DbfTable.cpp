@@ -4,13 +4,13 @@
 #include "DbfLayout.h"
 #include "DurableFile.h"
 #include "LanguageDriver.h"
+#include "TableLock.h"
 
 #include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QLockFile>
 #include <QtEndian>
 #include <algorithm>
 #include <cmath>
@@ -153,90 +153,51 @@ bool DbfTable::open(const QString &path, const TableSchema *schema)
     m_indexPath = findInDirectory(dir, schema ? schema->indexFileName
                                               : QFileInfo(m_path).completeBaseName() +
                                                     QStringLiteral(".MDX"));
-
-    m_lock = std::make_unique<QLockFile>(m_path + QStringLiteral(".lck"));
-    m_lock->setStaleLockTime(0);
-    bool writable = QFileInfo(m_path).isWritable() && QFileInfo(dir).isWritable();
-    if (writable && !m_lock->tryLock(0)) {
-        if (m_lock->error() == QLockFile::LockFailedError) {
-            qint64 pid = 0;
-            QString host, app;
-            m_lock->getLockInfo(&pid, &host, &app);
-            const QString who = QStringLiteral("%1 %2 on %3").arg(app).arg(pid).arg(host);
-            m_notices.append(messageText(Msg::RecordsLocked, {name, who.trimmed()}));
-            setReadOnly(m_notices.constLast());
-        } else {
-            writable = false;
-        }
-        m_lock.reset();
-    }
-    if (!writable && !m_readOnly) {
-        setReadOnly(messageText(Msg::RecordsReadOnly, {name}));
-        m_notices.append(m_readOnlyReason);
-    }
-
-    // Temporaries left by a commit that did not finish: the pair on disk is the truth.
-    if (!m_readOnly) {
-        QFile::remove(m_path + kTempSuffix);
-        QFile::remove(m_indexPath + kTempSuffix);
-    }
-
-    QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(Msg::RecordsCannotOpen, {name, file.errorString()});
-    const QByteArray bytes = file.readAll();
-    file.close();
-    if (!parseTable(bytes) || !checkSchema()) {
+    m_permissionReadOnly = !QFileInfo(m_path).isWritable() || !QFileInfo(dir).isWritable();
+    if (!readFromDisk()) {
         const QString error = m_error;
         close();
         m_error = error;
         return false;
     }
-
-    QByteArray indexBytes;
-    bool haveIndex = false;
-    if (QFileInfo::exists(m_indexPath)) {
-        QFile indexFile(m_indexPath);
-        if (indexFile.open(QIODevice::ReadOnly)) {
-            indexBytes = indexFile.readAll();
-            haveIndex = true;
-        }
-    }
-    attachIndex(haveIndex ? &indexBytes : nullptr);
     m_open = true;
 
+    // Temporaries of a commit whose program ended half way go under the lock (see
+    // lockForChange()): while it is free, no commit is under way.
+    if (!m_readOnly && !m_indexNeedsWrite && !m_headerDirty &&
+        (QFileInfo::exists(m_path + kTempSuffix) || QFileInfo::exists(m_indexPath + kTempSuffix)) &&
+        lockForChange())
+        unlockChange();
     if (m_indexNeedsWrite || m_headerDirty) {
         const QString indexName = QFileInfo(m_indexPath).fileName();
-        const QString reason = m_indexProblem.text();
         if (m_readOnly) {
             // A damaged table's index is rebuilt with its repair; its notice says enough.
             if (m_damage.isEmpty())
-                m_notices.append(messageText(Msg::RecordsIndexNotRebuilt, {indexName, reason}));
+                m_notices.append(
+                    messageText(Msg::RecordsIndexNotRebuilt, {indexName, m_indexProblem.text()}));
             m_headerDirty = false;
-        } else if (commit()) {
-            m_notices.append(messageText(Msg::RecordsIndexRebuilt, {indexName, reason, name}));
-        } else {
-            m_notices.append(messageText(Msg::RecordsIndexNotRebuilt, {indexName, reason}));
+        } else if (!lockForChange()) {
+            m_notices.append(
+                messageText(Msg::RecordsIndexNotRebuilt, {indexName, m_indexProblem.text()}));
             m_notices.append(m_error);
-            rollback();
+            m_headerDirty = false;
+        } else {
+            // Read again under the lock: another program may have rebuilt it meanwhile.
+            const QString reason = m_indexProblem.text();
+            if (!m_indexNeedsWrite && !m_headerDirty) {
+                // nothing left to do
+            } else if (commit()) {
+                m_notices.append(messageText(Msg::RecordsIndexRebuilt, {indexName, reason, name}));
+            } else {
+                m_notices.append(messageText(Msg::RecordsIndexNotRebuilt, {indexName, reason}));
+                m_notices.append(m_error);
+                rollback();
+            }
+            unlockChange();
         }
     }
-    rememberDiskState();
     Q_EMIT changed();
     return true;
-}
-
-void DbfTable::rememberDiskState()
-{
-    const QFileInfo info(m_path);
-    m_diskSize = info.size();
-    m_diskModified = info.lastModified();
-}
-
-bool DbfTable::changedOnDisk() const
-{
-    const QFileInfo info(m_path);
-    return info.size() != m_diskSize || info.lastModified() != m_diskModified;
 }
 
 bool DbfTable::openBytes(const QByteArray &table, const QByteArray &index,
@@ -268,9 +229,18 @@ void DbfTable::close()
     m_memoryOnly = false;
     m_readOnlyReason.clear();
     m_damage.clear();
-    m_unreadable = 0;
-    m_lock.reset();
+    m_permissionReadOnly = false;
+    m_changeLock.reset();
     m_notices.clear();
+    resetContent();
+    if (wasOpen)
+        Q_EMIT changed();
+}
+
+void DbfTable::resetContent()
+{
+    m_damage.clear();
+    m_unreadable = 0;
     m_header.clear();
     m_committedHeader.clear();
     m_headerDirty = false;
@@ -289,8 +259,6 @@ void DbfTable::close()
     m_dirtyMark.clear();
     m_dirtyRows.clear();
     m_lookups.clear();
-    if (wasOpen)
-        Q_EMIT changed();
 }
 
 void DbfTable::setReadOnly(const QString &reason)
