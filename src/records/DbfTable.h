@@ -47,10 +47,11 @@ struct DbfField
 //    the table.
 // Last, the index temporary is renamed over the index. The table is thus always either the
 // old or the new one, and it is the truth: the index is derived from it. A crash before the
-// table step leaves the old pair (the temporaries are removed on the next open); a crash after
-// it leaves the new table with the old index, which the next open finds stale, because it
-// checks every tag of the index against the table, and rebuilds, giving the new pair. A damaged
-// or missing index is rebuilt the same way, with a notice.
+// table step leaves the old pair (the temporaries go when a program next takes the table's
+// lock); a crash after it leaves the new table with the old index, which the next open finds
+// stale, because it checks every tag of the index against the table, and rebuilds, giving the
+// new pair (the next commit of any program rewrites the index as well). A damaged or missing
+// index is rebuilt the same way, with a notice.
 //
 // Damage: a file that does not hold what its header says (cut short, a count past its end, a
 // header that does not parse) opens read-only with the rows that can be read and a notice
