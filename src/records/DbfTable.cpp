@@ -433,25 +433,23 @@ void DbfTable::attachIndex(const QByteArray *indexBytes)
         m_notices.append(m_readOnlyReason);
         maintainable = false;
     }
+    // Every tag must list exactly the live rows in key order, the first row only of each key
+    // for a unique tag. The rows of a tag that does are taken from it in one pass; the others
+    // are sorted.
+    const bool check = maintainable && parsed && !problem.isSet();
     m_tagRows.assign(m_tagFields.size(), {});
     for (std::size_t t = 0; t < m_tagFields.size(); ++t) {
-        if (m_tagFields[t] >= 0)
-            m_tagRows[t] = sortedRows(m_tagFields[t]);
-    }
-    if (!maintainable) {
-        m_headerDirty = false;
-        return;
-    }
-
-    // Every tag must list exactly the live rows in key order, the first row only of each key
-    // for a unique tag.
-    if (parsed && !problem.isSet()) {
-        for (int t = 0; t < m_index.tags().size() && !problem.isSet(); ++t) {
-            std::vector<MdxKey> found;
-            if (!m_index.readKeys(*indexBytes, t, lang(), found, &problem))
-                break;
-            const std::vector<MdxKey> expected = tagKeys(t, m_tagRows[std::size_t(t)]);
-            const std::size_t length = std::size_t(m_index.tags().at(t).keyLength);
+        const int f = m_tagFields[t];
+        if (f < 0)
+            continue;
+        std::vector<MdxKey> found;
+        if (check && !problem.isSet() &&
+            m_index.readKeys(*indexBytes, int(t), lang(), found, &problem)) {
+            if (!m_index.tags().at(int(t)).unique && rowsInKeyOrder(f, found, &m_tagRows[t]))
+                continue;
+            m_tagRows[t] = sortedRows(f);
+            const std::vector<MdxKey> expected = tagKeys(int(t), m_tagRows[t]);
+            const std::size_t length = std::size_t(m_fields.at(f).length);
             const bool same =
                 found.size() == expected.size() &&
                 std::equal(found.begin(), found.end(), expected.begin(),
@@ -460,8 +458,46 @@ void DbfTable::attachIndex(const QByteArray *indexBytes)
                            });
             if (!same)
                 problem = {Msg::IndexReasonEntries, {}};
+            continue;
         }
+        m_tagRows[t] = sortedRows(f);
+    }
+    if (!maintainable) {
+        m_headerDirty = false;
+        return;
     }
     m_indexProblem = problem;
     m_indexNeedsWrite = problem.isSet();
+}
+
+// Whether the entries of a tag read from its index are the table's live rows, each once, in
+// key order with their keys as the rows hold them; if so they are the tag's rows.
+bool DbfTable::rowsInKeyOrder(int f, const std::vector<MdxKey> &found, std::vector<int> *rows) const
+{
+    const int offset = m_fields.at(f).offset;
+    const std::size_t length = std::size_t(m_fields.at(f).length);
+    const LanguageDriver &order = lang();
+    std::vector<char> seen(std::size_t(m_count), 0);
+    std::vector<int> inOrder;
+    inOrder.reserve(found.size());
+    for (const MdxKey &k : found) {
+        const int r = int(k.recno) - 1;
+        if (r < 0 || r >= m_count || seen[std::size_t(r)] || record(r)[0] == '*' ||
+            std::memcmp(k.key, record(r) + offset, length) != 0)
+            return false;
+        if (!inOrder.empty()) {
+            const int p = inOrder.back();
+            const int c = order.compare(record(p) + offset, record(r) + offset, length);
+            if (c > 0 || (c == 0 && p > r))
+                return false;
+        }
+        seen[std::size_t(r)] = 1;
+        inOrder.push_back(r);
+    }
+    for (int r = 0; r < m_count; ++r) {
+        if (!seen[std::size_t(r)] && record(r)[0] != '*')
+            return false; // a live row the tag lacks
+    }
+    *rows = std::move(inOrder);
+    return true;
 }

@@ -229,6 +229,7 @@ private:
     bool encodeField(const DbfField &f, const QVariant &value, QByteArray *out) const;
 
     std::vector<int> sortedRows(int f) const;
+    bool rowsInKeyOrder(int f, const std::vector<MdxKey> &found, std::vector<int> *rows) const;
     std::vector<std::vector<int>> updatedTagRows() const;
     std::vector<MdxKey> tagKeys(int t, const std::vector<int> &rows) const;
     bool writeIndexTemp(const std::vector<std::vector<int>> &rows, QString *tempPath);
