@@ -160,7 +160,10 @@ void TableLock::writeNote()
 {
     const QString note = noteOf(m_lockPath);
     const QString temp = note + QStringLiteral(".tmp");
-    QString program = QCoreApplication::applicationName();
+    // the program's file name tells the program on the bench from tarvik-cli
+    QString program = QCoreApplication::instance()
+                          ? QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName()
+                          : QString();
     if (program.isEmpty())
         program = QStringLiteral("tarvik");
     const QByteArray text = QStringLiteral("%1 %2 on %3\n")
