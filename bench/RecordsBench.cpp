@@ -3,9 +3,13 @@
 // files flushed to disk, then each located by its identification. With a language driver id
 // (0x58 for DBWINWE0, say) the tables are made under that driver, whose keys sort by its
 // weights, and the identifications carry accented letters.
+// Then the sharing: stores while a second data module (another program) holds the same tables
+// open, stores alternating between the two (each first reads what the other stored), and the
+// cost of the table lock itself.
 //   build/bin/records_bench [count] [directory] [driver]
 #include "DbfTable.h"
 #include "TDBModule.h"
+#include "TableLock.h"
 #include "TableSchema.h"
 #include "UserPrompt.h"
 #include "ValidatorStore.h"
@@ -110,5 +114,57 @@ int main(int argc, char **argv)
     report("store (last tenth)", lastStores);
     report("locate (validator+channels)", locates);
     report("load", loads);
+
+    // Another program holds the tables open: this one's stores do not wait for it.
+    TDBModule other;
+    if (!other.open(dir)) {
+        std::fprintf(stderr, "%s\n", qPrintable(other.errorString()));
+        return 1;
+    }
+    ValidatorStore otherStore(other, prompt);
+    std::vector<qint64> held, alternating, exclusive, shared, changeLocks;
+    for (int i = 0; i < 50; ++i) {
+        image.prices[1] = quint8(i);
+        timer.start();
+        if (store.store(image, QStringLiteral("HELD %1").arg(i), QStringLiteral("bench")) !=
+            ValidatorStore::Outcome::Stored)
+            return 1;
+        held.push_back(timer.nsecsElapsed());
+    }
+    // Both store in turn: each store first reads the tables the other changed.
+    for (int i = 0; i < 20; ++i) {
+        ValidatorStore &s = i % 2 ? store : otherStore;
+        timer.start();
+        if (s.store(image, QStringLiteral("TURN %1").arg(i), QStringLiteral("bench")) !=
+            ValidatorStore::Outcome::Stored)
+            return 1;
+        alternating.push_back(timer.nsecsElapsed());
+    }
+    TableLock lock(db.Channel()->filePath());
+    for (int i = 0; i < 1000; ++i) {
+        timer.start();
+        lock.lock(TableLock::Mode::Exclusive);
+        lock.unlock();
+        exclusive.push_back(timer.nsecsElapsed());
+        timer.start();
+        lock.lock(TableLock::Mode::Shared);
+        lock.unlock();
+        shared.push_back(timer.nsecsElapsed());
+    }
+    db.refresh();
+    for (int i = 0; i < 1000; ++i) {
+        timer.start();
+        {
+            const TableChangeLock both({db.Gettoniere(), db.Channel()});
+        }
+        changeLocks.push_back(timer.nsecsElapsed());
+    }
+    std::printf("sharing: %d channel rows, a second data module holding the tables open\n",
+                db.Channel()->recordCount());
+    report("store (other program open)", held);
+    report("store (in turn with it)", alternating);
+    report("lock+unlock exclusive", exclusive);
+    report("lock+unlock shared", shared);
+    report("change lock, both tables", changeLocks);
     return 0;
 }

@@ -843,10 +843,6 @@
         <translation>%s: Feld %s hat den Typ %s, erwartet wird %s</translation>
     </message>
     <message>
-        <source>%s is open in another program (%s); it is opened read-only</source>
-        <translation>%s ist in einem anderen Programm geöffnet (%s); es wird schreibgeschützt geöffnet</translation>
-    </message>
-    <message>
         <source>%s cannot be changed: the file or its directory is read-only</source>
         <translation>%s kann nicht geändert werden: Die Datei oder ihr Verzeichnis ist schreibgeschützt</translation>
     </message>
@@ -921,6 +917,18 @@
     <message>
         <source>%s was changed by another program; open it again before changing it</source>
         <translation>%s wurde von einem anderen Programm geändert; öffnen Sie es erneut, bevor Sie es ändern</translation>
+    </message>
+    <message>
+        <source>%s: waited %s s for %s holding the lock; nothing written</source>
+        <translation>%s: %s s auf %s gewartet, das die Sperre hält; nichts wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>ein anderes Programm</translation>
+    </message>
+    <message>
+        <source>%s has been changed by another program since it was shown. Delete it anyway ?</source>
+        <translation>%s wurde seit der Anzeige von einem anderen Programm geändert. Trotzdem löschen?</translation>
     </message>
     <message>
         <source>The data directory %s cannot be created</source>
@@ -1001,10 +1009,6 @@
     <message>
         <source>%s could not be repaired: %s</source>
         <translation>%s konnte nicht repariert werden: %s</translation>
-    </message>
-    <message>
-        <source>it is open in another program (%s)</source>
-        <translation>es ist in einem anderen Programm geöffnet (%s)</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s)</source>

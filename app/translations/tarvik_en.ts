@@ -843,10 +843,6 @@
         <translation>%s: field %s is of type %s where %s is expected</translation>
     </message>
     <message>
-        <source>%s is open in another program (%s); it is opened read-only</source>
-        <translation>%s is open in another program (%s); it is opened read-only</translation>
-    </message>
-    <message>
         <source>%s cannot be changed: the file or its directory is read-only</source>
         <translation>%s cannot be changed: the file or its directory is read-only</translation>
     </message>
@@ -921,6 +917,18 @@
     <message>
         <source>%s was changed by another program; open it again before changing it</source>
         <translation>%s was changed by another program; open it again before changing it</translation>
+    </message>
+    <message>
+        <source>%s: waited %s s for %s holding the lock; nothing written</source>
+        <translation>%s: waited %s s for %s holding the lock; nothing written</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>another program</translation>
+    </message>
+    <message>
+        <source>%s has been changed by another program since it was shown. Delete it anyway ?</source>
+        <translation>%s has been changed by another program since it was shown. Delete it anyway ?</translation>
     </message>
     <message>
         <source>The data directory %s cannot be created</source>
@@ -1001,10 +1009,6 @@
     <message>
         <source>%s could not be repaired: %s</source>
         <translation>%s could not be repaired: %s</translation>
-    </message>
-    <message>
-        <source>it is open in another program (%s)</source>
-        <translation>it is open in another program (%s)</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s)</source>

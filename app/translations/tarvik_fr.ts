@@ -843,10 +843,6 @@
         <translation>%s : le champ %s est de type %s alors que %s est attendu</translation>
     </message>
     <message>
-        <source>%s is open in another program (%s); it is opened read-only</source>
-        <translation>%s est ouvert dans un autre programme (%s) ; il est ouvert en lecture seule</translation>
-    </message>
-    <message>
         <source>%s cannot be changed: the file or its directory is read-only</source>
         <translation>%s ne peut pas être modifié : le fichier ou son répertoire est en lecture seule</translation>
     </message>
@@ -921,6 +917,18 @@
     <message>
         <source>%s was changed by another program; open it again before changing it</source>
         <translation>%s a été modifié par un autre programme ; ouvrez-le de nouveau avant de le modifier</translation>
+    </message>
+    <message>
+        <source>%s: waited %s s for %s holding the lock; nothing written</source>
+        <translation>%s : attente de %s s pour %s qui détient le verrou ; rien n&apos;a été écrit</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>un autre programme</translation>
+    </message>
+    <message>
+        <source>%s has been changed by another program since it was shown. Delete it anyway ?</source>
+        <translation>%s a été modifié par un autre programme depuis son affichage. Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>The data directory %s cannot be created</source>
@@ -1001,10 +1009,6 @@
     <message>
         <source>%s could not be repaired: %s</source>
         <translation>%s n&apos;a pas pu être réparé : %s</translation>
-    </message>
-    <message>
-        <source>it is open in another program (%s)</source>
-        <translation>il est ouvert dans un autre programme (%s)</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s)</source>

@@ -843,10 +843,6 @@
         <translation>%s: il campo %s è di tipo %s mentre è atteso %s</translation>
     </message>
     <message>
-        <source>%s is open in another program (%s); it is opened read-only</source>
-        <translation>%s è aperto in un altro programma (%s); viene aperto in sola lettura</translation>
-    </message>
-    <message>
         <source>%s cannot be changed: the file or its directory is read-only</source>
         <translation>%s non può essere modificato: il file o la sua cartella è in sola lettura</translation>
     </message>
@@ -921,6 +917,18 @@
     <message>
         <source>%s was changed by another program; open it again before changing it</source>
         <translation>%s è stato modificato da un altro programma; aprirlo di nuovo prima di modificarlo</translation>
+    </message>
+    <message>
+        <source>%s: waited %s s for %s holding the lock; nothing written</source>
+        <translation>%s: attesi %s s per %s che detiene il blocco; non è stato scritto nulla</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>un altro programma</translation>
+    </message>
+    <message>
+        <source>%s has been changed by another program since it was shown. Delete it anyway ?</source>
+        <translation>%s è stato modificato da un altro programma da quando è stato mostrato. Eliminarlo comunque?</translation>
     </message>
     <message>
         <source>The data directory %s cannot be created</source>
@@ -1001,10 +1009,6 @@
     <message>
         <source>%s could not be repaired: %s</source>
         <translation>%s non ha potuto essere riparato: %s</translation>
-    </message>
-    <message>
-        <source>it is open in another program (%s)</source>
-        <translation>è aperto in un altro programma (%s)</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s)</source>

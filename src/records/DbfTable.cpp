@@ -4,13 +4,13 @@
 #include "DbfLayout.h"
 #include "DurableFile.h"
 #include "LanguageDriver.h"
+#include "TableLock.h"
 
 #include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QLockFile>
 #include <QtEndian>
 #include <algorithm>
 #include <cmath>
@@ -153,90 +153,51 @@ bool DbfTable::open(const QString &path, const TableSchema *schema)
     m_indexPath = findInDirectory(dir, schema ? schema->indexFileName
                                               : QFileInfo(m_path).completeBaseName() +
                                                     QStringLiteral(".MDX"));
-
-    m_lock = std::make_unique<QLockFile>(m_path + QStringLiteral(".lck"));
-    m_lock->setStaleLockTime(0);
-    bool writable = QFileInfo(m_path).isWritable() && QFileInfo(dir).isWritable();
-    if (writable && !m_lock->tryLock(0)) {
-        if (m_lock->error() == QLockFile::LockFailedError) {
-            qint64 pid = 0;
-            QString host, app;
-            m_lock->getLockInfo(&pid, &host, &app);
-            const QString who = QStringLiteral("%1 %2 on %3").arg(app).arg(pid).arg(host);
-            m_notices.append(messageText(Msg::RecordsLocked, {name, who.trimmed()}));
-            setReadOnly(m_notices.constLast());
-        } else {
-            writable = false;
-        }
-        m_lock.reset();
-    }
-    if (!writable && !m_readOnly) {
-        setReadOnly(messageText(Msg::RecordsReadOnly, {name}));
-        m_notices.append(m_readOnlyReason);
-    }
-
-    // Temporaries left by a commit that did not finish: the pair on disk is the truth.
-    if (!m_readOnly) {
-        QFile::remove(m_path + kTempSuffix);
-        QFile::remove(m_indexPath + kTempSuffix);
-    }
-
-    QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(Msg::RecordsCannotOpen, {name, file.errorString()});
-    const QByteArray bytes = file.readAll();
-    file.close();
-    if (!parseTable(bytes) || !checkSchema()) {
+    m_permissionReadOnly = !QFileInfo(m_path).isWritable() || !QFileInfo(dir).isWritable();
+    if (!readFromDisk()) {
         const QString error = m_error;
         close();
         m_error = error;
         return false;
     }
-
-    QByteArray indexBytes;
-    bool haveIndex = false;
-    if (QFileInfo::exists(m_indexPath)) {
-        QFile indexFile(m_indexPath);
-        if (indexFile.open(QIODevice::ReadOnly)) {
-            indexBytes = indexFile.readAll();
-            haveIndex = true;
-        }
-    }
-    attachIndex(haveIndex ? &indexBytes : nullptr);
     m_open = true;
 
+    // Temporaries of a commit whose program ended half way go under the lock (see
+    // lockForChange()): while it is free, no commit is under way.
+    if (!m_readOnly && !m_indexNeedsWrite && !m_headerDirty &&
+        (QFileInfo::exists(m_path + kTempSuffix) || QFileInfo::exists(m_indexPath + kTempSuffix)) &&
+        lockForChange())
+        unlockChange();
     if (m_indexNeedsWrite || m_headerDirty) {
         const QString indexName = QFileInfo(m_indexPath).fileName();
-        const QString reason = m_indexProblem.text();
         if (m_readOnly) {
             // A damaged table's index is rebuilt with its repair; its notice says enough.
             if (m_damage.isEmpty())
-                m_notices.append(messageText(Msg::RecordsIndexNotRebuilt, {indexName, reason}));
+                m_notices.append(
+                    messageText(Msg::RecordsIndexNotRebuilt, {indexName, m_indexProblem.text()}));
             m_headerDirty = false;
-        } else if (commit()) {
-            m_notices.append(messageText(Msg::RecordsIndexRebuilt, {indexName, reason, name}));
-        } else {
-            m_notices.append(messageText(Msg::RecordsIndexNotRebuilt, {indexName, reason}));
+        } else if (!lockForChange()) {
+            m_notices.append(
+                messageText(Msg::RecordsIndexNotRebuilt, {indexName, m_indexProblem.text()}));
             m_notices.append(m_error);
-            rollback();
+            m_headerDirty = false;
+        } else {
+            // Read again under the lock: another program may have rebuilt it meanwhile.
+            const QString reason = m_indexProblem.text();
+            if (!m_indexNeedsWrite && !m_headerDirty) {
+                // nothing left to do
+            } else if (commit()) {
+                m_notices.append(messageText(Msg::RecordsIndexRebuilt, {indexName, reason, name}));
+            } else {
+                m_notices.append(messageText(Msg::RecordsIndexNotRebuilt, {indexName, reason}));
+                m_notices.append(m_error);
+                rollback();
+            }
+            unlockChange();
         }
     }
-    rememberDiskState();
     Q_EMIT changed();
     return true;
-}
-
-void DbfTable::rememberDiskState()
-{
-    const QFileInfo info(m_path);
-    m_diskSize = info.size();
-    m_diskModified = info.lastModified();
-}
-
-bool DbfTable::changedOnDisk() const
-{
-    const QFileInfo info(m_path);
-    return info.size() != m_diskSize || info.lastModified() != m_diskModified;
 }
 
 bool DbfTable::openBytes(const QByteArray &table, const QByteArray &index,
@@ -268,9 +229,18 @@ void DbfTable::close()
     m_memoryOnly = false;
     m_readOnlyReason.clear();
     m_damage.clear();
-    m_unreadable = 0;
-    m_lock.reset();
+    m_permissionReadOnly = false;
+    m_changeLock.reset();
     m_notices.clear();
+    resetContent();
+    if (wasOpen)
+        Q_EMIT changed();
+}
+
+void DbfTable::resetContent()
+{
+    m_damage.clear();
+    m_unreadable = 0;
     m_header.clear();
     m_committedHeader.clear();
     m_headerDirty = false;
@@ -289,8 +259,6 @@ void DbfTable::close()
     m_dirtyMark.clear();
     m_dirtyRows.clear();
     m_lookups.clear();
-    if (wasOpen)
-        Q_EMIT changed();
 }
 
 void DbfTable::setReadOnly(const QString &reason)
@@ -465,25 +433,23 @@ void DbfTable::attachIndex(const QByteArray *indexBytes)
         m_notices.append(m_readOnlyReason);
         maintainable = false;
     }
+    // Every tag must list exactly the live rows in key order, the first row only of each key
+    // for a unique tag. The rows of a tag that does are taken from it in one pass; the others
+    // are sorted.
+    const bool check = maintainable && parsed && !problem.isSet();
     m_tagRows.assign(m_tagFields.size(), {});
     for (std::size_t t = 0; t < m_tagFields.size(); ++t) {
-        if (m_tagFields[t] >= 0)
-            m_tagRows[t] = sortedRows(m_tagFields[t]);
-    }
-    if (!maintainable) {
-        m_headerDirty = false;
-        return;
-    }
-
-    // Every tag must list exactly the live rows in key order, the first row only of each key
-    // for a unique tag.
-    if (parsed && !problem.isSet()) {
-        for (int t = 0; t < m_index.tags().size() && !problem.isSet(); ++t) {
-            std::vector<MdxKey> found;
-            if (!m_index.readKeys(*indexBytes, t, lang(), found, &problem))
-                break;
-            const std::vector<MdxKey> expected = tagKeys(t, m_tagRows[std::size_t(t)]);
-            const std::size_t length = std::size_t(m_index.tags().at(t).keyLength);
+        const int f = m_tagFields[t];
+        if (f < 0)
+            continue;
+        std::vector<MdxKey> found;
+        if (check && !problem.isSet() &&
+            m_index.readKeys(*indexBytes, int(t), lang(), found, &problem)) {
+            if (!m_index.tags().at(int(t)).unique && rowsInKeyOrder(f, found, &m_tagRows[t]))
+                continue;
+            m_tagRows[t] = sortedRows(f);
+            const std::vector<MdxKey> expected = tagKeys(int(t), m_tagRows[t]);
+            const std::size_t length = std::size_t(m_fields.at(f).length);
             const bool same =
                 found.size() == expected.size() &&
                 std::equal(found.begin(), found.end(), expected.begin(),
@@ -492,8 +458,46 @@ void DbfTable::attachIndex(const QByteArray *indexBytes)
                            });
             if (!same)
                 problem = {Msg::IndexReasonEntries, {}};
+            continue;
         }
+        m_tagRows[t] = sortedRows(f);
+    }
+    if (!maintainable) {
+        m_headerDirty = false;
+        return;
     }
     m_indexProblem = problem;
     m_indexNeedsWrite = problem.isSet();
+}
+
+// Whether the entries of a tag read from its index are the table's live rows, each once, in
+// key order with their keys as the rows hold them; if so they are the tag's rows.
+bool DbfTable::rowsInKeyOrder(int f, const std::vector<MdxKey> &found, std::vector<int> *rows) const
+{
+    const int offset = m_fields.at(f).offset;
+    const std::size_t length = std::size_t(m_fields.at(f).length);
+    const LanguageDriver &order = lang();
+    std::vector<char> seen(std::size_t(m_count), 0);
+    std::vector<int> inOrder;
+    inOrder.reserve(found.size());
+    for (const MdxKey &k : found) {
+        const int r = int(k.recno) - 1;
+        if (r < 0 || r >= m_count || seen[std::size_t(r)] || record(r)[0] == '*' ||
+            std::memcmp(k.key, record(r) + offset, length) != 0)
+            return false;
+        if (!inOrder.empty()) {
+            const int p = inOrder.back();
+            const int c = order.compare(record(p) + offset, record(r) + offset, length);
+            if (c > 0 || (c == 0 && p > r))
+                return false;
+        }
+        seen[std::size_t(r)] = 1;
+        inOrder.push_back(r);
+    }
+    for (int r = 0; r < m_count; ++r) {
+        if (!seen[std::size_t(r)] && record(r)[0] != '*')
+            return false; // a live row the tag lacks
+    }
+    *rows = std::move(inOrder);
+    return true;
 }

@@ -14,7 +14,7 @@
 #include <memory>
 #include <vector>
 
-class QLockFile;
+class TableLock;
 
 // One field descriptor of a table.
 struct DbfField
@@ -47,21 +47,24 @@ struct DbfField
 //    the table.
 // Last, the index temporary is renamed over the index. The table is thus always either the
 // old or the new one, and it is the truth: the index is derived from it. A crash before the
-// table step leaves the old pair (the temporaries are removed on the next open); a crash after
-// it leaves the new table with the old index, which the next open finds stale, because it
-// checks every tag of the index against the table, and rebuilds, giving the new pair. A damaged
-// or missing index is rebuilt the same way, with a notice.
+// table step leaves the old pair (the temporaries go when a program next takes the table's
+// lock); a crash after it leaves the new table with the old index, which the next open finds
+// stale, because it checks every tag of the index against the table, and rebuilds, giving the
+// new pair (the next commit of any program rewrites the index as well). A damaged or missing
+// index is rebuilt the same way, with a notice.
 //
 // Damage: a file that does not hold what its header says (cut short, a count past its end, a
 // header that does not parse) opens read-only with the rows that can be read and a notice
 // saying what is wrong; a file of which nothing can be read does not open. Neither is
 // written to until TableRepair has mended it.
 //
-// Locking: a lock file "<table>.lck" beside the table (QLockFile) keeps a second Tarvik from
-// writing the same table; the second one opens it read-only with a notice. dBase tools do not
-// know the lock file: a commit refuses to write when the table's size or time on disk changed
-// since it was read, and since the table is replaced by a rename, a tool that has it open
-// keeps reading the version it opened.
+// Sharing: several programs (a second Tarvik, tarvik-cli, scripts) open the same tables at once,
+// shared; holding a table open never keeps another program out. Each change takes the table's
+// exclusive lock (TableLock) for its own milliseconds: lockForChange() waits its turn, reads the
+// table again when another program changed it since (a few file attributes of the table and its
+// index tell, without reading them), and commit() then writes as above; unlockChange() lets the
+// next program in. Reading a table and its index takes the shared lock for as long as the
+// reading lasts, so a reader sees both from one commit and never a commit half done.
 class DbfTable final : public QObject
 {
     Q_OBJECT
@@ -177,10 +180,32 @@ public:
     std::vector<int> locateAll(const QString &fieldName, const QString &key) const;
 
     bool hasPendingChanges() const;
-    // Writes the pending changes and the rebuilt index (see the class comment).
+    // Writes the pending changes and the rebuilt index (see the class comment). Without
+    // lockForChange() the commit takes the lock itself, and refuses when another program
+    // changed the table since it was read.
     bool commit();
     // Drops the pending changes.
     void rollback();
+
+    // The raw bytes of a row, deletion flag included: what a change compares to see whether
+    // another program changed the row since it was shown.
+    QByteArray rawRecord(int rec) const;
+
+    // Whether another program changed the table or its index since this one last read or
+    // wrote them (their size, time and file identity, without reading them).
+    bool changedOnDisk() const;
+    // Reads the table and its index again when they changed on disk; pending changes are
+    // dropped then. False (errorString()) when the table can no longer be read; it stays as
+    // it was.
+    bool refresh();
+    // Takes the table's exclusive lock for one change, waiting at most
+    // TableLock::waitLimitMs() for another program, and brings the table up to date. False
+    // when the wait ran out: errorString() names the table and the program holding it, and
+    // nothing may be changed.
+    bool lockForChange();
+    // Releases the lock; changes not committed are dropped.
+    void unlockChange();
+    bool isLockedForChange() const { return m_changeLock != nullptr; }
 
 Q_SIGNALS:
     // After open, close, a commit or a rollback: the rows may all be different.
@@ -204,12 +229,15 @@ private:
     bool encodeField(const DbfField &f, const QVariant &value, QByteArray *out) const;
 
     std::vector<int> sortedRows(int f) const;
+    bool rowsInKeyOrder(int f, const std::vector<MdxKey> &found, std::vector<int> *rows) const;
     std::vector<std::vector<int>> updatedTagRows() const;
     std::vector<MdxKey> tagKeys(int t, const std::vector<int> &rows) const;
     bool writeIndexTemp(const std::vector<std::vector<int>> &rows, QString *tempPath);
     void beginChange(int rec);
     void rememberDiskState();
-    bool changedOnDisk() const;
+    bool readFromDisk();
+    void resetContent();
+    bool commitLocked();
 
     QString foldedKey(int rec, int f) const;
     struct Lookup
@@ -231,9 +259,15 @@ private:
     QString m_readOnlyReason;
     QString m_damage;
     qint64 m_unreadable = 0;
-    std::unique_ptr<QLockFile> m_lock;
-    qint64 m_diskSize = 0;
-    QDateTime m_diskModified; // of the table as last read or written
+    bool m_permissionReadOnly = false; // the file or its directory cannot be written
+    std::unique_ptr<TableLock> m_changeLock;
+    struct DiskStamp
+    {
+        qint64 id = -1, size = -1, modified = -1;
+        bool operator==(const DiskStamp &) const = default;
+    };
+    static DiskStamp stampOf(const QString &path);
+    DiskStamp m_tableStamp, m_indexStamp; // as last read or written
 
     QByteArray m_header;
     QByteArray m_committedHeader;
@@ -259,4 +293,38 @@ private:
     std::vector<char> m_dirtyMark;
     std::vector<int> m_dirtyRows;
     mutable std::vector<std::unique_ptr<Lookup>> m_lookups; // by field, built when first used
+};
+
+// The exclusive locks of the tables one change writes, taken in the order of their paths (so
+// that two programs never each wait for the other) with each table brought up to date, and
+// released, with whatever was not committed, when it goes.
+class TableChangeLock final
+{
+public:
+    explicit TableChangeLock(std::initializer_list<DbfTable *> tables);
+    ~TableChangeLock();
+    TableChangeLock(const TableChangeLock &) = delete;
+    TableChangeLock &operator=(const TableChangeLock &) = delete;
+
+    bool ok() const { return m_error.isEmpty(); }
+    QString errorString() const { return m_error; }
+
+private:
+    std::vector<DbfTable *> m_held;
+    QString m_error;
+};
+
+// The shared locks of several tables at once, so that what is read from them together is from
+// one change of them all (a change holds the exclusive locks of all the tables it writes).
+// Tables this program holds for a change are left out.
+class TableReadLock final
+{
+public:
+    explicit TableReadLock(std::initializer_list<DbfTable *> tables);
+    ~TableReadLock();
+    TableReadLock(const TableReadLock &) = delete;
+    TableReadLock &operator=(const TableReadLock &) = delete;
+
+private:
+    std::vector<std::unique_ptr<TableLock>> m_locks;
 };

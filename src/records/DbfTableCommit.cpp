@@ -4,13 +4,13 @@
 #include "DbfLayout.h"
 #include "DurableFile.h"
 #include "LanguageDriver.h"
+#include "TableLock.h"
 
 #include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QLockFile>
 #include <QtEndian>
 #include <algorithm>
 #include <cmath>
@@ -126,15 +126,27 @@ bool DbfTable::commit()
         m_error = m_readOnlyReason;
         return false;
     }
+    if (m_changeLock)
+        return commitLocked();
+    // Changes made without lockForChange() were made on what was read then.
+    TableLock lock(m_path);
+    if (!lock.lock(TableLock::Mode::Exclusive)) {
+        m_error = lock.errorString();
+        return false;
+    }
+    if (changedOnDisk())
+        return fail(Msg::RecordsChangedElsewhere, {fileName()});
+    return commitLocked();
+}
+
+bool DbfTable::commitLocked()
+{
     if (m_indexed && (quint8(m_header.at(28)) & 1) == 0) {
         m_header[28] = char(quint8(m_header.at(28)) | 1);
         m_headerDirty = true;
     }
     const QString name = fileName();
     const QString dir = QFileInfo(m_path).absolutePath();
-    // A dBase tool that ignores our lock file may have written since we read the table.
-    if (m_diskModified.isValid() && changedOnDisk())
-        return fail(Msg::RecordsChangedElsewhere, {name});
     const std::vector<std::vector<int>> newRows = updatedTagRows();
 
     QString indexTemp;
@@ -224,6 +236,7 @@ bool DbfTable::commit()
             m_indexNeedsWrite = false;
             m_indexProblem = {};
         }
+        rememberDiskState();
     }
     if (tableChanged)
         Q_EMIT changed();

@@ -2,6 +2,7 @@
 
 #include "DbfTable.h"
 #include "Messages.h"
+#include "RowChange.h"
 #include "TDBModule.h"
 #include "UserPrompt.h"
 
@@ -55,7 +56,9 @@ bool ProfileStore::canChange()
 QList<ProfileStore::Entry> ProfileStore::list() const
 {
     QList<Entry> entries;
-    const DbfTable *table = m_db.DemTable();
+    DbfTable *table = m_db.DemTable();
+    if (table)
+        table->refresh(); // profiles another program stored meanwhile are listed too
     if (!table || !table->isOpen())
         return entries;
     for (int r : table->liveRows())
@@ -66,6 +69,7 @@ QList<ProfileStore::Entry> ProfileStore::list() const
 
 std::optional<ProfileRecord> ProfileStore::load(const QString &profileName)
 {
+    m_db.DemTable()->refresh();
     if (!tableUsable())
         return std::nullopt;
     const DbfTable &table = *m_db.DemTable();
@@ -104,30 +108,27 @@ ProfileStore::Outcome ProfileStore::save(const ProfileRecord &profile)
     key.truncate(table.field(table.fieldIndex(QStringLiteral("NOM"))).length);
     key = key.trimmed();
 
-    int r = table.locate(QStringLiteral("NOM"), key);
-    if (r >= 0) {
-        const auto answer = m_prompt.ask(messageText(Msg::ExistOverwrite, {key}),
-                                         UserPrompt::Kind::Warning, UserPrompt::Buttons::YesNo);
-        if (answer != UserPrompt::Answer::Yes)
-            return Outcome::NotOverwritten;
-    } else {
-        r = table.appendRecord();
-    }
-
-    bool ok = r >= 0 && table.setValue(r, QStringLiteral("NOM"), key) &&
-              table.setValue(r, QStringLiteral("DESCRIPT"), profile.description) &&
-              table.setValue(r, QStringLiteral("SUB"), profile.substitute) &&
-              table.setValue(r, QStringLiteral("ENABLE"),
-                             profile.enabled ? QStringLiteral("TRUE") : QStringLiteral("False")) &&
-              table.setValue(r, QStringLiteral("VALEUR"), intOrBlank(profile.value));
-    for (int i = 0; ok && i < ProfileRecord::kTolerances; ++i)
-        ok = table.setValue(r, name(toleranceFields()[std::size_t(i)]),
-                            intOrBlank(profile.tolerances[std::size_t(i)]));
-    if (!ok || !table.commit()) {
-        m_error = table.errorString();
-        table.rollback();
+    auto fill = [&](int r) {
+        bool ok =
+            table.setValue(r, QStringLiteral("NOM"), key) &&
+            table.setValue(r, QStringLiteral("DESCRIPT"), profile.description) &&
+            table.setValue(r, QStringLiteral("SUB"), profile.substitute) &&
+            table.setValue(r, QStringLiteral("ENABLE"),
+                           profile.enabled ? QStringLiteral("TRUE") : QStringLiteral("False")) &&
+            table.setValue(r, QStringLiteral("VALEUR"), intOrBlank(profile.value));
+        for (int i = 0; ok && i < ProfileRecord::kTolerances; ++i)
+            ok = table.setValue(r, name(toleranceFields()[std::size_t(i)]),
+                                intOrBlank(profile.tolerances[std::size_t(i)]));
+        return ok;
+    };
+    switch (RowChange::save(table, QStringLiteral("NOM"), key, m_prompt, fill, &m_error)) {
+    case RowChange::Result::Declined:
+        return Outcome::NotOverwritten;
+    case RowChange::Result::Failed:
         m_prompt.tell(m_error, UserPrompt::Kind::Error);
         return Outcome::Failed;
+    case RowChange::Result::Done:
+        break;
     }
     return Outcome::Saved;
 }
@@ -141,10 +142,6 @@ bool ProfileStore::remove(const QString &profileName)
     m_error.clear();
     if (r < 0)
         return false;
-    if (!table.deleteRecord(r) || !table.commit()) {
-        m_error = table.errorString();
-        table.rollback();
-        return false;
-    }
-    return true;
+    return RowChange::remove(table, QStringLiteral("NOM"), r, m_prompt, &m_error) ==
+           RowChange::Result::Done;
 }

@@ -3,6 +3,8 @@
 #include "DbfTable.h"
 #include "DbfTableModel.h"
 #include "Messages.h"
+#include "RowChange.h"
+#include "TableLock.h"
 #include "TableSchema.h"
 #include "UserPrompt.h"
 
@@ -65,7 +67,17 @@ bool TDBModule::open(const QString &dataDir, UserPrompt *prompt)
     if (errors.isEmpty()) {
         const LanguageDriver *driver = nullptr; // looked up once a table is missing
         for (const TableSchema *schema : schemas) {
-            const QString path = DbfTable::findInDirectory(m_dir, schema->fileName);
+            QString path = DbfTable::findInDirectory(m_dir, schema->fileName);
+            if (QFileInfo::exists(path))
+                continue;
+            // Another program starting at the same time may be making it too: one makes it,
+            // the other waits and opens it.
+            TableLock lock(path);
+            if (!lock.lock(TableLock::Mode::Exclusive)) {
+                errors.append(lock.errorString());
+                continue;
+            }
+            path = DbfTable::findInDirectory(m_dir, schema->fileName);
             if (QFileInfo::exists(path))
                 continue;
             if (!driver)
@@ -77,7 +89,8 @@ bool TDBModule::open(const QString &dataDir, UserPrompt *prompt)
                 errors.append(error);
         }
     }
-    if (createdDirectory)
+    // A directory made by this program holds at least a table it made.
+    if (createdDirectory && !created.isEmpty())
         m_notices.append(messageText(Msg::RecordsDirectoryCreated, {m_dir}));
     else if (!created.isEmpty())
         m_notices.append(
@@ -92,11 +105,13 @@ bool TDBModule::open(const QString &dataDir, UserPrompt *prompt)
         }
         m_notices.append(table.notices());
     }
+    // Opened one by one, the validators and their channels may be from two moments.
+    refreshValidators();
     m_error = errors.join(QLatin1Char('\n'));
 
     if (prompt) {
         for (int i = 0; i < m_notices.size(); ++i) {
-            const bool creation = i == 0 && (createdDirectory || !created.isEmpty());
+            const bool creation = i == 0 && !created.isEmpty();
             prompt->tell(m_notices.at(i),
                          creation ? UserPrompt::Kind::Information : UserPrompt::Kind::Warning);
         }
@@ -133,24 +148,52 @@ bool TDBModule::GettoniereBeforeDelete(int rec)
     return true;
 }
 
-bool TDBModule::deleteValidator(int rec)
+bool TDBModule::deleteValidator(int rec, bool *changedMeanwhile)
 {
     DbfTable &validators = *Gettoniere();
     DbfTable &channels = *Channel();
+    if (changedMeanwhile)
+        *changedMeanwhile = false;
     if (!validators.isOpen() || !channels.isOpen() || rec < 0 || rec >= validators.recordCount())
         return false;
+    const QString ident = validators.text(rec, QStringLiteral("IDENT"));
+    const QByteArray shown = validators.rawRecord(rec);
+    TableChangeLock lock({&validators, &channels});
+    if (!lock.ok()) {
+        m_error = lock.errorString();
+        return false;
+    }
+    // The row as this program last read it: another program may have changed it since.
+    rec = RowChange::sameRow(validators, QStringLiteral("IDENT"), ident, shown);
+    if (rec < 0) {
+        m_error = messageText(Msg::RecordsChangedElsewhere, {ident});
+        if (changedMeanwhile)
+            *changedMeanwhile = true;
+        return false;
+    }
     const bool ok = GettoniereBeforeDelete(rec) && validators.deleteRecord(rec);
     if (!ok || !channels.commit()) {
         m_error = ok ? channels.errorString()
                      : (channels.isReadOnly() ? channels.errorString() : validators.errorString());
-        channels.rollback();
-        validators.rollback();
         return false;
     }
     if (!validators.commit()) {
         m_error = validators.errorString();
-        validators.rollback();
         return false;
     }
     return true;
+}
+
+void TDBModule::refresh()
+{
+    const TableReadLock together({Gettoniere(), Channel(), DemTable(), DetTablle(), ValueTable()});
+    for (auto &table : m_tables)
+        table->refresh();
+}
+
+void TDBModule::refreshValidators()
+{
+    const TableReadLock together({Gettoniere(), Channel()});
+    Gettoniere()->refresh();
+    Channel()->refresh();
 }

@@ -53,8 +53,14 @@ public:
     // Runs before a Gettoniere row is deleted: deletes every Channel row whose MONNAYEUR
     // equals the row's IDENT without regard to case. Nothing is committed.
     bool GettoniereBeforeDelete(int rec);
-    // Deletes a validator row with its channels and commits both tables (channels first).
-    bool deleteValidator(int rec);
+    // Deletes a validator row with its channels and commits both tables (channels first),
+    // under their locks. When another program changed or deleted the row since this one read
+    // it, nothing is deleted and changedMeanwhile is set.
+    bool deleteValidator(int rec, bool *changedMeanwhile = nullptr);
+    // Reads again the tables another program changed since (see DbfTable::refresh()).
+    void refresh();
+    // The same for the validators and their channels only, both read at one moment.
+    void refreshValidators();
 
 private:
     QString m_dir;

@@ -1,5 +1,7 @@
 #include "TableRepair.h"
 
+#include "TableLock.h"
+
 #include "DbfLayout.h"
 #include "DbfTable.h"
 #include "DurableFile.h"
@@ -9,7 +11,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 
 namespace {
 
@@ -184,18 +185,11 @@ TableRepair::Result TableRepair::repairFile(const QString &path, const TableSche
         return r;
     };
 
-    // No other program may change the table meanwhile.
-    QLockFile lock(path + QStringLiteral(".lck"));
-    lock.setStaleLockTime(0);
-    if (!lock.tryLock(0)) {
-        if (lock.error() != QLockFile::LockFailedError)
-            return failed(messageText(Msg::RecordsReadOnly, {r.fileName}));
-        qint64 pid = 0;
-        QString host, app;
-        lock.getLockInfo(&pid, &host, &app);
-        return failed(messageText(Msg::RepairReasonLocked,
-                                  {QStringLiteral("%1 %2 on %3").arg(app).arg(pid).arg(host)}));
-    }
+    // No other program may change the table meanwhile; one that has it open waits, or reads
+    // the old pair or the new one.
+    TableLock lock(path);
+    if (!lock.lock(TableLock::Mode::Exclusive))
+        return failed(lock.errorString());
     if (!QFileInfo(path).isWritable())
         return failed(messageText(Msg::RecordsReadOnly, {r.fileName}));
     QByteArray table, index;

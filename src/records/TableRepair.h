@@ -16,8 +16,8 @@
 // cannot be trusted is copied the same way and gets its index rebuilt. A sound table is left
 // untouched, and so is a file of which nothing can be read.
 //
-// The tables must not be open in this program while it runs: the lock file that keeps a
-// second program from writing a table keeps the repair out too.
+// Each table is mended under its exclusive lock (TableLock), so that programs holding the
+// tables open meanwhile wait for it, then read the mended table.
 class TableRepair final
 {
 public:

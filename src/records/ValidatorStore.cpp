@@ -54,6 +54,7 @@ ValidatorStore::Outcome ValidatorStore::store(const ConfigImage &image,
         m_prompt.tell(messageText(Msg::IdentificationMustBeFilled), UserPrompt::Kind::Warning);
         return Outcome::EmptyIdentification;
     }
+    m_db.refreshValidators();
     if (!canChange()) {
         m_prompt.tell(m_error, UserPrompt::Kind::Error);
         return Outcome::Failed;
@@ -64,24 +65,58 @@ ValidatorStore::Outcome ValidatorStore::store(const ConfigImage &image,
     ident.truncate(validators.field(validators.fieldIndex(QStringLiteral("IDENT"))).length);
     ident = ident.trimmed();
 
-    auto failed = [&](const QString &error) {
-        m_error = error;
-        channels.rollback();
-        validators.rollback();
-        m_prompt.tell(m_error, UserPrompt::Kind::Error);
-        return Outcome::Failed;
+    auto overwrite = [&] {
+        return m_prompt.ask(messageText(Msg::ExistOverwrite, {ident}), UserPrompt::Kind::Warning,
+                            UserPrompt::Buttons::YesNo) == UserPrompt::Answer::Yes;
     };
 
-    const int existing = validators.locate(QStringLiteral("IDENT"), ident);
+    // The question is about the validator as it is now; the tables are locked only once it is
+    // answered, and asked again about a validator another program stored or changed meanwhile.
+    QByteArray agreed; // the validator row the person agreed to overwrite, empty for none
+    int existing = validators.locate(QStringLiteral("IDENT"), ident);
     if (existing >= 0) {
-        const auto answer = m_prompt.ask(messageText(Msg::ExistOverwrite, {ident}),
-                                         UserPrompt::Kind::Warning, UserPrompt::Buttons::YesNo);
-        if (answer != UserPrompt::Answer::Yes)
+        if (!overwrite())
             return Outcome::NotOverwritten;
-        if (!m_db.GettoniereBeforeDelete(existing) || !validators.deleteRecord(existing))
-            return failed(channels.isReadOnly() ? channels.errorString()
-                                                : validators.errorString());
+        agreed = validators.rawRecord(existing);
     }
+    Outcome outcome = Outcome::Failed;
+    for (;;) {
+        {
+            TableChangeLock lock({&validators, &channels});
+            if (!lock.ok()) {
+                m_error = lock.errorString();
+                break;
+            }
+            existing = validators.locate(QStringLiteral("IDENT"), ident);
+            if (existing < 0 || validators.rawRecord(existing) == agreed) {
+                outcome = storeLocked(image, ident, description, existing);
+                break; // the lock drops what was not committed
+            }
+        }
+        if (!overwrite())
+            return Outcome::NotOverwritten;
+        agreed = validators.rawRecord(validators.locate(QStringLiteral("IDENT"), ident));
+    }
+    // Said once the tables are free again.
+    if (outcome == Outcome::Stored)
+        m_prompt.tell(messageText(Msg::FileSaved, {ident}), UserPrompt::Kind::Information);
+    else
+        m_prompt.tell(m_error, UserPrompt::Kind::Error);
+    return outcome;
+}
+
+ValidatorStore::Outcome ValidatorStore::storeLocked(const ConfigImage &image, const QString &ident,
+                                                    const QString &description, int existing)
+{
+    DbfTable &validators = *m_db.Gettoniere();
+    DbfTable &channels = *m_db.Channel();
+    auto failed = [&](const QString &error) {
+        m_error = error;
+        return Outcome::Failed;
+    };
+    if (existing >= 0 &&
+        (!m_db.GettoniereBeforeDelete(existing) || !validators.deleteRecord(existing)))
+        return failed(channels.isReadOnly() ? channels.errorString() : validators.errorString());
     // Channel rows left behind by a store that was cut short go too, so that an
     // identification never has two sets of channels.
     for (int row : channels.locateAll(QStringLiteral("MONNAYEUR"), ident)) {
@@ -133,13 +168,14 @@ ValidatorStore::Outcome ValidatorStore::store(const ConfigImage &image,
         return failed(channels.errorString());
     if (!validators.commit())
         return failed(validators.errorString());
-    m_prompt.tell(messageText(Msg::FileSaved, {ident}), UserPrompt::Kind::Information);
     return Outcome::Stored;
 }
 
 bool ValidatorStore::load(const QString &identification, ConfigImage &image, QString *description,
                           LoadReport *report)
 {
+    // What another program stored meanwhile counts, both tables from one moment.
+    m_db.refreshValidators();
     // Without the channel table every channel opens empty.
     if (!m_db.Gettoniere()->isOpen()) {
         m_error = TDBModule::refusal(m_db.Gettoniere());
@@ -246,6 +282,7 @@ bool ValidatorStore::loadInto(const QString &identification, ConfigImage &image,
 QList<ValidatorStore::Entry> ValidatorStore::list() const
 {
     QList<Entry> entries;
+    m_db.Gettoniere()->refresh(); // validators another program stored meanwhile are listed too
     const DbfTable &validators = *m_db.Gettoniere();
     if (!validators.isOpen())
         return entries;
@@ -261,14 +298,26 @@ bool ValidatorStore::remove(const QString &identification)
 {
     if (!canChange())
         return false;
-    const int v = m_db.Gettoniere()->locate(QStringLiteral("IDENT"), identification.trimmed());
+    const QString ident = identification.trimmed();
+    int v = m_db.Gettoniere()->locate(QStringLiteral("IDENT"), ident);
     if (v < 0) {
-        m_error = messageText(Msg::RecordsNotStored, {identification.trimmed()});
+        m_error = messageText(Msg::RecordsNotStored, {ident});
         return false;
     }
-    if (!m_db.deleteValidator(v)) {
+    for (;;) {
+        bool changedMeanwhile = false;
+        if (m_db.deleteValidator(v, &changedMeanwhile))
+            return true;
         m_error = m_db.errorString();
-        return false;
+        if (!changedMeanwhile)
+            return false;
+        // Another program changed it since it was shown: ask again, about it as it is now.
+        v = m_db.Gettoniere()->locate(QStringLiteral("IDENT"), ident);
+        if (v < 0)
+            return true; // deleted by another program already
+        if (m_prompt.ask(messageText(Msg::RecordsChangedMeanwhile, {ident}),
+                         UserPrompt::Kind::Warning,
+                         UserPrompt::Buttons::YesNo) != UserPrompt::Answer::Yes)
+            return false;
     }
-    return true;
 }

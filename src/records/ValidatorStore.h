@@ -60,7 +60,8 @@ public:
     // table's driver.
     QList<Entry> list() const;
 
-    // Deletes a stored validator with its channel rows.
+    // Deletes a stored validator with its channel rows; asks again when another program
+    // changed it since this one read it.
     bool remove(const QString &identification);
 
     // Whether both tables take changes now; errorString() says why not.
@@ -69,6 +70,10 @@ public:
     QString errorString() const { return m_error; }
 
 private:
+    // The rest of store() once both tables are locked; existing is the validator row replaced.
+    Outcome storeLocked(const ConfigImage &image, const QString &ident, const QString &description,
+                        int existing);
+
     TDBModule &m_db;
     UserPrompt &m_prompt;
     QString m_error;

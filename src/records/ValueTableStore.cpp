@@ -4,6 +4,7 @@
 #include "Encodings.h"
 #include "KeyOrder.h"
 #include "Messages.h"
+#include "RowChange.h"
 #include "TDBModule.h"
 #include "UserPrompt.h"
 
@@ -74,7 +75,9 @@ bool ValueTableStore::canChange()
 QList<ValueTableStore::Entry> ValueTableStore::list() const
 {
     QList<Entry> entries;
-    const DbfTable *table = m_db.ValueTable();
+    DbfTable *table = m_db.ValueTable();
+    if (table)
+        table->refresh(); // rows another program stored meanwhile are listed too
     if (!table || !table->isOpen())
         return entries;
     for (int r : rowsInKeyOrder(*table, QStringLiteral("IDENTI")))
@@ -119,32 +122,29 @@ ValueTableStore::Outcome ValueTableStore::save(const ValueBlock &block, const QS
     key.truncate(table.field(table.fieldIndex(QStringLiteral("IDENTI"))).length);
     key = key.trimmed();
 
-    int r = table.locate(QStringLiteral("IDENTI"), key);
-    if (r >= 0) {
-        const auto answer = m_prompt.ask(messageText(Msg::ExistOverwrite, {key}),
-                                         UserPrompt::Kind::Warning, UserPrompt::Buttons::YesNo);
-        if (answer != UserPrompt::Answer::Yes)
-            return Outcome::NotOverwritten;
-    } else {
-        r = table.appendRecord();
-    }
-
     // The encoded device values are kept, not amounts.
-    bool ok =
-        r >= 0 && table.setValue(r, QStringLiteral("IDENTI"), key) &&
-        table.setValue(r, QStringLiteral("DESCRIP"), description) &&
-        table.setValue(r, QStringLiteral("BASE1"), qlonglong(bigEndian(block, Val::Base1, 2))) &&
-        table.setValue(r, QStringLiteral("BASE2"), qlonglong(bigEndian(block, Val::Base2, 2))) &&
-        table.setValue(r, QStringLiteral("CONVERT"),
-                       qlonglong(bigEndian(block, Val::Conversion, 4)));
-    for (int channel = 1; ok && channel <= channelsOf(light); ++channel)
-        ok = table.setValue(r, channelField(channel),
-                            int(block[std::size_t(Val::Channel0 + channel - 1)]));
-    if (!ok || !table.commit()) {
-        m_error = table.errorString();
-        table.rollback();
+    auto fill = [&](int r) {
+        bool ok = table.setValue(r, QStringLiteral("IDENTI"), key) &&
+                  table.setValue(r, QStringLiteral("DESCRIP"), description) &&
+                  table.setValue(r, QStringLiteral("BASE1"),
+                                 qlonglong(bigEndian(block, Val::Base1, 2))) &&
+                  table.setValue(r, QStringLiteral("BASE2"),
+                                 qlonglong(bigEndian(block, Val::Base2, 2))) &&
+                  table.setValue(r, QStringLiteral("CONVERT"),
+                                 qlonglong(bigEndian(block, Val::Conversion, 4)));
+        for (int channel = 1; ok && channel <= channelsOf(light); ++channel)
+            ok = table.setValue(r, channelField(channel),
+                                int(block[std::size_t(Val::Channel0 + channel - 1)]));
+        return ok;
+    };
+    switch (RowChange::save(table, QStringLiteral("IDENTI"), key, m_prompt, fill, &m_error)) {
+    case RowChange::Result::Declined:
+        return Outcome::NotOverwritten;
+    case RowChange::Result::Failed:
         m_prompt.tell(m_error, UserPrompt::Kind::Error);
         return Outcome::Failed;
+    case RowChange::Result::Done:
+        break;
     }
     return Outcome::Saved;
 }
@@ -208,16 +208,11 @@ bool ValueTableStore::remove(int at)
 {
     if (!canChange())
         return false;
-    DbfTable &table = *m_db.ValueTable();
     const int r = rowOf(at);
     if (r < 0)
         return false;
-    if (!table.deleteRecord(r) || !table.commit()) {
-        m_error = table.errorString();
-        table.rollback();
-        return false;
-    }
-    return true;
+    return RowChange::remove(*m_db.ValueTable(), QStringLiteral("IDENTI"), r, m_prompt, &m_error) ==
+           RowChange::Result::Done;
 }
 
 bool ValueTableStore::remove(const QString &name)

@@ -3,15 +3,18 @@
 #include "DbfTableModel.h"
 #include "IndexChecker.h"
 #include "Messages.h"
+#include "ProfileStore.h"
 #include "RecordingPrompt.h"
 #include "TDBModule.h"
 #include "TableSchema.h"
 #include "ValidatorStore.h"
+#include "ValueTableStore.h"
 
 #include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -256,6 +259,84 @@ TEST_F(DataModuleTest, StoreAsksBeforeOverwriting)
     EXPECT_FALSE(store.load(QStringLiteral("abc"), loaded));
     EXPECT_EQ(store.errorString(), messageText(Msg::RecordsNotStored, {QStringLiteral("abc")}));
     EXPECT_TRUE(checkAll().isEmpty()) << checkAll().join(QLatin1Char('\n')).toStdString();
+}
+
+// Answers Yes, or what it is told, and lets another program act while its first question
+// waits for the answer.
+class MeanwhilePrompt final : public UserPrompt
+{
+public:
+    std::function<void()> meanwhile;
+    QList<Answer> answers;
+    QStringList asked;
+
+    void tell(const QString &, Kind) override {}
+    Answer ask(const QString &text, Kind, Buttons) override
+    {
+        asked.append(text);
+        if (meanwhile)
+            std::exchange(meanwhile, {})();
+        return answers.isEmpty() ? Answer::Yes : answers.takeFirst();
+    }
+};
+
+// Two programs on one directory (two data modules here): while this one's question waits,
+// the other stores or changes the same row; the question comes again, about the row as the
+// other left it, and nothing the other stored is lost unseen.
+TEST_F(DataModuleTest, ARowChangedWhileTheQuestionWaitsIsAskedAboutAgain)
+{
+    TDBModule here, there;
+    ASSERT_TRUE(here.open(dataDir));
+    ASSERT_TRUE(there.open(dataDir));
+    MeanwhilePrompt prompt;
+    RecordingPrompt yes(UserPrompt::Answer::Yes);
+    const QString overwrite = messageText(Msg::ExistOverwrite, {QStringLiteral("EURO")});
+
+    ValueTableStore values(here, prompt), theirValues(there, yes);
+    ValueBlock block{};
+    ASSERT_EQ(theirValues.save(block, QStringLiteral("EURO"), QStringLiteral("first"), false),
+              ValueTableStore::Outcome::Saved);
+    prompt.meanwhile = [&] {
+        theirValues.save(block, QStringLiteral("EURO"), QStringLiteral("second"), false);
+    };
+    ASSERT_EQ(values.save(block, QStringLiteral("EURO"), QStringLiteral("mine"), false),
+              ValueTableStore::Outcome::Saved);
+    EXPECT_EQ(prompt.asked, QStringList({overwrite, overwrite}));
+    ASSERT_EQ(theirValues.list().size(), 1);
+    EXPECT_EQ(theirValues.list().at(0).description, QStringLiteral("mine"));
+
+    prompt.asked.clear();
+    ValidatorStore validators(here, prompt), theirValidators(there, yes);
+    const ConfigImage image = ConfigImage::blank();
+    ASSERT_EQ(theirValidators.store(image, QStringLiteral("EURO"), QStringLiteral("1")),
+              ValidatorStore::Outcome::Stored);
+    prompt.meanwhile = [&] {
+        theirValidators.store(image, QStringLiteral("EURO"), QStringLiteral("2"));
+    };
+    prompt.answers = {UserPrompt::Answer::Yes, UserPrompt::Answer::No};
+    EXPECT_EQ(validators.store(image, QStringLiteral("EURO"), QStringLiteral("3")),
+              ValidatorStore::Outcome::NotOverwritten);
+    EXPECT_EQ(prompt.asked, QStringList({overwrite, overwrite}));
+    ASSERT_EQ(theirValidators.list().size(), 1);
+    EXPECT_EQ(theirValidators.list().at(0).description, QStringLiteral("2"));
+
+    // a delete of a profile the other changed since this one listed it
+    ProfileStore profiles(here, prompt), theirProfiles(there, yes);
+    ProfileRecord p;
+    p.name = QStringLiteral("2 EUR");
+    ASSERT_EQ(theirProfiles.save(p), ProfileStore::Outcome::Saved);
+    ASSERT_EQ(profiles.list().size(), 1);
+    p.description = QStringLiteral("changed");
+    ASSERT_EQ(theirProfiles.save(p), ProfileStore::Outcome::Saved);
+    prompt.asked.clear();
+    prompt.answers = {UserPrompt::Answer::No};
+    EXPECT_FALSE(profiles.remove(QStringLiteral("2 EUR")));
+    EXPECT_EQ(prompt.asked,
+              QStringList{messageText(Msg::RecordsChangedMeanwhile, {QStringLiteral("2 EUR")})});
+    EXPECT_EQ(theirProfiles.list().size(), 1);
+    EXPECT_TRUE(profiles.remove(QStringLiteral("2 EUR"))); // as read now: no question
+    EXPECT_TRUE(theirProfiles.list().isEmpty());
+    EXPECT_TRUE(checkAll().isEmpty());
 }
 
 } // namespace

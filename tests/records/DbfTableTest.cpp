@@ -1,6 +1,7 @@
 #include "DbfTable.h"
 #include "IndexChecker.h"
 #include "Messages.h"
+#include "TableLock.h"
 #include "TableRepair.h"
 #include "TableSchema.h"
 #include "TestFiles.h"
@@ -541,19 +542,56 @@ TEST_F(DbfTableTest, ReadOnlyDirectoryOpensReadOnly)
     EXPECT_EQ(t.appendRecord(), -1);
 }
 
-// A table held by another program opens read-only and refuses changes.
-TEST_F(DbfTableTest, TableHeldElsewhereOpensReadOnly)
+// Two programs hold one table open, both writable: each change takes the lock for its own
+// moment, first reads what the other stored, and lands. A program that holds the lock past
+// the wait is named, and nothing is written.
+TEST_F(DbfTableTest, TableIsSharedAndEveryChangeLands)
 {
     const TableSchema &s = TableSchema::valueTable();
     DbfTable first;
     make(first, s);
     DbfTable second;
     ASSERT_TRUE(second.open(path(s.fileName), &s));
-    EXPECT_TRUE(second.isReadOnly());
-    ASSERT_FALSE(second.notices().isEmpty());
-    EXPECT_TRUE(second.notices().at(0).contains(QLatin1String("another program")));
-    EXPECT_EQ(second.appendRecord(), -1);
-    EXPECT_FALSE(first.isReadOnly());
+    EXPECT_FALSE(second.isReadOnly());
+    EXPECT_TRUE(second.notices().isEmpty());
+    for (int i = 0; i < 3; ++i) {
+        for (DbfTable *t : {&first, &second}) {
+            ASSERT_TRUE(t->lockForChange()) << t->errorString().toStdString();
+            const int r = t->appendRecord();
+            ASSERT_TRUE(t->setValue(r, QStringLiteral("IDENTI"),
+                                    QStringLiteral("%1-%2").arg(t == &first).arg(i)));
+            ASSERT_TRUE(t->commit()) << t->errorString().toStdString();
+            t->unlockChange();
+        }
+    }
+    // an overwrite in place by one, then a delete by the other, of the same row
+    ASSERT_TRUE(first.lockForChange());
+    ASSERT_TRUE(first.setValue(0, QStringLiteral("DESCRIP"), QStringLiteral("changed")));
+    ASSERT_TRUE(first.commit());
+    first.unlockChange();
+    ASSERT_TRUE(second.lockForChange());
+    EXPECT_EQ(second.text(0, QStringLiteral("DESCRIP")), QStringLiteral("changed"));
+    ASSERT_TRUE(second.deleteRecord(5));
+    ASSERT_TRUE(second.commit());
+    second.unlockChange();
+    ASSERT_TRUE(first.refresh());
+    EXPECT_EQ(first.liveRows().size(), 5u);
+    EXPECT_TRUE(check(s).isEmpty());
+
+    TableLock::setWaitLimitMs(150);
+    TableLock elsewhere(path(s.fileName));
+    ASSERT_TRUE(elsewhere.lock(TableLock::Mode::Exclusive));
+    const QByteArray before = readAll(path(s.fileName));
+    EXPECT_FALSE(first.lockForChange());
+    EXPECT_TRUE(first.errorString().startsWith(s.fileName + QStringLiteral(": waited 0.")))
+        << first.errorString().toStdString();
+    EXPECT_TRUE(first.errorString().contains(QStringLiteral(" %1 on ").arg(getpid())));
+    first.setValue(first.appendRecord(), QStringLiteral("IDENTI"), QStringLiteral("late"));
+    EXPECT_FALSE(first.commit()); // a commit without the lock waits for it too
+    EXPECT_EQ(readAll(path(s.fileName)), before);
+    first.rollback();
+    elsewhere.unlock();
+    TableLock::setWaitLimitMs(-1);
 }
 
 } // namespace

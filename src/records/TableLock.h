@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QString>
+
+// The operating system's lock on one table, held for the milliseconds of one change (exclusive)
+// or of one reading of the table and its index (shared).
+//
+// The lock is taken on "<table>.lck" beside the table: a file that is created when first
+// needed, never removed and never written, locked with flock() on Linux and LockFileEx() on
+// Windows. The system releases it when the program ends, however it ends, so a crash never
+// leaves a table locked. Two objects locking the same table exclude each other even within one
+// program.
+//
+// Whoever holds the exclusive lock names itself in "<table>.lck.who" (program, process id and
+// host), written to a temporary file and renamed, so that a program that waits in vain can say
+// whom it waited for; the note is never read half-written.
+class TableLock final
+{
+public:
+    enum class Mode
+    {
+        Shared,
+        Exclusive
+    };
+
+    explicit TableLock(const QString &tablePath);
+    ~TableLock();
+    TableLock(const TableLock &) = delete;
+    TableLock &operator=(const TableLock &) = delete;
+
+    // Waits at most waitMs (waitLimitMs() when negative) for the lock; false when the wait ran
+    // out or the lock file cannot be opened (errorString() says which).
+    bool lock(Mode mode, int waitMs = -1);
+    void unlock();
+    bool isLocked() const { return m_handle >= 0; }
+
+    // After a failed lock(): the seconds waited and the holder's note ("program pid on host"),
+    // or empty when no note names one.
+    double waitedSeconds() const { return m_waited; }
+    QString holder() const;
+    // Why the last lock() failed, naming the table.
+    QString errorString() const { return m_error; }
+
+    static QString lockPathOf(const QString &tablePath);
+    // How long a writer waits for another program's lock: 10 s unless set (tests set less),
+    // or the environment variable TARVIK_LOCK_WAIT_MS says otherwise.
+    static int waitLimitMs();
+    static void setWaitLimitMs(int ms);
+
+private:
+    bool openFile();
+    bool tryLock(Mode mode);
+    void writeNote();
+
+    QString m_tablePath;
+    QString m_lockPath;
+    qintptr m_handle = -1;
+    Mode m_mode = Mode::Shared;
+    double m_waited = 0;
+    QString m_error;
+};
