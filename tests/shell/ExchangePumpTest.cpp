@@ -55,7 +55,12 @@ void ExchangePumpTest::paintsBetweenExchangesWhileInputWaits()
     RecordingPrompt prompt;
     TMonnayeur link(&port, &prompt);
     ExchangePump pump;
-    link.setBetweenExchanges([&pump] { pump.run(); });
+    int pumped = 0;
+    link.setBetweenExchanges([&pump, &pumped, &window] {
+        const int before = window.paints;
+        pump.run();
+        pumped += window.paints > before ? 1 : 0;
+    });
 
     // What the technician does while the read runs: a key, a click, the close button.
     QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::AsynchronousDelivery>(
@@ -73,11 +78,17 @@ void ExchangePumpTest::paintsBetweenExchangesWhileInputWaits()
 
     ConfigImage image = ConfigImage::blank();
     QCOMPARE(readValidator(link, image, false), ReadOutcome::Done);
-    QVERIFY2(window.paints - paintsBefore >= 10, qPrintable(QString::number(window.paints)));
+    QVERIFY2(window.paints - paintsBefore >= 5, qPrintable(QString::number(window.paints)));
     QCOMPARE(window.keys, 0);
     QCOMPARE(window.clicks, 0);
     QVERIFY(window.isVisible());
     QVERIFY(prompt.told().isEmpty());
+
+    // A single exchange between two turns of the event loop, as a coin poll is, serves nothing.
+    QTest::qWait(50);
+    pumped = 0;
+    QVERIFY(link.CheckPresence(true));
+    QCOMPARE(pumped, 0);
 
     // Once the read has ended, what the user did meanwhile is served, in order.
     QCoreApplication::processEvents();
