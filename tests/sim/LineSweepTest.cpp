@@ -2,10 +2,7 @@
 // the 900 ms window is taken whole, one that starts after it is refused, and a reply split at
 // any byte, for every reply length, is still one read.
 
-#include "RecordingPrompt.h"
-#include "SimTransport.h"
-#include "TMonnayeur.h"
-#include "VirtualValidator.h"
+#include "SimBench.h"
 
 #include <gtest/gtest.h>
 
@@ -13,13 +10,9 @@ namespace {
 
 const QString kReadingError = QStringLiteral("Reading Error fron validator");
 
-struct Bench
+struct Bench : SimBench
 {
-    explicit Bench(quint8 family = 0x13) : device(family, 4242) {}
-    VirtualValidator device;
-    SimTransport transport{&device};
-    RecordingPrompt prompt;
-    TMonnayeur link{&transport, &prompt};
+    using SimBench::SimBench;
 
     void setLine(int turnaroundMs, int burstMs, int splitAt = 0, int splitGapMs = 0)
     {

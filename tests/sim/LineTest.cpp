@@ -4,10 +4,7 @@
 #include "FirmwareTransfer.h"
 #include "LineProfile.h"
 #include "LineTiming.h"
-#include "RecordingPrompt.h"
-#include "SimTransport.h"
-#include "TMonnayeur.h"
-#include "VirtualValidator.h"
+#include "SimBench.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -26,26 +23,13 @@ LineProfile line(const char *text)
     return parsed.value_or(LineProfile::instant());
 }
 
-struct Bench
+struct Bench : SimBench
 {
-    explicit Bench(const char *profile, quint8 family = 0x13) : device(family, 4242)
+    explicit Bench(const char *profile, quint8 family = 0x13) : SimBench(family)
     {
         transport.setLine(line(profile));
     }
-    VirtualValidator device;
-    SimTransport transport{&device};
-    RecordingPrompt prompt;
-    TMonnayeur link{&transport, &prompt};
 };
-
-QByteArray readHex(TMonnayeur &link, quint8 command)
-{
-    quint8 out[16] = {};
-    if (!link.ReadBlock(command, out))
-        return "failed";
-    return QByteArray(reinterpret_cast<const char *>(out), commandShape(command).replyLength)
-        .toHex();
-}
 
 TEST(LineProfileTest, TextGivesTheLineAndMistakesAreNamed)
 {

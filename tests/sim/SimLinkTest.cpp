@@ -2,10 +2,7 @@
 // families, and each injected fault giving exactly the program's message.
 
 #include "FirmwareTransfer.h"
-#include "RecordingPrompt.h"
-#include "SimTransport.h"
-#include "TMonnayeur.h"
-#include "VirtualValidator.h"
+#include "SimBench.h"
 
 #include <gtest/gtest.h>
 #include <thread>
@@ -15,27 +12,11 @@ namespace {
 const QString kInternalError = QStringLiteral("Internal or Comunication Error");
 const QString kReadingError = QStringLiteral("Reading Error fron validator");
 
-struct Bench
-{
-    explicit Bench(quint8 family = 0x13) : device(family, 4242) {}
-    VirtualValidator device;
-    SimTransport transport{&device};
-    RecordingPrompt prompt;
-    TMonnayeur link{&transport, &prompt};
-};
+using Bench = SimBench;
 
 template <std::size_t N> QByteArray hex(const std::array<quint8, N> &a)
 {
     return QByteArray(reinterpret_cast<const char *>(a.data()), qsizetype(N)).toHex();
-}
-
-QByteArray readHex(TMonnayeur &link, quint8 command)
-{
-    quint8 out[16] = {};
-    if (!link.ReadBlock(command, out))
-        return "failed";
-    return QByteArray(reinterpret_cast<const char *>(out), commandShape(command).replyLength)
-        .toHex();
 }
 
 class FamilyTest : public ::testing::TestWithParam<int>
