@@ -92,13 +92,11 @@ void SerialTestModel::tick(EditorServices *services)
     // Between two exchanges of the editor's own operations the timer keeps off the line.
     if (!port || !port->isOpen() || m_link->betweenExchangesRunning())
         return;
-    // Only what is already waiting: the timer never blocks the form.
-    const int timeout = port->readTimeout();
-    port->setReadTimeout(0);
+    // Only what is already waiting (no wait for a first byte): the timer never blocks the form.
     QByteArray bytes;
-    for (QByteArray one = port->read(1); !one.isEmpty() && bytes.size() < 64; one = port->read(1))
+    for (QByteArray one = port->read(1, 0); !one.isEmpty() && bytes.size() < 64;
+         one = port->read(1, 0))
         bytes += one;
-    port->setReadTimeout(timeout);
 
     for (const char byte : bytes) {
         if (m_running) {
