@@ -1,9 +1,12 @@
 #include "CliContext.h"
 
+#include "Backups.h"
 #include "ConfigFile.h"
+#include "DataDirectory.h"
 #include "Messages.h"
 #include "PortChoice.h"
 #include "PortMap.h"
+#include "ReadSequence.h"
 #include "SerialTransport.h"
 #include "SimulatedLink.h"
 #include "TracingTransport.h"
@@ -123,6 +126,28 @@ void CliContext::endProgress()
     if (m_progressShown)
         m_err << Qt::endl;
     m_progressShown = false;
+}
+
+bool readValidatorImage(CliContext &cli, ConfigImage &image)
+{
+    TMonnayeur *link = cli.openLink();
+    if (!link)
+        return false;
+    ReadObserver observer;
+    const QString label = messageText(Msg::ValidatorReadingInProgress);
+    observer.progress = [&](int gauge) { cli.showProgress(label, gauge); };
+    const ReadOutcome outcome = readValidator(*link, image, false, observer);
+    cli.endProgress();
+    if (outcome != ReadOutcome::Done)
+        return false; // the link has printed the program's own message
+
+    // Every good read is kept, so that the validator can be put back as it was.
+    const QString backups =
+        DataDirectory::resolve(cli.options().dataDir) + QStringLiteral("/backups");
+    QString error;
+    if (keepBackup(backups, image, QDateTime::currentDateTime(), &error).isEmpty())
+        cli.prompt().tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
+    return true;
 }
 
 bool readImageInput(CliContext &cli, const QString &path, ConfigImage &image)

@@ -16,6 +16,8 @@
 inline constexpr int kExitOk = 0;
 inline constexpr int kExitFailed = 1;
 inline constexpr int kExitUsage = 2;
+// A command's own trouble that ends with exit code 2 without the usage line (as diff has it).
+inline constexpr int kExitTrouble = 0x102;
 
 // Messages go to stderr; questions are answered by the command's flags (the default answer),
 // since nobody sits at the terminal to click.
@@ -89,6 +91,9 @@ private:
 struct ConfigImage;
 // Writes an image as a configuration file to path, or to stdout when path is empty.
 int writeImageOutput(CliContext &cli, const ConfigImage &image, const QString &path);
+// Reads the whole validator through the options' link, with the gauge on the terminal, and
+// keeps a backup of the read; false (the reason printed) when the read did not complete.
+bool readValidatorImage(CliContext &cli, ConfigImage &image);
 // Loads a configuration file, printing why it was refused.
 bool readImageInput(CliContext &cli, const QString &path, ConfigImage &image);
 // Takes "-o FILE" (or "--output FILE") out of args; false when it has no file name.
@@ -110,6 +115,7 @@ void registerEditorCommands(CliCommandTable &table);
 void registerLearnCommands(CliCommandTable &table);
 void registerValueCommands(CliCommandTable &table);
 void registerRepairCommands(CliCommandTable &table);
+void registerDiffCommands(CliCommandTable &table);
 
 // Runs tarvik-cli with the arguments after the program name.
 int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,

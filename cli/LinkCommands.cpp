@@ -1,9 +1,7 @@
-#include "Backups.h"
 #include "CliContext.h"
-#include "DataDirectory.h"
+#include "ConfigImage.h"
 #include "Messages.h"
 #include "PortChoice.h"
-#include "ReadSequence.h"
 
 namespace {
 
@@ -38,26 +36,9 @@ int readCommand(CliContext &cli, const QStringList &arguments)
     QString output;
     if (!takeOutputOption(args, output) || !args.isEmpty())
         return kExitUsage;
-    TMonnayeur *link = cli.openLink();
-    if (!link)
-        return kExitFailed;
-
     ConfigImage image = ConfigImage::blank();
-    ReadObserver observer;
-    const QString label = messageText(Msg::ValidatorReadingInProgress);
-    observer.progress = [&](int gauge) { cli.showProgress(label, gauge); };
-    const ReadOutcome outcome = readValidator(*link, image, false, observer);
-    cli.endProgress();
-    if (outcome != ReadOutcome::Done)
-        return kExitFailed; // the link has printed the program's own message
-
-    // Every good read is kept, so that the validator can be put back as it was.
-    const QString backups =
-        DataDirectory::resolve(cli.options().dataDir) + QStringLiteral("/backups");
-    QString error;
-    if (keepBackup(backups, image, QDateTime::currentDateTime(), &error).isEmpty())
-        cli.prompt().tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
-
+    if (!readValidatorImage(cli, image))
+        return kExitFailed;
     return writeImageOutput(cli, image, output);
 }
 

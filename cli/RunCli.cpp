@@ -92,6 +92,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerLearnCommands(table);
     registerValueCommands(table);
     registerRepairCommands(table);
+    registerDiffCommands(table);
 
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {
@@ -120,5 +121,5 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     const int code = command.run(context, args);
     if (code == kExitUsage)
         err << "usage: tarvik-cli " << command.usage << Qt::endl;
-    return code;
+    return code == kExitTrouble ? kExitUsage : code;
 }

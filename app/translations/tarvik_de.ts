@@ -571,6 +571,50 @@
         <source>&amp;Next</source>
         <translation>&amp;Weiter</translation>
     </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>freigegeben</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>gesperrt</translation>
+    </message>
+    <message>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Option „%s“</translation>
+    </message>
+    <message>
+        <source>Channels data</source>
+        <translation>Kanaldaten</translation>
+    </message>
+    <message>
+        <source>Values table :</source>
+        <translation>Wertetabelle :</translation>
+    </message>
+    <message>
+        <source>Prices table :</source>
+        <translation>Preistabelle :</translation>
+    </message>
+    <message>
+        <source>Configuration :</source>
+        <translation>Konfiguration :</translation>
+    </message>
+    <message>
+        <source>Enable table :</source>
+        <translation>Freigabetabelle :</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

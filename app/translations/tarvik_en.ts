@@ -571,6 +571,50 @@
         <source>&amp;Next</source>
         <translation>&amp;Next</translation>
     </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(empty)</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>on</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>off</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>enabled</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>disabled</translation>
+    </message>
+    <message>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Option &apos;%s&apos;</translation>
+    </message>
+    <message>
+        <source>Channels data</source>
+        <translation>Channels data</translation>
+    </message>
+    <message>
+        <source>Values table :</source>
+        <translation>Values table :</translation>
+    </message>
+    <message>
+        <source>Prices table :</source>
+        <translation>Prices table :</translation>
+    </message>
+    <message>
+        <source>Configuration :</source>
+        <translation>Configuration :</translation>
+    </message>
+    <message>
+        <source>Enable table :</source>
+        <translation>Enable table :</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -571,6 +571,50 @@
         <source>&amp;Next</source>
         <translation>Sui&amp;vant</translation>
     </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(vide)</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>activé</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>désactivé</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>validé</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>inhibé</translation>
+    </message>
+    <message>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Option « %s »</translation>
+    </message>
+    <message>
+        <source>Channels data</source>
+        <translation>Données des canaux</translation>
+    </message>
+    <message>
+        <source>Values table :</source>
+        <translation>Table des valeurs :</translation>
+    </message>
+    <message>
+        <source>Prices table :</source>
+        <translation>Table des prix :</translation>
+    </message>
+    <message>
+        <source>Configuration :</source>
+        <translation>Configuration :</translation>
+    </message>
+    <message>
+        <source>Enable table :</source>
+        <translation>Table d&apos;activation :</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1095,11 +1139,11 @@
     </message>
     <message>
         <source>Adapter bursts every (ms) :</source>
-        <translation>Paquets de l'adaptateur toutes les (ms) :</translation>
+        <translation>Paquets de l&apos;adaptateur toutes les (ms) :</translation>
     </message>
     <message>
         <source>Pause in replies after byte, for (ms) :</source>
-        <translation>Pause dans les réponses après l'octet, pendant (ms) :</translation>
+        <translation>Pause dans les réponses après l&apos;octet, pendant (ms) :</translation>
     </message>
     <message>
         <source>Random seed :</source>

@@ -571,6 +571,50 @@
         <source>&amp;Next</source>
         <translation>&amp;Successivo</translation>
     </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(vuoto)</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>attivo</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>disattivo</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>abilitato</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>disabilitato</translation>
+    </message>
+    <message>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Opzione &apos;%s&apos;</translation>
+    </message>
+    <message>
+        <source>Channels data</source>
+        <translation>Dati dei canali</translation>
+    </message>
+    <message>
+        <source>Values table :</source>
+        <translation>Tabella dei valori :</translation>
+    </message>
+    <message>
+        <source>Prices table :</source>
+        <translation>Tabella dei prezzi :</translation>
+    </message>
+    <message>
+        <source>Configuration :</source>
+        <translation>Configurazione :</translation>
+    </message>
+    <message>
+        <source>Enable table :</source>
+        <translation>Tabella di abilitazione :</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1095,7 +1139,7 @@
     </message>
     <message>
         <source>Adapter bursts every (ms) :</source>
-        <translation>Pacchetti dell'adattatore ogni (ms) :</translation>
+        <translation>Pacchetti dell&apos;adattatore ogni (ms) :</translation>
     </message>
     <message>
         <source>Pause in replies after byte, for (ms) :</source>

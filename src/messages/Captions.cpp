@@ -155,6 +155,17 @@ constexpr Entry kTable[] = {
     {Cap::HelpContents, QT_TRANSLATE_NOOP("Captions", "&Contents")},
     {Cap::HelpPrevious, QT_TRANSLATE_NOOP("Captions", "&Previous")},
     {Cap::HelpNext, QT_TRANSLATE_NOOP("Captions", "&Next")},
+    {Cap::DiffEmpty, QT_TRANSLATE_NOOP("Captions", "(empty)")},
+    {Cap::DiffOn, QT_TRANSLATE_NOOP("Captions", "on")},
+    {Cap::DiffOff, QT_TRANSLATE_NOOP("Captions", "off")},
+    {Cap::DiffEnabled, QT_TRANSLATE_NOOP("Captions", "enabled")},
+    {Cap::DiffDisabled, QT_TRANSLATE_NOOP("Captions", "disabled")},
+    {Cap::DiffOption, QT_TRANSLATE_NOOP("Captions", "Option '%s'")},
+    {Cap::DiffChannels, QT_TRANSLATE_NOOP("Captions", "Channels data")},
+    {Cap::DiffValues, QT_TRANSLATE_NOOP("Captions", "Values table :")},
+    {Cap::DiffPrices, QT_TRANSLATE_NOOP("Captions", "Prices table :")},
+    {Cap::DiffConfig, QT_TRANSLATE_NOOP("Captions", "Configuration :")},
+    {Cap::DiffEnable, QT_TRANSLATE_NOOP("Captions", "Enable table :")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

@@ -158,6 +158,18 @@ enum class Cap
     HelpContents,
     HelpPrevious,
     HelpNext,
+    // differences between two configurations
+    DiffEmpty,
+    DiffOn,
+    DiffOff,
+    DiffEnabled,
+    DiffDisabled,
+    DiffOption,
+    DiffChannels,
+    DiffValues,
+    DiffPrices,
+    DiffConfig,
+    DiffEnable,
     Count_
 };
 

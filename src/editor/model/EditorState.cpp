@@ -25,9 +25,14 @@ QDate EditorState::firmwareDate() const
 
 int EditorState::outputType() const
 {
+    return outputTypeOf(image.options);
+}
+
+int outputTypeOf(const OptionWord &options)
+{
     // The low three bits of the second byte give the type; the types 4, 6 and 7 share the code
     // 0 and differ in bits 4 and 5 of the first byte.
-    switch (image.options[1] & 0x07) {
+    switch (options[1] & 0x07) {
     case 7:
         return 0;
     case 3:
@@ -37,7 +42,7 @@ int EditorState::outputType() const
     case 2:
         return 3;
     default:
-        switch (image.options[0] & 0x30) {
+        switch (options[0] & 0x30) {
         case 0x20:
             return 6;
         case 0x10:

@@ -55,6 +55,9 @@ struct EditorState
     int outputType() const;
 };
 
+// The output type an option word gives, as the type radio group's item (0 to 7).
+int outputTypeOf(const OptionWord &options);
+
 // Names of the controls that have one per channel: prefix + channel index.
 inline QString channelControl(const char *prefix, int k)
 {

@@ -1,59 +1,9 @@
 #include "OptionsModel.h"
 
 #include "Captions.h"
+#include "OptionBoxes.h"
 
 namespace {
-
-// How a box shows its bit: which byte and bit, and whether a checked box means the bit is 0
-// (most options are active low).
-struct OptionBox
-{
-    const char *name;
-    Cap caption;
-    int byte;
-    quint8 mask;
-    bool activeLow;
-    // The output types under which the box shows, one bit per type (bit n: type n).
-    quint8 types;
-};
-
-constexpr quint8 kValidator = 0x01;
-constexpr quint8 kTotalizers = 0xFE;
-constexpr quint8 types(std::initializer_list<int> list)
-{
-    quint8 out = 0;
-    for (int t : list)
-        out = quint8(out | (1 << t));
-    return out;
-}
-
-// One box per bit and output type: the validator's switches under type 0, the totalizers'
-// under the others.
-constexpr OptionBox kBoxes[] = {
-    {"ChkBinaire", Cap::BinaryOutput, 0, 0x01, true, kValidator},
-    {"ChkStandby", Cap::StandbyMode, 0, 0x01, true, types({2, 3, 5, 6, 7})},
-    {"ChkResetEx", Cap::ExternalReset, 0, 0x01, true, types({1, 4})},
-    {"ChkConfida", Cap::Confida, 0, 0x02, true, kValidator},
-    {"ChkRecup", Cap::Rest, 0, 0x02, true, types({1, 3})},
-    {"ChkActEx", Cap::ExtCounterSignal, 0, 0x02, true, types({2, 4, 5, 6, 7})},
-    {"ChkSeparateur", Cap::Separator, 0, 0x04, true, kValidator},
-    {"ChkInibhition", Cap::DipInhibition, 0, 0x08, true, kValidator},
-    {"CheckBox5", Cap::MultiPulse, 0, 0x10, true, kValidator},
-    {"ChkLimit1", Cap::Price1Limit, 0, 0x10, true, types({1})},
-    {"ChkCounterEX", Cap::ExtStart, 0, 0x10, true, types({2, 3, 4, 5, 6, 7})},
-    {"ChkLimit2", Cap::Price2Limit, 0, 0x20, true, types({1})},
-    {"ChkTime", Cap::TimeInMinutes, 0, 0x20, true, types({3, 6})},
-    {"ChkResetL8", Cap::ResetHigh, 0, 0x40, true, kValidator},
-    {"ChkTmpDsp", Cap::TogglingCounting, 0, 0x40, true, kTotalizers},
-    {"ChkDip", Cap::Dip42, 0, 0x80, true, kValidator},
-    {"CheckBox4", Cap::JamInhibition, 0, 0x80, true, kValidator},
-    {"ChkDecompte", Cap::DowCounting, 0, 0x80, true, kTotalizers},
-    {"ChkAfficheur", Cap::DisplayOff, 1, 0x80, true, types({2, 3, 4, 5, 6, 7})},
-    {"ChkLimit", Cap::Limit, 1, 0x80, true, types({1})},
-};
-
-constexpr Cap kTypeItems[] = {Cap::Type0, Cap::Type1, Cap::Type2, Cap::Type3,
-                              Cap::Type4, Cap::Type5, Cap::Type6, Cap::Type7};
 
 QString bitLabel(int i)
 {
@@ -99,7 +49,7 @@ void OptionsModel::retranslate()
     c.setText(QStringLiteral("GroupType"), captionText(Cap::Type));
     c.setText(QStringLiteral("GroupTypeLight"), captionText(Cap::Type));
     QStringList items;
-    for (Cap item : kTypeItems)
+    for (Cap item : kOutputTypeItems)
         items.append(captionText(item));
     c.setItems(QStringLiteral("GroupType"), items);
     c.setItems(QStringLiteral("GroupTypeLight"),
@@ -109,7 +59,7 @@ void OptionsModel::retranslate()
     c.setText(QStringLiteral("GroupBox10"), captionText(Cap::Separator));
     c.setText(QStringLiteral("CheckBox6"), captionText(Cap::NormalOutput));
     c.setText(QStringLiteral("CheckBox7"), captionText(Cap::InvertedOutput));
-    for (const OptionBox &box : kBoxes)
+    for (const OptionBox &box : kOptionBoxes)
         c.setText(QLatin1String(box.name), captionText(box.caption));
     c.setText(QStringLiteral("GroupBits"), captionText(Cap::OptionBits));
     displayOutletItems();
@@ -138,7 +88,7 @@ void OptionsModel::display(const IdentityModel::Gates &gates)
     displayOutletItems();
     c.setItemIndex(QStringLiteral("GroupSortie"), (word[1] & 0x08) ? 1 : 0);
 
-    for (const OptionBox &box : kBoxes) {
+    for (const OptionBox &box : kOptionBoxes) {
         const bool bitSet = word[std::size_t(box.byte)] & box.mask;
         c.setChecked(QLatin1String(box.name), box.activeLow ? !bitSet : bitSet);
         c.setVisible(QLatin1String(box.name), (box.types >> type) & 1);
