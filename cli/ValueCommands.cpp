@@ -77,6 +77,9 @@ int applyValues(CliContext &cli, ValueTableStore &store, const QStringList &argu
     form.recordClick(at);
     form.BitBtn5Click();
     form.BitBtn3Click();
+    // A field that did not convert has been told; a half-applied table is not written anywhere.
+    if (!store.conversionError().isEmpty())
+        return kExitFailed;
     return writeImageOutput(cli, image, output);
 }
 

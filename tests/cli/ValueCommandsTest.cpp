@@ -2,8 +2,11 @@
 #include "CliContext.h"
 #include "ConfigFile.h"
 #include "ConfigImage.h"
+#include "DbfTable.h"
+#include "TDBModule.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -79,6 +82,31 @@ TEST_F(ValueCommands, SaveListApplyDelete)
                   i < 68 ? source.values[std::size_t(i)] : quint8(0x33))
             << "byte " << i;
     EXPECT_EQ(values(db(), {"apply", "nope", path("target.json")}).code, kExitFailed);
+
+    // Another tool left text in CANAL7: the table is not applied and no file is written.
+    {
+        TDBModule tables;
+        ASSERT_TRUE(tables.open(db()));
+        const DbfTable &table = *tables.ValueTable();
+        const DbfField &field = table.field(table.fieldIndex(QStringLiteral("CANAL7")));
+        const int offset = field.offset;
+        const int width = field.length;
+        const QString file = table.filePath();
+        tables.close();
+        QFile dbf(file);
+        ASSERT_TRUE(dbf.open(QIODevice::ReadWrite));
+        QByteArray bytes = dbf.readAll();
+        const int headerLength = quint8(bytes[8]) | quint8(bytes[9]) << 8;
+        bytes.replace(headerLength + offset, width, QByteArray("  abc ").right(width));
+        dbf.seek(0);
+        dbf.write(bytes);
+    }
+    const ValuesRun bad =
+        values(db(), {"apply", "euro", path("target.json"), "-o", path("bad.json")});
+    EXPECT_EQ(bad.code, kExitFailed);
+    EXPECT_TRUE(bad.err.contains(QLatin1String("'abc' is not a valid integer value")))
+        << qPrintable(bad.err);
+    EXPECT_FALSE(QFile::exists(path("bad.json")));
 
     const ValuesRun missing = values(db(), {"delete", "nope"});
     EXPECT_EQ(missing.code, kExitFailed);
