@@ -1,7 +1,7 @@
 // tarvik-cli: its command-line rules in-process, and whole runs against tarvik-sim over a
 // pseudo-terminal.
-#include "CliContext.h"
 #include "ConfigFile.h"
+#include "InProcessCli.h"
 #include "Messages.h"
 #include "SimProcess.h"
 #include "VirtualValidator.h"
@@ -18,36 +18,15 @@
 
 namespace {
 
-struct InProcess
-{
-    int code = -1;
-    QString out, err;
-};
+using InProcess = InProcessRun;
 
 InProcess cli(const QStringList &args)
 {
-    InProcess r;
-    QTextStream out(&r.out);
-    QTextStream err(&r.err);
-    r.code = runCli(args, out, err);
-    return r;
+    return runInProcess(args);
 }
 
-class Cli : public ::testing::Test
-{
-protected:
-    static void SetUpTestSuite()
-    {
-        static int argc = 1;
-        static char name[] = "cli_tests";
-        static char *argv[] = {name, nullptr};
-        if (!QCoreApplication::instance())
-            new QCoreApplication(argc, argv);
-    }
-    // Backups of reads and the tables go to this test's own directory.
-    void SetUp() override { qputenv("TARVIK_DB", dir.path().toLocal8Bit()); }
-    QTemporaryDir dir;
-};
+class Cli : public CliFixture
+{};
 
 TEST_F(Cli, UsageErrorsExitWithTwo)
 {

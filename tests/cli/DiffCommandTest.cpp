@@ -1,52 +1,25 @@
 // tarvik-cli diff: files that differ in one field of each group, identical files, bad files, and
 // a read of the virtual validator as one side.
-#include "CliContext.h"
 #include "ConfigFile.h"
 #include "ConfigImage.h"
+#include "InProcessCli.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct DiffRun
-{
-    int code = -1;
-    QString out, err;
-};
-
-DiffRun run(const QStringList &args)
-{
-    DiffRun r;
-    QTextStream out(&r.out);
-    QTextStream err(&r.err);
-    r.code = runCli(args, out, err);
-    return r;
-}
-
-class DiffCommand : public ::testing::Test
+class DiffCommand : public CliFixture
 {
 protected:
-    static void SetUpTestSuite()
-    {
-        static int argc = 1;
-        static char name[] = "cli_tests";
-        static char *argv[] = {name, nullptr};
-        if (!QCoreApplication::instance())
-            new QCoreApplication(argc, argv);
-    }
-    void SetUp() override { qputenv("TARVIK_DB", dir.path().toLocal8Bit()); }
-
     // A read of the virtual validator, saved as a file, and the image in it.
     QString validatorFile(ConfigImage &image)
     {
         const QString path = dir.filePath(QStringLiteral("validator.json"));
-        const DiffRun r = run(
+        const InProcessRun r = runInProcess(
             {"--simulate", "--sim-line", "instant", "--data-dir", dir.path(), "read", "-o", path});
         EXPECT_EQ(r.code, kExitOk) << qPrintable(r.err);
         QString error;
@@ -60,14 +33,13 @@ protected:
         EXPECT_TRUE(saveConfigFile(path, image, &error)) << qPrintable(error);
         return path;
     }
-    QTemporaryDir dir;
 };
 
 TEST_F(DiffCommand, OneFieldOfEachGroupGivesThatFieldAndExitsOne)
 {
     ConfigImage image;
     const QString original = validatorFile(image);
-    const DiffRun same = run({"diff", original, original});
+    const InProcessRun same = runInProcess({"diff", original, original});
     EXPECT_EQ(same.code, 0);
     EXPECT_TRUE(same.out.isEmpty()) << qPrintable(same.out);
 
@@ -80,7 +52,7 @@ TEST_F(DiffCommand, OneFieldOfEachGroupGivesThatFieldAndExitsOne)
     changed.setSerialNumber(4711);
     changed.counters[0] = 0;
     changed.counters[1] = 9;
-    const DiffRun diff = run({"diff", original, save("changed.json", changed)});
+    const InProcessRun diff = runInProcess({"diff", original, save("changed.json", changed)});
     EXPECT_EQ(diff.code, 1) << qPrintable(diff.err);
     const QStringList lines = diff.out.split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 7) << qPrintable(diff.out);
@@ -94,7 +66,8 @@ TEST_F(DiffCommand, OneFieldOfEachGroupGivesThatFieldAndExitsOne)
     EXPECT_EQ(lines[6], QStringLiteral("Counter 1: OFF → 9"));
 
     // The same for scripts, one object per difference, with its group.
-    const DiffRun json = run({"diff", original, dir.filePath("changed.json"), "--json"});
+    const InProcessRun json =
+        runInProcess({"diff", original, dir.filePath("changed.json"), "--json"});
     EXPECT_EQ(json.code, 1);
     const QJsonObject root = QJsonDocument::fromJson(json.out.toUtf8()).object();
     EXPECT_FALSE(root.value("same").toBool());
@@ -116,28 +89,29 @@ TEST_F(DiffCommand, BadInputExitsTwoWithTheReadersMessage)
     ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
     bad.write(R"({"format":"tarvik-config","formatVersion":1,"blocks":{"prices":"zz"}})");
     bad.close();
-    const DiffRun r = run({"diff", good, bad.fileName()});
+    const InProcessRun r = runInProcess({"diff", good, bad.fileName()});
     EXPECT_EQ(r.code, 2);
     EXPECT_TRUE(r.out.isEmpty());
     EXPECT_TRUE(r.err.contains("bad.json")) << qPrintable(r.err);
     EXPECT_FALSE(r.err.contains("usage:")) << "a bad file is not a bad command line";
 
-    EXPECT_EQ(run({"diff", good}).code, 2);
-    EXPECT_EQ(run({"diff", good, good, good}).code, 2);
-    EXPECT_EQ(run({"diff", good, good, "--colour"}).code, 2);
-    EXPECT_EQ(run({"diff", good, dir.filePath("missing.json")}).code, 2);
+    EXPECT_EQ(runInProcess({"diff", good}).code, 2);
+    EXPECT_EQ(runInProcess({"diff", good, good, good}).code, 2);
+    EXPECT_EQ(runInProcess({"diff", good, good, "--colour"}).code, 2);
+    EXPECT_EQ(runInProcess({"diff", good, dir.filePath("missing.json")}).code, 2);
 }
 
 TEST_F(DiffCommand, TheValidatorAsOneSide)
 {
     ConfigImage image;
     const QString file = validatorFile(image);
-    const DiffRun same = run({"--simulate", "--sim-line", "instant", "--data-dir", dir.path(),
-                              "diff", "validator", file});
+    const InProcessRun same = runInProcess({"--simulate", "--sim-line", "instant", "--data-dir",
+                                            dir.path(), "diff", "validator", file});
     EXPECT_EQ(same.code, 0) << qPrintable(same.out + same.err);
     image.prices[0] = 24;
-    const DiffRun differs = run({"--simulate", "--sim-line", "instant", "--data-dir", dir.path(),
-                                 "diff", "validator", save("edited.json", image)});
+    const InProcessRun differs =
+        runInProcess({"--simulate", "--sim-line", "instant", "--data-dir", dir.path(), "diff",
+                      "validator", save("edited.json", image)});
     EXPECT_EQ(differs.code, 1);
     EXPECT_TRUE(differs.out.startsWith("Value P1: ")) << qPrintable(differs.out);
 }

@@ -1,49 +1,25 @@
 // tarvik-cli values: list, save, apply and delete against a temporary data directory.
-#include "CliContext.h"
 #include "ConfigFile.h"
 #include "ConfigImage.h"
 #include "DbfTable.h"
+#include "InProcessCli.h"
 #include "TDBModule.h"
+#include "records/TestFiles.h"
 
-#include <QCoreApplication>
-#include <QFile>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct ValuesRun
+InProcessRun values(const QString &dataDir, const QStringList &args)
 {
-    int code = -1;
-    QString out, err;
-};
-
-ValuesRun values(const QString &dataDir, const QStringList &args)
-{
-    ValuesRun r;
-    QTextStream out(&r.out);
-    QTextStream err(&r.err);
-    r.code =
-        runCli(QStringList{QStringLiteral("--data-dir"), dataDir, QStringLiteral("values")} + args,
-               out, err);
-    return r;
+    return runInProcess(
+        QStringList{QStringLiteral("--data-dir"), dataDir, QStringLiteral("values")} + args);
 }
 
-class ValueCommands : public ::testing::Test
+class ValueCommands : public CliFixture
 {
 protected:
-    static void SetUpTestSuite()
-    {
-        static int argc = 1;
-        static char name[] = "cli_tests";
-        static char *argv[] = {name, nullptr};
-        if (!QCoreApplication::instance())
-            new QCoreApplication(argc, argv);
-    }
-    QString path(const char *name) const { return dir.filePath(QLatin1String(name)); }
     QString db() const { return path("db"); }
-
-    QTemporaryDir dir;
 };
 
 } // namespace
@@ -62,7 +38,7 @@ TEST_F(ValueCommands, SaveListApplyDelete)
 
     EXPECT_EQ(values(db(), {"save", "Euro", path("source.json"), "--description", "coins"}).code,
               kExitOk);
-    const ValuesRun refused = values(db(), {"save", "EURO", path("source.json")});
+    const InProcessRun refused = values(db(), {"save", "EURO", path("source.json")});
     EXPECT_EQ(refused.code, kExitFailed);
     EXPECT_TRUE(refused.err.contains(QLatin1String("EURO exist! Overwrite ?")));
     EXPECT_EQ(values(db(), {"save", "EURO", path("source.json"), "--overwrite"}).code, kExitOk);
@@ -93,22 +69,16 @@ TEST_F(ValueCommands, SaveListApplyDelete)
         const int width = field.length;
         const QString file = table.filePath();
         tables.close();
-        QFile dbf(file);
-        ASSERT_TRUE(dbf.open(QIODevice::ReadWrite));
-        QByteArray bytes = dbf.readAll();
-        const int headerLength = quint8(bytes[8]) | quint8(bytes[9]) << 8;
-        bytes.replace(headerLength + offset, width, QByteArray("  abc ").right(width));
-        dbf.seek(0);
-        dbf.write(bytes);
+        testfiles::spoilFirstRow(file, offset, width, "  abc ");
     }
-    const ValuesRun bad =
+    const InProcessRun bad =
         values(db(), {"apply", "euro", path("target.json"), "-o", path("bad.json")});
     EXPECT_EQ(bad.code, kExitFailed);
     EXPECT_TRUE(bad.err.contains(QLatin1String("'abc' is not a valid integer value")))
         << qPrintable(bad.err);
     EXPECT_FALSE(QFile::exists(path("bad.json")));
 
-    const ValuesRun missing = values(db(), {"delete", "nope"});
+    const InProcessRun missing = values(db(), {"delete", "nope"});
     EXPECT_EQ(missing.code, kExitFailed);
     EXPECT_TRUE(missing.err.contains(QLatin1String("No value table nope is stored")));
     EXPECT_EQ(values(db(), {"delete", "Euro"}).code, kExitOk);

@@ -23,6 +23,21 @@ inline void writeAll(const QString &path, const QByteArray &bytes)
     f.write(bytes);
 }
 
+// Puts text, right-aligned as a number field holds it, into the field at `offset` (`width`
+// bytes) of the first row of a closed table's file, as another tool might leave it.
+inline void spoilFirstRow(const QString &path, int offset, int width, const QByteArray &text)
+{
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+    QByteArray bytes = f.readAll();
+    ASSERT_GT(bytes.size(), 10);
+    const int headerLength = quint8(bytes[8]) | quint8(bytes[9]) << 8;
+    // The first row starts right after the header; offset counts its deletion flag.
+    bytes.replace(headerLength + offset, width, text.rightJustified(width).right(width));
+    f.seek(0);
+    f.write(bytes);
+}
+
 struct ToolRun
 {
     int exitCode = -1; // -1: it did not end, or crashed

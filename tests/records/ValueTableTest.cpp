@@ -2,9 +2,11 @@
 #include "DbfTable.h"
 #include "RecordingPrompt.h"
 #include "TDBModule.h"
+#include "TestFiles.h"
 #include "ValueTableModel.h"
 #include "ValueTableStore.h"
 
+#include "TestFiles.h"
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -12,6 +14,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -157,14 +160,7 @@ TEST_F(ValueTableTest, OpeningStopsAtAFieldThatIsNotAnIntegerAndKeepsTheRest)
     const QString path = tablePath();
     db.close();
     // Another tool left text in CANAL7.
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    QByteArray bytes = file.readAll();
-    const int headerLength = quint8(bytes[8]) | quint8(bytes[9]) << 8;
-    bytes.replace(headerLength + offset, width, QByteArray("  abc ").right(width));
-    file.seek(0);
-    file.write(bytes);
-    file.close();
+    testfiles::spoilFirstRow(path, offset, width, "  abc ");
     ASSERT_TRUE(db.open(dir.path()));
 
     // The bases, the ratio and channels 1 to 6 come from the row; channel 7 on keep theirs.
