@@ -1,6 +1,5 @@
 // The small forms of coin learning without their windows: the tolerance grid, the channel to
-// adjust, the overlap and analysis lists, the reference notice, the learned channel file, and
-// the translations of their captions.
+// adjust, the overlap and analysis lists, the reference notice and the learned channel file.
 #include "CAdjustModel.h"
 #include "LearnedChannelFile.h"
 #include "LearningFlows.h"
@@ -12,9 +11,6 @@
 #include "VirtualValidator.h"
 
 #include <QFile>
-#include <QRegularExpression>
-#include <QSet>
-#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 TEST(Tolerances, RowsShowSevenWideAndReadBackAsBytes)
@@ -175,66 +171,4 @@ TEST(LearnedChannelFile, RoundTripsAndRefusesWhatIsNotOne)
     fraction.replace("\"min\": 96", "\"min\": 96.5");
     ASSERT_NE(fraction, json);
     EXPECT_FALSE(LearnedChannelFile::fromJson(fraction));
-}
-
-// Every caption of the learning forms has a finished translation in each language shipped.
-TEST(LearningTranslations, EveryCaptionIsTranslated)
-{
-    const ConfigImage image = VirtualValidator::factoryImage(0x13, 1001);
-    ConfigImage mutableImage = image;
-    LearningSession session;
-    ProgCoinModel learning(session, mutableImage, nullptr, nullptr, nullptr, {});
-    ProgCoinModel control(session, mutableImage, nullptr, nullptr, nullptr,
-                          {ProgCoinSetup::Mode::Modify, false, false, false});
-    control.setControlChannel(1);
-    ToleranceModel tolerances(nullptr);
-    CAdjustModel adjust(image, nullptr);
-    SuperpositionModel overlap({});
-    AnalyseModel analyse({});
-    RefChannelModel notice;
-    const std::vector<const FormModel *> forms = {&learning, &control, &tolerances, &adjust,
-                                                  &overlap,  &analyse, &notice};
-
-    // The captions: texts with a letter that the messages and the fixed headers do not give.
-    const QSet<QString> notCaptions = {AnalyseModel::headerLine1(), AnalyseModel::headerLine2(),
-                                       QStringLiteral("0 Overlapping"),
-                                       QStringLiteral("0 superposition(s)")};
-    QList<QPair<QString, QString>> expected;
-    for (const FormModel *form : forms) {
-        for (const Control &c : form->controls().all()) {
-            QStringList texts = c.state.items;
-            texts.append(c.state.text);
-            for (const QString &text : std::as_const(texts)) {
-                if (!text.contains(QRegularExpression(QStringLiteral("[A-Za-z]"))) ||
-                    notCaptions.contains(text) || c.name == QLatin1String("LabelRelease"))
-                    continue;
-                expected.append({QLatin1String(form->context()), text});
-            }
-        }
-    }
-    ASSERT_GT(expected.size(), 60);
-
-    for (const char *lang : {"fr", "it", "de", "en"}) {
-        QFile file(QStringLiteral(TARVIK_TRANSLATIONS_DIR "/tarvik_%1.ts").arg(lang));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << lang;
-        QXmlStreamReader xml(&file);
-        QSet<QPair<QString, QString>> translated;
-        QString context, source;
-        while (!xml.atEnd()) {
-            if (xml.readNext() != QXmlStreamReader::StartElement)
-                continue;
-            if (xml.name() == QLatin1String("name"))
-                context = xml.readElementText();
-            else if (xml.name() == QLatin1String("source"))
-                source = xml.readElementText();
-            else if (xml.name() == QLatin1String("translation") &&
-                     xml.attributes().value(QLatin1String("type")) != QLatin1String("unfinished") &&
-                     !xml.readElementText().isEmpty())
-                translated.insert({context, source});
-        }
-        ASSERT_FALSE(xml.hasError()) << lang << " line " << xml.lineNumber();
-        for (const auto &entry : std::as_const(expected))
-            EXPECT_TRUE(translated.contains(entry))
-                << lang << ": " << qPrintable(entry.first) << ": " << qPrintable(entry.second);
-    }
 }
