@@ -10,7 +10,6 @@
 #include "ToleranceModel.h"
 #include "VirtualValidator.h"
 
-#include <QFile>
 #include <gtest/gtest.h>
 
 TEST(Tolerances, RowsShowSevenWideAndReadBackAsBytes)
