@@ -10,9 +10,11 @@
 #include "SimTransport.h"
 #include "VirtualValidator.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -221,6 +223,53 @@ private Q_SLOTS:
         prompt.setNextAnswers({UserPrompt::Answer::No});
         QVERIFY(form.close());
         QCOMPARE(prompt.asked(), QStringList{messageText(Msg::SaveOnValidator)});
+    }
+
+    void theChangesButtonListsTheEdits()
+    {
+        VirtualValidator device;
+        SimTransport port(&device);
+        port.setLatencyMs(0);
+        RecordingPrompt prompt;
+        TMonnayeur link(&port, &prompt);
+        GuiEditorServices services(prompt, nullptr);
+        TFormData form(prompt, services, &link);
+        services.setWindow(&form);
+        form.model().flags().readOnOpen = true;
+        form.show();
+        QVERIFY(QTest::qWaitFor([&] { return form.hasOpened(); }));
+        const ConfigImage read = form.model().image();
+        auto *changes = form.findChild<QPushButton *>(QStringLiteral("BtnChanges"));
+        QVERIFY(changes && changes->isEnabled());
+        QCOMPARE(changes->accessibleName(), QStringLiteral("Changes"));
+
+        // A window box left, a price typed into and still focused.
+        auto type = [&](const char *name, const QString &text) {
+            auto *box = form.findChild<QLineEdit *>(QLatin1String(name));
+            box->setFocus();
+            box->selectAll();
+            QTest::keyClicks(box, text);
+        };
+        type("EHFUBMIN4", QStringLiteral("70"));
+        type("Eprix1", QStringLiteral("1.20"));
+        QStringList listed;
+        QTimer::singleShot(0, &form, [&] {
+            auto *window = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            if (!window || window->objectName() != QLatin1String("TFormChanges"))
+                return;
+            auto *list = window->findChild<QListWidget *>(QStringLiteral("ListChanges"));
+            for (int row = 0; list && row < list->count(); ++row)
+                listed.append(list->item(row)->text());
+            QTest::mouseClick(window->findChild<QPushButton *>(QStringLiteral("BtnClose")),
+                              Qt::LeftButton);
+        });
+        QTest::mouseClick(changes, Qt::LeftButton);
+        const QString hfuWas = QString::number(read.channels[4][Rec::HfuLowMin]);
+        QCOMPARE(listed, (QStringList{QStringLiteral("Channels data"),
+                                      QStringLiteral("Channel 5: HFU low min %1 → 70").arg(hfuWas),
+                                      QStringLiteral("Prices table"),
+                                      QStringLiteral("Value P1: (empty) → 1.20")}));
+        form.model().flags().configModified = false;
     }
 
     void aFailedReadClosesTheEditor()
