@@ -23,6 +23,8 @@ TFormChanges::TFormChanges(ChangesModel &model, QWidget *parent)
     layout->addWidget(m_list, 1);
     layout->addLayout(buttons);
     m_close->setDefault(true);
+    // The list is read, not worked in: the focus starts on Close.
+    m_close->setFocus();
     connect(m_close, &QPushButton::clicked, this, &QDialog::accept);
     showModel();
 }
