@@ -133,6 +133,13 @@ void ScreenshotTour::buildSteps()
         {QStringLiteral("main-window"), QStringLiteral("TFormMain"), {}, {}, {}, true},
         {QStringLiteral("virtual-validator"), QStringLiteral("SimulatorPanel"), {}, {}, {}, true},
         {QStringLiteral("editor"), editor, {}, {}, {}, true},
+        // A window box and a price edited, then what the write would change.
+        {QStringLiteral("changes"), QStringLiteral("TFormChanges"),
+         [this, editor] {
+             typeInEditor(QStringLiteral("EHFUBMIN4"), QStringLiteral("150"));
+             typeInEditor(QStringLiteral("Eprix1"), QStringLiteral("1.20"));
+             click(editor, QStringLiteral("BtnChanges"));
+         }},
         {QStringLiteral("parameters"), QStringLiteral("TFormMain"),
          [this, parameters] {
              QMenuBar *bar = m_main->menuBar();

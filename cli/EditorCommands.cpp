@@ -22,15 +22,35 @@ QJsonObject controlJson(const Control &control)
     return o;
 }
 
+// Answers as a script would; the Changes window is its lines on stderr, so that stdout keeps
+// the configuration written.
+class CliEditorServices final : public DefaultEditorServices
+{
+public:
+    explicit CliEditorServices(CliContext &cli) : m_cli(cli) {}
+    void showChanges(ChangesModel &changes) override
+    {
+        // The changes indented under their group's name.
+        const bool any = !changes.changes().isEmpty();
+        for (const ChangesModel::Line &line : changes.lines())
+            m_cli.err() << (any && !line.heading ? "  " : "") << line.text << '\n';
+        m_cli.err() << Qt::flush;
+    }
+
+private:
+    CliContext &m_cli;
+};
+
 // The editor over a file, with the link when the command line names one.
 struct FileEditor
 {
-    FileEditor(CliContext &cli, TMonnayeur *link) : model(&cli.prompt(), &services, link)
+    FileEditor(CliContext &cli, TMonnayeur *link)
+        : services(cli), model(&cli.prompt(), &services, link)
     {
         // Close asks what closing the window asks.
         model.closeRequested = [this] { model.FormCloseQuery(); };
     }
-    DefaultEditorServices services;
+    CliEditorServices services;
     EditorModel model;
 };
 
@@ -171,7 +191,8 @@ void registerEditorCommands(CliCommandTable &table)
         {QStringLiteral("edit FILE [-o OUT] [--answer yes|no] ACTION..."),
          QStringLiteral("runs the editor over a configuration file and writes the result (stdout "
                         "without -o): NAME=TEXT types TEXT into box NAME and leaves it, NAME "
-                        "clicks it, NAME#N picks item N of a radio group, "
+                        "clicks it (BtnChanges prints the Changes window on stderr), NAME#N picks "
+                        "item N of a radio group, "
                         "Transfert=S:D[:clear][:values] copies channel S onto D; questions "
                         "take --answer (default no)"),
          editCommand});

@@ -615,6 +615,14 @@
         <source>Enable table :</source>
         <translation>Freigabetabelle :</translation>
     </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>Keine Änderungen seit dem letzten Lesen, Öffnen oder Schreiben der Konfiguration.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

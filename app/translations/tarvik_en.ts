@@ -615,6 +615,14 @@
         <source>Enable table :</source>
         <translation>Enable table :</translation>
     </message>
+    <message>
+        <source>Changes</source>
+        <translation>Changes</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>No changes since the configuration was last read, opened or written.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -615,6 +615,14 @@
         <source>Enable table :</source>
         <translation>Table d&apos;activation :</translation>
     </message>
+    <message>
+        <source>Changes</source>
+        <translation>Modifications</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>Aucune modification depuis la dernière lecture, ouverture ou écriture de la configuration.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

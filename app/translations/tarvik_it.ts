@@ -615,6 +615,14 @@
         <source>Enable table :</source>
         <translation>Tabella di abilitazione :</translation>
     </message>
+    <message>
+        <source>Changes</source>
+        <translation>Modifiche</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

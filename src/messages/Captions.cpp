@@ -166,6 +166,10 @@ constexpr Entry kTable[] = {
     {Cap::DiffPrices, QT_TRANSLATE_NOOP("Captions", "Prices table :")},
     {Cap::DiffConfig, QT_TRANSLATE_NOOP("Captions", "Configuration :")},
     {Cap::DiffEnable, QT_TRANSLATE_NOOP("Captions", "Enable table :")},
+    {Cap::Changes, QT_TRANSLATE_NOOP("Captions", "Changes")},
+    {Cap::NoChanges,
+     QT_TRANSLATE_NOOP("Captions",
+                       "No changes since the configuration was last read, opened or written.")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

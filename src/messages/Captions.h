@@ -170,6 +170,9 @@ enum class Cap
     DiffPrices,
     DiffConfig,
     DiffEnable,
+    // the Changes window
+    Changes,
+    NoChanges,
     Count_
 };
 

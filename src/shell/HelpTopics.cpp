@@ -19,6 +19,7 @@ constexpr Topic kTopics[] = {
     {"TFormData", "editor"},
     {"TTarvikFormInit", "validator-setting"},
     {"TFormCondotto", "output"},
+    {"TFormChanges", "changes"},
     {"TCloningChk", "cloning"},
     {"TFormAvertissementDif", "cloning"},
     {"TFormProgCoin", "learning"},

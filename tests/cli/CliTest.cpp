@@ -360,9 +360,15 @@ TEST_F(Cli, EditorEditsAndWritesAValidatorOverAPseudoTerminal)
     ASSERT_EQ(runTarvikCli({"--device", sim.path(), "read", "-o", file}).exitCode, 0);
     const CliRun edit =
         runTarvikCli({"--device", sim.path(), "edit", file, "-o", dir.filePath("edited.json"),
-                      "EHFUBMIN5=300", "Enable1", "SpeedButton8"});
+                      "EHFUBMIN5=300", "Enable1", "BtnChanges", "SpeedButton8", "BtnChanges"});
     ASSERT_EQ(edit.exitCode, 0) << qPrintable(edit.err);
-    EXPECT_TRUE(edit.err.contains("Finished operation!"));
+    // The Changes window before the write lists both edits; after it, none.
+    EXPECT_TRUE(edit.err.contains(QRegularExpression(QStringLiteral(
+        "Channels data\n  Channel 6: HFU low min \\d+ → 44\nEnable table\n  Channel 2: "
+        "enabled → disabled\n"))))
+        << qPrintable(edit.err);
+    EXPECT_TRUE(edit.err.contains("Finished operation!\nNo changes since the configuration was "
+                                  "last read, opened or written."));
     ASSERT_EQ(runTarvikCli({"--device", sim.path(), "read", "-o", back}).exitCode, 0);
     ConfigImage reread;
     QString error;

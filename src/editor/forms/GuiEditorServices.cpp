@@ -3,6 +3,7 @@
 #include "ChannelCopyModel.h"
 #include "EditorModel.h"
 #include "SavedValidatorsModel.h"
+#include "TFormChanges.h"
 #include "TFormReadFileData.h"
 #include "TFormTransfert.h"
 #include "TFormValue.h"
@@ -205,6 +206,12 @@ void GuiEditorServices::copyChannel(ChannelCopyModel &copy)
     form.exec();
 }
 
+void GuiEditorServices::showChanges(ChangesModel &changes)
+{
+    TFormChanges form(changes, m_window);
+    form.exec();
+}
+
 void GuiEditorServices::editValueTable(EditorModel &editor)
 {
     ValueTableModel::Editor access;
@@ -212,7 +219,7 @@ void GuiEditorServices::editValueTable(EditorModel &editor)
     access.apply = [&editor](const ValueBlock &block) {
         ConfigImage image = editor.image();
         image.values = block;
-        editor.loadImage(image, true);
+        editor.editImage(image);
     };
     access.modified = [&editor] { editor.flags().configModified = true; };
     std::unique_ptr<ValueTableStore> store;

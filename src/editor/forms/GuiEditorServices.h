@@ -50,6 +50,7 @@ public:
     // The channel copy dialog, the value table form and the saved validators browser.
     bool copyDialogAvailable() override { return true; }
     void copyChannel(ChannelCopyModel &copy) override;
+    void showChanges(ChangesModel &changes) override;
     bool valueTablesAvailable() override { return true; }
     void editValueTable(EditorModel &editor) override;
     bool savedValidatorsAvailable() override { return m_db != nullptr; }

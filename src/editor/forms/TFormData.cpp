@@ -65,10 +65,15 @@ struct Icon
     QStyle::StandardPixmap pixmap;
 };
 constexpr Icon kIcons[] = {
-    {"SpeedButton1", QStyle::SP_ArrowDown},       {"SpeedButton8", QStyle::SP_ArrowUp},
-    {"SpeedButton2", QStyle::SP_FileLinkIcon},    {"SpeedButton4", QStyle::SP_DriveHDIcon},
-    {"BtnOpenFile", QStyle::SP_DialogOpenButton}, {"BtnSaveFile", QStyle::SP_DialogSaveButton},
-    {"BtnInit", QStyle::SP_DialogResetButton},    {"BtnOutput", QStyle::SP_ArrowRight},
+    {"SpeedButton1", QStyle::SP_ArrowDown},
+    {"SpeedButton8", QStyle::SP_ArrowUp},
+    {"BtnChanges", QStyle::SP_FileDialogContentsView},
+    {"SpeedButton2", QStyle::SP_FileLinkIcon},
+    {"SpeedButton4", QStyle::SP_DriveHDIcon},
+    {"BtnOpenFile", QStyle::SP_DialogOpenButton},
+    {"BtnSaveFile", QStyle::SP_DialogSaveButton},
+    {"BtnInit", QStyle::SP_DialogResetButton},
+    {"BtnOutput", QStyle::SP_ArrowRight},
     {"BitBtn1", QStyle::SP_DialogCloseButton},
 };
 

@@ -36,8 +36,10 @@ void EditorModel::SpeedButton8Click()
         m_s.flags.serialOverride = options.serialOverride;
         showProgress(false);
         // The validator now holds the image.
-        if (outcome == WriteOutcome::Finished)
+        if (outcome == WriteOutcome::Finished) {
             m_s.flags.configModified = false;
+            m_s.baseline = m_s.image;
+        }
         display();
     });
 }
@@ -193,6 +195,15 @@ void EditorModel::BtnCopyClick()
         EHFUBMIN0Exit();
         m_copy.open();
         m_services->copyChannel(m_copy);
+    });
+}
+
+void EditorModel::BtnChangesClick()
+{
+    exclusive([&] {
+        m_changes.open();
+        if (m_services)
+            m_services->showChanges(m_changes);
     });
 }
 

@@ -21,14 +21,24 @@ struct Button
 
 // The editor's buttons, in the order of its tool bar.
 constexpr Button kButtons[] = {
-    {"SpeedButton1", Cap::ReadValidator, true}, {"SpeedButton8", Cap::WriteValidator, true},
-    {"SpeedButton2", Cap::Clone, true},         {"SpeedButton4", Cap::StoreInTables, false},
-    {"BtnOpenFile", Cap::OpenFile, false},      {"BtnSaveFile", Cap::SaveFile, false},
-    {"BtnInit", Cap::Initialise, false},        {"BtnOutput", Cap::Output, false},
-    {"BtnLearn", Cap::CoinLearning, true},      {"BtnReference", Cap::ReferenceCalibration, true},
-    {"BtnControl", Cap::ChannelControl, true},  {"BtnOverlap", Cap::OverlapCheck, false},
-    {"BtnCopy", Cap::CopyTitle, false},         {"BtnValues", Cap::ValuesTable, false},
-    {"BtnSaved", Cap::SavedValidators, false},  {"BitBtn1", Cap::Close, false},
+    {"SpeedButton1", Cap::ReadValidator, true},
+    {"SpeedButton8", Cap::WriteValidator, true},
+    // Beside the write: what it would change.
+    {"BtnChanges", Cap::Changes, true},
+    {"SpeedButton2", Cap::Clone, true},
+    {"SpeedButton4", Cap::StoreInTables, false},
+    {"BtnOpenFile", Cap::OpenFile, false},
+    {"BtnSaveFile", Cap::SaveFile, false},
+    {"BtnInit", Cap::Initialise, false},
+    {"BtnOutput", Cap::Output, false},
+    {"BtnLearn", Cap::CoinLearning, true},
+    {"BtnReference", Cap::ReferenceCalibration, true},
+    {"BtnControl", Cap::ChannelControl, true},
+    {"BtnOverlap", Cap::OverlapCheck, false},
+    {"BtnCopy", Cap::CopyTitle, false},
+    {"BtnValues", Cap::ValuesTable, false},
+    {"BtnSaved", Cap::SavedValidators, false},
+    {"BitBtn1", Cap::Close, false},
 };
 
 bool isLearningButton(const QString &name)
@@ -63,7 +73,8 @@ bool isTableBox(const QString &name)
 
 EditorModel::EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeur *link)
     : m_services(services), m_link(link), m_grid(m_s), m_identity(m_s), m_money(m_s),
-      m_options(m_s), m_counters(m_s), m_test(m_s), m_copy(m_s, [this] { display(); })
+      m_options(m_s), m_counters(m_s), m_test(m_s), m_copy(m_s, [this] { display(); }),
+      m_changes(m_s, [this] { EHFUBMIN0Exit(); })
 {
     m_s.prompt = prompt;
     ControlSet &c = m_s.controls;
@@ -165,6 +176,21 @@ void EditorModel::showPagesOfImage()
 
 void EditorModel::loadImage(const ConfigImage &image, bool modified)
 {
+    m_s.baseline = image;
+    showImage(image);
+    m_s.flags.configModified = modified;
+    flush();
+}
+
+void EditorModel::editImage(const ConfigImage &image)
+{
+    showImage(image);
+    m_s.flags.configModified = true;
+    flush();
+}
+
+void EditorModel::showImage(const ConfigImage &image)
+{
     m_s.image = image;
     m_money.takeFromImage();
     m_counters.takeFromImage();
@@ -172,8 +198,6 @@ void EditorModel::loadImage(const ConfigImage &image, bool modified)
     showPagesOfImage();
     display();
     m_s.flags.editChanged = false;
-    m_s.flags.configModified = modified;
-    flush();
 }
 
 void EditorModel::setGauge(int value)
@@ -255,6 +279,7 @@ void EditorModel::SpeedButton1Click()
         display();
         m_s.flags.promptFlag = true;
         m_s.flags.configModified = false;
+        m_s.baseline = m_s.image;
         keepBackup();
     });
 }
@@ -427,6 +452,8 @@ bool EditorModel::click(const QString &name, QString *error)
         BtnOutputClick();
     } else if (name == QLatin1String("BtnCopy")) {
         BtnCopyClick();
+    } else if (name == QLatin1String("BtnChanges")) {
+        BtnChangesClick();
     } else if (name == QLatin1String("BtnValues")) {
         exclusive([&] {
             EHFUBMIN0Exit();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ChangesModel.h"
 #include "ChannelCopyModel.h"
 #include "ChannelGridModel.h"
 #include "CountersModel.h"
@@ -49,8 +50,13 @@ public:
     std::function<void(const QString &name)> focusRequested;
 
     const ConfigImage &image() const { return m_s.image; }
-    // Takes an image from a file or a saved validator and shows it.
+    // The image as last read, opened or written, which the Changes window compares with.
+    const ConfigImage &baseline() const { return m_s.baseline; }
+    // Takes an image from a file or a saved validator and shows it; the Changes window then
+    // compares with it.
     void loadImage(const ConfigImage &image, bool modified);
+    // Takes an image another window changed (the value tables) and shows it as an edit.
+    void editImage(const ConfigImage &image);
     EditorFlags &flags() { return m_s.flags; }
     const EditorFlags &flags() const { return m_s.flags; }
     bool hasLink() const { return m_link != nullptr; }
@@ -74,6 +80,9 @@ public:
     // The channel copy dialog's model; copies act on this editor's image.
     ChannelCopyModel &channelCopy() { return m_copy; }
     void BtnCopyClick();
+    // The Changes window's model; the button takes the form into the image and opens it.
+    ChangesModel &changes() { return m_changes; }
+    void BtnChangesClick();
     // Coin learning, reference calibration, channel control and the overlap check.
     void learningClick(const QString &button);
 
@@ -103,6 +112,7 @@ private:
     void exitBox(const QString &name);
     bool clickSetting(const QString &name);
     void pickType(int item);
+    void showImage(const ConfigImage &image);
 
     EditorState m_s;
     EditorServices *m_services;
@@ -114,5 +124,6 @@ private:
     CountersModel m_counters;
     SerialTestModel m_test;
     ChannelCopyModel m_copy;
+    ChangesModel m_changes;
     bool m_busy = false;
 };

@@ -6,6 +6,7 @@
 #include <optional>
 
 struct ConfigImage;
+class ChangesModel;
 class ChannelCopyModel;
 class EditorModel;
 class TMonnayeur;
@@ -77,6 +78,9 @@ public:
     // The channel copy dialog over its model, where the program has it.
     virtual bool copyDialogAvailable() { return false; }
     virtual void copyChannel(ChannelCopyModel &) {}
+
+    // The Changes window over its model, once the model has listed the changes.
+    virtual void showChanges(ChangesModel &) {}
 };
 
 // Answers as a script would: every group, Continue, no dialogs, no files, no tables.

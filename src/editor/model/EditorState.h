@@ -26,6 +26,8 @@ struct EditorState
 {
     ControlSet controls;
     ConfigImage image = ConfigImage::blank();
+    // The image as last read, opened or written: what the Changes window compares with.
+    ConfigImage baseline = ConfigImage::blank();
     EditorFlags flags;
     UserPrompt *prompt = nullptr;
 

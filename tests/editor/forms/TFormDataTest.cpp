@@ -10,9 +10,11 @@
 #include "SimTransport.h"
 #include "VirtualValidator.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -221,6 +223,45 @@ private Q_SLOTS:
         prompt.setNextAnswers({UserPrompt::Answer::No});
         QVERIFY(form.close());
         QCOMPARE(prompt.asked(), QStringList{messageText(Msg::SaveOnValidator)});
+    }
+
+    void theChangesButtonListsTheEdits()
+    {
+        VirtualValidator device;
+        SimTransport port(&device);
+        RecordingPrompt prompt;
+        TMonnayeur link(&port, &prompt);
+        GuiEditorServices services(prompt, nullptr);
+        TFormData form(prompt, services, &link);
+        form.model().flags().readOnOpen = true;
+        form.show();
+        QVERIFY(QTest::qWaitFor([&] { return form.hasOpened(); }));
+        const int was = device.memory().channels[4][Rec::HfuLowMin];
+        // A window box and a price typed into; the click leaves the price.
+        for (auto [box, text] : {std::pair{"EHFUBMIN4", "70"}, std::pair{"Eprix1", "1.20"}}) {
+            auto *edit = form.findChild<QLineEdit *>(QLatin1String(box));
+            edit->setFocus();
+            edit->selectAll();
+            QTest::keyClicks(edit, QLatin1String(text));
+        }
+        QStringList listed;
+        QTimer::singleShot(0, &form, [&] {
+            QWidget *window = QApplication::activeModalWidget();
+            if (!window)
+                return;
+            auto *list = window->findChild<QListWidget *>(QStringLiteral("ListChanges"));
+            for (int row = 0; list && row < list->count(); ++row)
+                listed.append(list->item(row)->text());
+            QTest::mouseClick(window->findChild<QPushButton *>(QStringLiteral("BtnClose")),
+                              Qt::LeftButton);
+        });
+        QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("BtnChanges")),
+                          Qt::LeftButton);
+        QCOMPARE(listed, (QStringList{QStringLiteral("Channels data"),
+                                      QStringLiteral("Channel 5: HFU low min %1 → 70").arg(was),
+                                      QStringLiteral("Prices table"),
+                                      QStringLiteral("Value P1: (empty) → 1.20")}));
+        form.model().flags().configModified = false;
     }
 
     void aFailedReadClosesTheEditor()

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QDialog>
+
+class ChangesModel;
+class QListWidget;
+class QPushButton;
+
+// "Changes": the list of what the next write would change, over its model; the lines and their
+// words all come from ChangesModel.
+class TFormChanges final : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit TFormChanges(ChangesModel &model, QWidget *parent = nullptr);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void showModel();
+
+    ChangesModel &m_model;
+    QListWidget *m_list;
+    QPushButton *m_close;
+};

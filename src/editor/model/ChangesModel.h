@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ConfigDiff.h"
+
+#include <QList>
+#include <QString>
+#include <functional>
+
+struct EditorState;
+
+// The Changes window: what the next full write would change on the validator, that is every
+// field of the editor's image that differs from the image as last read, opened or written,
+// grouped as the cloning dialog groups them.
+class ChangesModel final
+{
+public:
+    // copyForm copies the form into the image as the writes do, so that a box typed into but
+    // not yet left counts.
+    ChangesModel(const EditorState &editor, std::function<void()> copyForm);
+
+    struct Line
+    {
+        QString text;
+        bool heading = false; // a group's name; the changes of the group follow it
+    };
+
+    // Takes the form into the image, then lists the differences.
+    void open();
+    // Lists again without touching the image (the language changed).
+    void list();
+
+    const QList<ConfigChange> &changes() const { return m_changes; }
+    // The group names and the changes under them, one line each; when there is no change,
+    // the one line that says so.
+    const QList<Line> &lines() const { return m_lines; }
+    QString title() const;
+    QString closeCaption() const;
+
+private:
+    const EditorState &m_editor;
+    std::function<void()> m_copyForm;
+    QList<ConfigChange> m_changes;
+    QList<Line> m_lines;
+};
