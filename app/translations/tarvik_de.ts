@@ -571,6 +571,26 @@
         <source>&amp;Next</source>
         <translation>&amp;Weiter</translation>
     </message>
+    <message>
+        <source>Channel windows</source>
+        <translation>Fenster der Kanäle</translation>
+    </message>
+    <message>
+        <source>No channel in use</source>
+        <translation>Kein Kanal belegt</translation>
+    </message>
+    <message>
+        <source>Overlapping channels:</source>
+        <translation>Überlappende Kanäle:</translation>
+    </message>
+    <message>
+        <source>Reference channel %d</source>
+        <translation>Referenzkanal %d</translation>
+    </message>
+    <message>
+        <source>%d coin(s)</source>
+        <translation>%d Münze(n)</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -571,6 +571,26 @@
         <source>&amp;Next</source>
         <translation>&amp;Next</translation>
     </message>
+    <message>
+        <source>Channel windows</source>
+        <translation>Channel windows</translation>
+    </message>
+    <message>
+        <source>No channel in use</source>
+        <translation>No channel in use</translation>
+    </message>
+    <message>
+        <source>Overlapping channels:</source>
+        <translation>Overlapping channels:</translation>
+    </message>
+    <message>
+        <source>Reference channel %d</source>
+        <translation>Reference channel %d</translation>
+    </message>
+    <message>
+        <source>%d coin(s)</source>
+        <translation>%d coin(s)</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

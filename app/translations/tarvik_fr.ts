@@ -571,6 +571,26 @@
         <source>&amp;Next</source>
         <translation>Sui&amp;vant</translation>
     </message>
+    <message>
+        <source>Channel windows</source>
+        <translation>Fenêtres des canaux</translation>
+    </message>
+    <message>
+        <source>No channel in use</source>
+        <translation>Aucun canal utilisé</translation>
+    </message>
+    <message>
+        <source>Overlapping channels:</source>
+        <translation>Canaux superposés :</translation>
+    </message>
+    <message>
+        <source>Reference channel %d</source>
+        <translation>Canal de référence %d</translation>
+    </message>
+    <message>
+        <source>%d coin(s)</source>
+        <translation>%d pièce(s)</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -571,6 +571,26 @@
         <source>&amp;Next</source>
         <translation>&amp;Successivo</translation>
     </message>
+    <message>
+        <source>Channel windows</source>
+        <translation>Finestre dei canali</translation>
+    </message>
+    <message>
+        <source>No channel in use</source>
+        <translation>Nessun canale in uso</translation>
+    </message>
+    <message>
+        <source>Overlapping channels:</source>
+        <translation>Canali sovrapposti:</translation>
+    </message>
+    <message>
+        <source>Reference channel %d</source>
+        <translation>Canale di riferimento %d</translation>
+    </message>
+    <message>
+        <source>%d coin(s)</source>
+        <translation>%d moneta/e</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>

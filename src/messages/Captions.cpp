@@ -155,6 +155,11 @@ constexpr Entry kTable[] = {
     {Cap::HelpContents, QT_TRANSLATE_NOOP("Captions", "&Contents")},
     {Cap::HelpPrevious, QT_TRANSLATE_NOOP("Captions", "&Previous")},
     {Cap::HelpNext, QT_TRANSLATE_NOOP("Captions", "&Next")},
+    {Cap::ChartTitle, QT_TRANSLATE_NOOP("Captions", "Channel windows")},
+    {Cap::ChartEmpty, QT_TRANSLATE_NOOP("Captions", "No channel in use")},
+    {Cap::ChartOverlapping, QT_TRANSLATE_NOOP("Captions", "Overlapping channels:")},
+    {Cap::ChartReference, QT_TRANSLATE_NOOP("Captions", "Reference channel %d")},
+    {Cap::ChartCoins, QT_TRANSLATE_NOOP("Captions", "%d coin(s)")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

@@ -158,6 +158,12 @@ enum class Cap
     HelpContents,
     HelpPrevious,
     HelpNext,
+    // the windows chart
+    ChartTitle,
+    ChartEmpty,
+    ChartOverlapping,
+    ChartReference,
+    ChartCoins,
     Count_
 };
 

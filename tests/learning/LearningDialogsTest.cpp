@@ -116,7 +116,11 @@ TEST(Lists, HeadersCountsAndTheReferenceNotice)
     EXPECT_EQ(analyse.control(QStringLiteral("Label1")).text, QStringLiteral("2 superposition(s)"));
     EXPECT_EQ(analyse.control(QStringLiteral("ListBox1")).items.size(), 2);
 
-    SuperpositionModel overlap({QStringLiteral("   1 | C   1 <--> C   2        ")});
+    ConfigImage twice = VirtualValidator::factoryImage(0x13, 1001);
+    twice.channels[1] = twice.channels[0];
+    SuperpositionModel overlap(twice);
+    EXPECT_EQ(overlap.control(QStringLiteral("ListBox1")).items,
+              QStringList{QStringLiteral("   1 | C   1 <--> C   2        ")});
     EXPECT_EQ(overlap.control(QStringLiteral("TFormSuperposition")).text,
               QStringLiteral("Overlapped channels list"));
     EXPECT_EQ(overlap.control(QStringLiteral("Label1")).text, QStringLiteral("1 Overlapping"));
@@ -135,7 +139,10 @@ TEST(Lists, HeadersCountsAndTheReferenceNotice)
         void runProgCoin(ProgCoinModel &) override {}
         void runChannelToAdjust(CAdjustModel &) override {}
         void showReferenceNotice() override {}
-        void showOverlap(const QStringList &l) override { lines = l; }
+        void showOverlap(const ConfigImage &image) override
+        {
+            lines = SuperpositionModel(image).control(QStringLiteral("ListBox1")).items;
+        }
         QStringList lines;
     } windows;
     RecordingPrompt prompt;
@@ -189,7 +196,7 @@ TEST(LearningTranslations, EveryCaptionIsTranslated)
     control.setControlChannel(1);
     ToleranceModel tolerances(nullptr);
     CAdjustModel adjust(image, nullptr);
-    SuperpositionModel overlap({});
+    SuperpositionModel overlap(ConfigImage::blank());
     AnalyseModel analyse({});
     RefChannelModel notice;
     const std::vector<const FormModel *> forms = {&learning, &control, &tolerances, &adjust,

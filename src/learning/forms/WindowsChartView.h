@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QWidget>
+
+class WindowsChartModel;
+
+// The windows chart of a model that outlives it, painted as it stands; the window that shows
+// it calls update() when the model reports the chart changed.
+class WindowsChartView final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit WindowsChartView(const WindowsChartModel &model, QWidget *parent = nullptr);
+
+    const WindowsChartModel &model() const { return m_model; }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void retranslate();
+
+    const WindowsChartModel &m_model;
+};
