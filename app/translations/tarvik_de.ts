@@ -587,10 +587,6 @@
         <source>Reference channel %d</source>
         <translation>Referenzkanal %d</translation>
     </message>
-    <message>
-        <source>%d coin(s)</source>
-        <translation>%d Münze(n)</translation>
-    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -587,10 +587,6 @@
         <source>Reference channel %d</source>
         <translation>Reference channel %d</translation>
     </message>
-    <message>
-        <source>%d coin(s)</source>
-        <translation>%d coin(s)</translation>
-    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -587,10 +587,6 @@
         <source>Reference channel %d</source>
         <translation>Canal de référence %d</translation>
     </message>
-    <message>
-        <source>%d coin(s)</source>
-        <translation>%d pièce(s)</translation>
-    </message>
 </context>
 <context>
     <name>Messages</name>

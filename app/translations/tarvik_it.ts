@@ -587,10 +587,6 @@
         <source>Reference channel %d</source>
         <translation>Canale di riferimento %d</translation>
     </message>
-    <message>
-        <source>%d coin(s)</source>
-        <translation>%d moneta/e</translation>
-    </message>
 </context>
 <context>
     <name>Messages</name>

@@ -47,6 +47,7 @@ void WindowsChartModel::setImage(const ConfigImage &image)
         }
     }
     m_overlaps = overlappingPairs(image);
+    ++m_revision;
     tint();
 }
 
@@ -72,15 +73,10 @@ QString WindowsChartModel::referenceText() const
                : QString();
 }
 
-QString WindowsChartModel::coinsText() const
-{
-    return m_sampleCount > 0 ? captionText(Cap::ChartCoins, {QString::number(m_sampleCount)})
-                             : QString();
-}
-
 void WindowsChartModel::highlight(std::optional<ChannelPair> pair)
 {
     m_highlighted = pair;
+    ++m_revision;
     tint();
 }
 

@@ -68,7 +68,6 @@ public:
     const QList<ChannelPair> &overlaps() const { return m_overlaps; }
     QString legend() const;
     QString referenceText() const;
-    QString coinsText() const;
 
     // The two channels of a pair stand out; nullopt puts them back.
     void highlight(std::optional<ChannelPair> pair);
@@ -78,6 +77,10 @@ public:
     void setSamples(const QList<SampleBytes> &samples);
     void addSample(const SampleBytes &sample);
     int sampleCount() const { return m_sampleCount; }
+
+    // Changes with everything but the samples: a view may keep the chart drawn until then and
+    // draw only the ticks over it.
+    int revision() const { return m_revision; }
 
 private:
     void tint();
@@ -89,6 +92,7 @@ private:
     QList<ChannelPair> m_overlaps;
     std::optional<ChannelPair> m_highlighted;
     int m_sampleCount = 0;
+    int m_revision = 0;
 };
 
 // Stacks intervals (first and last value, inclusive) into lanes, each into the lowest lane

@@ -15,7 +15,7 @@ constexpr int kAxisStep = 50;
 QStringList legendLines(const WindowsChartModel &model)
 {
     QStringList lines;
-    for (const QString &line : {model.legend(), model.referenceText(), model.coinsText()}) {
+    for (const QString &line : {model.legend(), model.referenceText()}) {
         if (!line.isEmpty())
             lines.append(line);
     }
@@ -98,6 +98,7 @@ QColor windowsChartTickColour()
 WindowsChartLayout layoutWindowsChart(const QRectF &area, const WindowsChartModel &model)
 {
     WindowsChartLayout l;
+    l.area = area;
     const int pixels = std::clamp(int(area.height() / 60.0), 8, 12);
     l.font.setPixelSize(pixels);
     const QFontMetricsF metrics(l.font);
@@ -196,7 +197,15 @@ WindowsChartLayout layoutWindowsChart(const QRectF &area, const WindowsChartMode
 
 void paintWindowsChart(QPainter &painter, const QRectF &area, const WindowsChartModel &model)
 {
-    const WindowsChartLayout l = layoutWindowsChart(area, model);
+    const WindowsChartLayout layout = layoutWindowsChart(area, model);
+    paintWindowsChartBase(painter, layout, model);
+    paintWindowsChartTicks(painter, layout, model);
+}
+
+void paintWindowsChartBase(QPainter &painter, const WindowsChartLayout &l,
+                           const WindowsChartModel &model)
+{
+    const QRectF &area = l.area;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(area, Qt::white);
@@ -249,35 +258,18 @@ void paintWindowsChart(QPainter &painter, const QRectF &area, const WindowsChart
         painter.drawText(l.plot, Qt::AlignCenter | Qt::TextWordWrap, model.note());
         painter.setFont(l.font);
     }
-    // The coins over the bars: older ones in the tick colour, the last one black and wider.
-    const double half = l.valueWidth() / 2;
-    for (int w = 0; w < kWindows; ++w) {
-        const QList<quint8> &ticks = model.bands()[std::size_t(w)].ticks;
-        const QRectF &band = l.bands[std::size_t(w)];
-        for (qsizetype i = 0; i < ticks.size(); ++i) {
-            const bool last = i + 1 == ticks.size();
-            painter.setPen(QPen(last ? text : windowsChartTickColour(), last ? 2 : 1));
-            const double x = l.x(ticks[i]) + half;
-            painter.drawLine(QPointF(x, band.top()), QPointF(x, band.bottom()));
-        }
-    }
 
     // The legend: each line after a swatch of what it names.
-    const QStringList lines = legendLines(model);
     painter.setClipRect(l.legend);
     double y = l.legend.top();
     const double swatch = swatchSize(metrics);
-    for (const QString &line : lines) {
+    for (const QString &line : legendLines(model)) {
         const QRectF box(l.legend.left(), y + (metrics.height() - swatch) / 2, swatch, swatch);
         if (line == model.legend()) {
             painter.fillRect(box, windowsChartColour(ChartTint::Overlapping));
-        } else if (line == model.referenceText()) {
+        } else {
             painter.setPen(QPen(text, 2));
             painter.drawRect(box);
-        } else {
-            painter.setPen(QPen(windowsChartTickColour(), 2));
-            painter.drawLine(box.center() - QPointF(0, swatch / 2),
-                             box.center() + QPointF(0, swatch / 2));
         }
         const QRectF textRect(l.legend.left() + swatchRoom(metrics), y,
                               l.legend.width() - swatchRoom(metrics), l.legend.bottom() - y);
@@ -285,6 +277,26 @@ void paintWindowsChart(QPainter &painter, const QRectF &area, const WindowsChart
         const QRectF drawn = painter.boundingRect(textRect, Qt::TextWordWrap, line);
         painter.drawText(textRect, Qt::TextWordWrap, line);
         y += drawn.height();
+    }
+    painter.restore();
+}
+
+void paintWindowsChartTicks(QPainter &painter, const WindowsChartLayout &l,
+                            const WindowsChartModel &model)
+{
+    // Older coins in the tick colour, the last one black and wider.
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    const double half = l.valueWidth() / 2;
+    for (int w = 0; w < kWindows; ++w) {
+        const QList<quint8> &ticks = model.bands()[std::size_t(w)].ticks;
+        const QRectF &band = l.bands[std::size_t(w)];
+        for (qsizetype i = 0; i < ticks.size(); ++i) {
+            const bool last = i + 1 == ticks.size();
+            painter.setPen(QPen(last ? QColor(Qt::black) : windowsChartTickColour(), last ? 2 : 1));
+            const double x = l.x(ticks[i]) + half;
+            painter.drawLine(QPointF(x, band.top()), QPointF(x, band.bottom()));
+        }
     }
     painter.restore();
 }

@@ -14,8 +14,8 @@ class QPainter;
 // from 0 to 255 with its caption, every channel in use a bar from its minimum to its maximum
 // labelled with its number and value, bars that would cover each other stacked into lanes,
 // the sample readings as ticks across their band, and under the values the legend (the
-// overlapping pairs, the reference channel, the coins). Needs only QtGui: a widget, an image,
-// a printer or an SVG file alike.
+// overlapping pairs, the reference channel). Needs only QtGui: a widget, an image, a printer
+// or an SVG file alike.
 void paintWindowsChart(QPainter &painter, const QRectF &area, const WindowsChartModel &model);
 
 // The colour of a bar of that tint.
@@ -37,6 +37,7 @@ struct WindowsChartBarPlace
 // Where the parts of the chart stand in an area.
 struct WindowsChartLayout
 {
+    QRectF area;
     QRectF plot; // the values 0 to 255 across its width, the bands inside
     std::array<QRectF, kWindows> bands{};
     // Per band, one per bar in the band's order.
@@ -51,3 +52,10 @@ struct WindowsChartLayout
     double valueWidth() const { return plot.width() / 256.0; }
 };
 WindowsChartLayout layoutWindowsChart(const QRectF &area, const WindowsChartModel &model);
+
+// The same in two layers, for a view that keeps the first while coins come (until the model's
+// revision changes): everything but the ticks, then the ticks over it.
+void paintWindowsChartBase(QPainter &painter, const WindowsChartLayout &layout,
+                           const WindowsChartModel &model);
+void paintWindowsChartTicks(QPainter &painter, const WindowsChartLayout &layout,
+                            const WindowsChartModel &model);

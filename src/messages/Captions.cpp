@@ -159,7 +159,6 @@ constexpr Entry kTable[] = {
     {Cap::ChartEmpty, QT_TRANSLATE_NOOP("Captions", "No channel in use")},
     {Cap::ChartOverlapping, QT_TRANSLATE_NOOP("Captions", "Overlapping channels:")},
     {Cap::ChartReference, QT_TRANSLATE_NOOP("Captions", "Reference channel %d")},
-    {Cap::ChartCoins, QT_TRANSLATE_NOOP("Captions", "%d coin(s)")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

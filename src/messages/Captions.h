@@ -163,7 +163,6 @@ enum class Cap
     ChartEmpty,
     ChartOverlapping,
     ChartReference,
-    ChartCoins,
     Count_
 };
 

@@ -27,14 +27,25 @@ QSize WindowsChartView::minimumSizeHint() const
 
 void WindowsChartView::paintEvent(QPaintEvent *)
 {
+    const qreal ratio = devicePixelRatioF();
+    if (m_revision != m_model.revision() || m_base.size() != size() * ratio) {
+        m_layout = layoutWindowsChart(rect(), m_model);
+        m_base = QPixmap(size() * ratio);
+        m_base.setDevicePixelRatio(ratio);
+        QPainter base(&m_base);
+        paintWindowsChartBase(base, m_layout, m_model);
+        m_revision = m_model.revision();
+    }
     QPainter painter(this);
-    paintWindowsChart(painter, rect(), m_model);
+    painter.drawPixmap(0, 0, m_base);
+    paintWindowsChartTicks(painter, m_layout, m_model);
 }
 
 void WindowsChartView::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
+        m_revision = -1; // the captions and the legend again
         update();
     }
     QWidget::changeEvent(event);

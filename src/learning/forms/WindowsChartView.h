@@ -1,11 +1,14 @@
 #pragma once
 
+#include "WindowsChartPainter.h"
+
+#include <QPixmap>
 #include <QWidget>
 
-class WindowsChartModel;
-
 // The windows chart of a model that outlives it, painted as it stands; the window that shows
-// it calls update() when the model reports the chart changed.
+// it calls update() when the model reports the chart changed. The chart without its ticks is
+// kept as a picture until the model's revision, the size or the language changes, so that a
+// coin only draws the ticks again.
 class WindowsChartView final : public QWidget
 {
     Q_OBJECT
@@ -24,4 +27,7 @@ private:
     void retranslate();
 
     const WindowsChartModel &m_model;
+    QPixmap m_base;
+    WindowsChartLayout m_layout;
+    int m_revision = -1;
 };
