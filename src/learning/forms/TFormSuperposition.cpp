@@ -13,6 +13,7 @@ TFormSuperposition::TFormSuperposition(const ConfigImage &image, QWidget *parent
 {
     auto &overlap = static_cast<SuperpositionModel &>(model());
     m_chart = new WindowsChartView(overlap.chart(), this);
+    m_chart->setMinimumSize(560, 420);
     QWidget *list = findChild<QWidget *>(QStringLiteral("ListBox1"));
     auto *column = static_cast<QVBoxLayout *>(layout());
     if (list && column) {

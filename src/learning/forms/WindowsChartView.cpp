@@ -17,7 +17,7 @@ WindowsChartView::WindowsChartView(const WindowsChartModel &model, QWidget *pare
 
 QSize WindowsChartView::sizeHint() const
 {
-    return {720, 520};
+    return {720, 360};
 }
 
 QSize WindowsChartView::minimumSizeHint() const
