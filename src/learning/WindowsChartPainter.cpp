@@ -11,6 +11,8 @@ namespace {
 constexpr double kMargin = 6.0;
 constexpr double kBandGap = 3.0; // between two bands
 constexpr int kAxisStep = 50;
+// Above this size the chart is drawn at it and scaled up.
+constexpr QSizeF kNominalSize(1200, 800);
 
 QStringList legendLines(const WindowsChartModel &model)
 {
@@ -197,9 +199,18 @@ WindowsChartLayout layoutWindowsChart(const QRectF &area, const WindowsChartMode
 
 void paintWindowsChart(QPainter &painter, const QRectF &area, const WindowsChartModel &model)
 {
-    const WindowsChartLayout layout = layoutWindowsChart(area, model);
+    // A large area (a printed page in device pixels) is drawn as a chart of about the nominal
+    // size scaled up, so that its texts and lines keep their proportions.
+    const double scale = std::max(
+        1.0, std::min(area.width() / kNominalSize.width(), area.height() / kNominalSize.height()));
+    painter.save();
+    painter.translate(area.topLeft());
+    painter.scale(scale, scale);
+    const WindowsChartLayout layout =
+        layoutWindowsChart(QRectF(0, 0, area.width() / scale, area.height() / scale), model);
     paintWindowsChartBase(painter, layout, model);
     paintWindowsChartTicks(painter, layout, model);
+    painter.restore();
 }
 
 void paintWindowsChartBase(QPainter &painter, const WindowsChartLayout &l,

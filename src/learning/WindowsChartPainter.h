@@ -15,7 +15,8 @@ class QPainter;
 // labelled with its number and value, bars that would cover each other stacked into lanes,
 // the sample readings as ticks across their band, and under the values the legend (the
 // overlapping pairs, the reference channel). Needs only QtGui: a widget, an image, a printer
-// or an SVG file alike.
+// or an SVG file alike. An area larger than 1200 x 800 gets the chart of that size scaled up,
+// so that a page in printer pixels reads like a screen.
 void paintWindowsChart(QPainter &painter, const QRectF &area, const WindowsChartModel &model);
 
 // The colour of a bar of that tint.

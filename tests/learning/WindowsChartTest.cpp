@@ -154,6 +154,21 @@ TEST_F(WindowsChart, BarsOverlapsAndColoursOfKnownPairs)
               (QList<int>{0, 1, 0, 0, 1}));
 }
 
+// A page in printer pixels gets the nominal chart scaled up, not tiny texts in a vast plot.
+TEST_F(WindowsChart, LargeAreaIsTheNominalChartScaledUp)
+{
+    const WindowsChartModel model(knownImage());
+    const QImage large = paint(model, {2400, 1600});
+    const WindowsChartLayout nominal = layoutWindowsChart(QRectF(0, 0, 1200, 800), model);
+    for (int w = 0; w < kWindows; ++w) {
+        for (qsizetype i = 0; i < nominal.bars[std::size_t(w)].size(); ++i) {
+            const QRectF &bar = nominal.bars[std::size_t(w)][i].bar;
+            EXPECT_EQ(pixel(large, QPointF(bar.right() - 1.5, bar.center().y()) * 2),
+                      windowsChartColour(model.bands()[std::size_t(w)].bars[i].tint));
+        }
+    }
+}
+
 TEST_F(WindowsChart, LightModelHasTwentyFiveChannels)
 {
     ConfigImage image = knownImage(0x31);
