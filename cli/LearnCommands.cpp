@@ -1,5 +1,6 @@
 // learn, calibrate and overlap: coin learning and the reference calibration on the validator,
-// and the overlap check of a configuration file.
+// and the overlap check of a configuration file, with its windows chart as a picture.
+#include "Captions.h"
 #include "CliContext.h"
 #include "Commands.h"
 #include "ConfigFile.h"
@@ -7,8 +8,14 @@
 #include "Messages.h"
 #include "ReadSequence.h"
 #include "ReferenceCalibration.h"
+#include "WindowsChartPainter.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QSvgGenerator>
 
 namespace {
 
@@ -207,21 +214,69 @@ int calibrateCommand(CliContext &cli, const QStringList &arguments)
                : kExitFailed;
 }
 
-int overlapCommand(CliContext &cli, const QStringList &args)
+// The size of the chart's picture, in pixels (an SVG's view box).
+constexpr QSize kChartSize(1200, 800);
+
+// Draws the windows chart of the configuration into a PNG or an SVG file.
+bool writeChart(CliContext &cli, const QString &path, const ConfigImage &image)
 {
-    if (args.size() != 1)
+    // Its texts need fonts, which only a graphical application has (main makes one, offscreen).
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
+        cli.err() << "tarvik-cli: the chart cannot be drawn here" << Qt::endl;
+        return false;
+    }
+    const WindowsChartModel model(image);
+    const QRectF area(QPointF(0, 0), kChartSize);
+    bool written = false;
+    if (QFileInfo(path).suffix().compare(QLatin1String("svg"), Qt::CaseInsensitive) == 0) {
+        QSvgGenerator svg;
+        svg.setFileName(path);
+        svg.setSize(kChartSize);
+        svg.setViewBox(area);
+        svg.setTitle(captionText(Cap::ChartTitle));
+        QPainter painter;
+        if (painter.begin(&svg)) {
+            paintWindowsChart(painter, area, model);
+            written = painter.end() && QFileInfo(path).size() > 0;
+        }
+    } else {
+        QImage picture(kChartSize, QImage::Format_RGB32);
+        QPainter painter(&picture);
+        paintWindowsChart(painter, area, model);
+        painter.end();
+        written = picture.save(path, "PNG");
+    }
+    if (!written)
+        cli.err() << "tarvik-cli: cannot write " << path << Qt::endl;
+    return written;
+}
+
+int overlapCommand(CliContext &cli, const QStringList &arguments)
+{
+    QStringList args = arguments;
+    QString chart;
+    const bool charted = args.contains(QLatin1String("--chart"));
+    if (!takeValue(args, QStringLiteral("--chart"), chart) || args.size() != 1)
         return kExitUsage;
+    const QString suffix = QFileInfo(chart).suffix().toLower();
+    if (charted && suffix != QLatin1String("png") && suffix != QLatin1String("svg")) {
+        cli.err() << "tarvik-cli: --chart writes a .png or a .svg file, not \"" << chart << "\""
+                  << Qt::endl;
+        return kExitUsage;
+    }
     ConfigImage image = ConfigImage::blank();
     if (!readImageInput(cli, args.first(), image))
         return kExitFailed;
     const QStringList lines = overlapLines(image);
     if (lines.isEmpty()) {
         cli.out() << messageText(Msg::NoOverlapping) << Qt::endl;
-        return kExitOk;
+    } else {
+        for (const QString &line : lines)
+            cli.out() << line << Qt::endl;
+        cli.out() << messageText(Msg::Overlapping, {QString::number(lines.size())}) << Qt::endl;
     }
-    for (const QString &line : lines)
-        cli.out() << line << Qt::endl;
-    cli.out() << messageText(Msg::Overlapping, {QString::number(lines.size())}) << Qt::endl;
+    if (charted && !writeChart(cli, chart, image))
+        return kExitFailed;
     return kExitOk;
 }
 
@@ -244,8 +299,9 @@ void registerLearnCommands(CliCommandTable &table)
                                  "tokens (default 5)"),
                   calibrateCommand});
     table.insert(QStringLiteral("overlap"),
-                 {QStringLiteral("overlap FILE"),
+                 {QStringLiteral("overlap FILE [--chart OUT.png|OUT.svg]"),
                   QStringLiteral("lists the pairs of channels of a configuration file whose "
-                                 "windows overlap"),
+                                 "windows overlap; --chart also draws every channel's windows "
+                                 "with the overlapping ones marked into a PNG or SVG picture"),
                   overlapCommand});
 }

@@ -622,6 +622,20 @@
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
         <translation>Keine Änderungen seit dem letzten Lesen, Öffnen oder Schreiben der Konfiguration.</translation>
+        <source>Channel windows</source>
+        <translation>Fenster der Kanäle</translation>
+    </message>
+    <message>
+        <source>No channel in use</source>
+        <translation>Kein Kanal belegt</translation>
+    </message>
+    <message>
+        <source>Overlapping channels:</source>
+        <translation>Überlappende Kanäle:</translation>
+    </message>
+    <message>
+        <source>Reference channel %d</source>
+        <translation>Referenzkanal %d</translation>
     </message>
 </context>
 <context>

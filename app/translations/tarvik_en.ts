@@ -622,6 +622,20 @@
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
         <translation>No changes since the configuration was last read, opened or written.</translation>
+        <source>Channel windows</source>
+        <translation>Channel windows</translation>
+    </message>
+    <message>
+        <source>No channel in use</source>
+        <translation>No channel in use</translation>
+    </message>
+    <message>
+        <source>Overlapping channels:</source>
+        <translation>Overlapping channels:</translation>
+    </message>
+    <message>
+        <source>Reference channel %d</source>
+        <translation>Reference channel %d</translation>
     </message>
 </context>
 <context>

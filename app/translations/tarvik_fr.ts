@@ -622,6 +622,20 @@
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
         <translation>Aucune modification depuis la dernière lecture, ouverture ou écriture de la configuration.</translation>
+        <source>Channel windows</source>
+        <translation>Fenêtres des canaux</translation>
+    </message>
+    <message>
+        <source>No channel in use</source>
+        <translation>Aucun canal utilisé</translation>
+    </message>
+    <message>
+        <source>Overlapping channels:</source>
+        <translation>Canaux superposés :</translation>
+    </message>
+    <message>
+        <source>Reference channel %d</source>
+        <translation>Canal de référence %d</translation>
     </message>
 </context>
 <context>

@@ -622,6 +622,20 @@
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
         <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
+        <source>Channel windows</source>
+        <translation>Finestre dei canali</translation>
+    </message>
+    <message>
+        <source>No channel in use</source>
+        <translation>Nessun canale in uso</translation>
+    </message>
+    <message>
+        <source>Overlapping channels:</source>
+        <translation>Canali sovrapposti:</translation>
+    </message>
+    <message>
+        <source>Reference channel %d</source>
+        <translation>Canale di riferimento %d</translation>
     </message>
 </context>
 <context>

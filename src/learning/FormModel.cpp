@@ -208,7 +208,9 @@ bool FormModel::pick(const QString &name, int item, QString *error)
     const Control *control = lookup(name, error);
     if (!control)
         return false;
-    if (control->kind != ControlKind::Radio || item < 0 || item >= control->state.items.size()) {
+    const bool pickable =
+        control->kind == ControlKind::Radio || (m_lists.contains(name) && !control->state.readOnly);
+    if (!pickable || item < 0 || item >= control->state.items.size()) {
         if (error)
             *error = name + QStringLiteral(" has no item %1").arg(item);
         return false;

@@ -64,6 +64,7 @@ public:
     bool type(const QString &name, const QString &text, QString *error = nullptr);
     bool leave(const QString &name, QString *error = nullptr);
     bool click(const QString &name, QString *error = nullptr);
+    // An item of a radio group, or a line of a list box.
     bool pick(const QString &name, int item, QString *error = nullptr);
 
     // True while a handler runs (it may be showing a message): the timer stays out.
@@ -108,6 +109,8 @@ protected:
     UserPrompt::Answer ask(const QString &text,
                            UserPrompt::Buttons buttons = UserPrompt::Buttons::YesNo);
     void requestFocus(const QString &name);
+    // Tells the view to repaint this part, a control or a drawing of the view's own.
+    void markChanged(const QString &name);
     void close(bool accepted);
     // Runs a handler as one action: the view repaints when it ends.
     void act(const std::function<void()> &work);
@@ -117,7 +120,6 @@ protected:
 private:
     const Control *lookup(const QString &name, QString *error) const;
     bool canAct(const Control &control, QString *error) const;
-    void markChanged(const QString &name);
 
     const char *m_context;
     ControlSet m_controls;

@@ -1,5 +1,7 @@
 #include "Learning.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -9,10 +11,22 @@ namespace {
 // DIM, HFL low, HFL high, amplitude (measurement order with LF and DIM the other way round).
 constexpr int kListOrder[kWindows] = {0, 1, 3, 2, 4, 5, 6};
 
+constexpr const char *kWindowCaption[kWindows] = {
+    QT_TRANSLATE_NOOP("TFormProgCoin", "HFU low"), QT_TRANSLATE_NOOP("TFormProgCoin", "HFU high"),
+    QT_TRANSLATE_NOOP("TFormProgCoin", "DIM"),     QT_TRANSLATE_NOOP("TFormProgCoin", "LF"),
+    QT_TRANSLATE_NOOP("TFormProgCoin", "HFL low"), QT_TRANSLATE_NOOP("TFormProgCoin", "HFL high"),
+    QT_TRANSLATE_NOOP("TFormProgCoin", "AMP"),
+};
+
 constexpr int kGoldenWindows[] = {0, 2, 3, 4, 6}; // HFU low, DIM, LF, HFL low, amplitude
 constexpr int kSilverWindows[] = {1, 5};          // HFU high, HFL high
 
 } // namespace
+
+QString windowCaption(int window)
+{
+    return QCoreApplication::translate("TFormProgCoin", kWindowCaption[window]);
+}
 
 quint8 clampToByte(int value)
 {
@@ -136,9 +150,20 @@ bool intersect(int a, int b, int c, int d)
     return (c <= a && a <= d) || (c <= b && b <= d) || (a < c && c < b && a < d && d < b);
 }
 
-QStringList overlapLines(const ConfigImage &image)
+bool windowsOverlap(const quint8 *a, const quint8 *b)
 {
-    QStringList lines;
+    // Tested in the order of the list; the first window apart ends the pair.
+    for (int w = 0; w < kWindows; ++w) {
+        const WindowPlace &p = kWindowPlaces[kListOrder[w]];
+        if (!intersect(a[p.recordMin], a[p.recordMax], b[p.recordMin], b[p.recordMax]))
+            return false;
+    }
+    return true;
+}
+
+QList<ChannelPair> overlappingPairs(const ConfigImage &image)
+{
+    QList<ChannelPair> pairs;
     const int n = image.channelCount();
     for (int i = 0; i < n - 1; ++i) {
         const ChannelRecord &a = image.channels[std::size_t(i)];
@@ -146,19 +171,23 @@ QStringList overlapLines(const ConfigImage &image)
             continue;
         for (int j = i + 1; j < n; ++j) {
             const ChannelRecord &b = image.channels[std::size_t(j)];
-            if (!channelInUse(b.data()))
-                continue;
-            bool all = true;
-            for (int w = 0; w < kWindows && all; ++w) {
-                const WindowPlace &p = kWindowPlaces[kListOrder[w]];
-                all = intersect(a[std::size_t(p.recordMin)], a[std::size_t(p.recordMax)],
-                                b[std::size_t(p.recordMin)], b[std::size_t(p.recordMax)]);
-            }
-            if (all)
-                lines.append(QString::asprintf("%4d | C%4d <--> C%4d        ",
-                                               int(lines.size()) + 1, i + 1, j + 1));
+            if (channelInUse(b.data()) && windowsOverlap(a.data(), b.data()))
+                pairs.append({i + 1, j + 1});
         }
     }
+    return pairs;
+}
+
+QString overlapLine(int count, const ChannelPair &pair)
+{
+    return QString::asprintf("%4d | C%4d <--> C%4d        ", count, pair.first, pair.second);
+}
+
+QStringList overlapLines(const ConfigImage &image)
+{
+    QStringList lines;
+    for (const ChannelPair &pair : overlappingPairs(image))
+        lines.append(overlapLine(int(lines.size()) + 1, pair));
     return lines;
 }
 

@@ -50,6 +50,9 @@ struct Window
 };
 using Windows = std::array<Window, kWindows>;
 
+// The caption of a window in measurement order ("HFU low" ... "AMP"), translated.
+QString windowCaption(int window);
+
 // A signed sum held to 0..255.
 quint8 clampToByte(int value);
 
@@ -101,7 +104,20 @@ inline constexpr int kMinimumReferenceWidth = 4;
 
 // Windows [a, b] and [c, d] share a value.
 bool intersect(int a, int b, int c, int d);
-// Pairs of channels in use whose windows intersect on all seven measurements, as listed.
+// Two channels (1-based), the first below the second.
+struct ChannelPair
+{
+    int first = 0;
+    int second = 0;
+    bool operator==(const ChannelPair &) const = default;
+};
+// The two records' windows intersect on all seven measurements (touching ones too).
+bool windowsOverlap(const quint8 *a, const quint8 *b);
+// Pairs of channels in use whose windows overlap, in the order of the overlap list.
+QList<ChannelPair> overlappingPairs(const ConfigImage &image);
+// One line of the overlap list: the running count, then the pair.
+QString overlapLine(int count, const ChannelPair &pair);
+// The overlapping pairs as listed.
 QStringList overlapLines(const ConfigImage &image);
 // The channels whose windows, widened by the margins, hold a sample, as listed.
 QStringList analysisLines(const ConfigImage &image, const SampleBytes &sample,

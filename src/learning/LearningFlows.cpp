@@ -131,11 +131,10 @@ void checkOverlap(const ConfigImage &image, const LearningContext &context)
     // Nothing has been read yet: there is nothing to compare.
     if (image == ConfigImage::blank())
         return;
-    const QStringList lines = overlapLines(image);
-    if (lines.isEmpty())
+    if (overlappingPairs(image).isEmpty())
         tell(context, Msg::NoOverlapping);
     else if (context.windows)
-        context.windows->showOverlap(lines);
+        context.windows->showOverlap(image);
 }
 
 } // namespace LearningFlows

@@ -22,8 +22,8 @@ public:
     virtual void runChannelToAdjust(CAdjustModel &model) = 0;
     // The reference channel notice.
     virtual void showReferenceNotice() = 0;
-    // The overlapped channels list.
-    virtual void showOverlap(const QStringList &lines) = 0;
+    // The overlapped channels list beside the windows chart of the configuration.
+    virtual void showOverlap(const ConfigImage &image) = 0;
 };
 
 // What the procedures work with besides the link and the image.

@@ -12,12 +12,21 @@ const QString kOkButton = QStringLiteral("BtnOK");
 
 // ---- overlapped channels ------------------------------------------------------------------
 
-SuperpositionModel::SuperpositionModel(const QStringList &lines, UserPrompt *prompt)
-    : FormModel("TFormSuperposition", prompt)
+SuperpositionModel::SuperpositionModel(const ConfigImage &image, UserPrompt *prompt)
+    : FormModel("TFormSuperposition", prompt), m_chart(image)
 {
     c().add(QStringLiteral("TFormSuperposition"), ControlKind::Label);
     addList(kList);
+    // The list's lines and the chart's pairs are the same pairs in the same order.
+    QStringList lines;
+    for (const ChannelPair &pair : m_chart.overlaps())
+        lines.append(overlapLine(int(lines.size()) + 1, pair));
     c().setItems(kList, lines);
+    // The window opens with the first pair picked out.
+    if (!lines.isEmpty()) {
+        c().setItemIndex(kList, 0);
+        m_chart.highlight(pairAt(0));
+    }
     c().add(kCount, ControlKind::Label);
     c().add(kOkButton, ControlKind::Button);
     retranslate();
@@ -37,6 +46,22 @@ void SuperpositionModel::clicked(const QString &name)
 {
     if (name == kOkButton)
         close(true);
+}
+
+std::optional<ChannelPair> SuperpositionModel::pairAt(int line) const
+{
+    if (line < 0 || line >= m_chart.overlaps().size())
+        return std::nullopt;
+    return m_chart.overlaps()[line];
+}
+
+void SuperpositionModel::picked(const QString &name, int item)
+{
+    FormModel::picked(name, item);
+    if (name == kList) {
+        m_chart.highlight(pairAt(item));
+        markChanged(chartName());
+    }
 }
 
 // ---- analysis -----------------------------------------------------------------------------

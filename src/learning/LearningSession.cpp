@@ -9,6 +9,7 @@ void LearningSession::reset()
     m_windows.fill(Window{});
     m_measures.fill(255);
     m_coinCount = 0;
+    m_samples.clear();
     imported = false;
 }
 
@@ -27,6 +28,7 @@ LearningSession::Coin LearningSession::addSample(const SampleBytes &sample,
     coin.sample = sample;
     coin.first = ++m_coinCount == 1;
     m_measures = sample;
+    m_samples.append(sample);
     for (int w = 0; w < kWindows; ++w)
         coin.updates[std::size_t(w)] =
             updateWindow(m_windows[std::size_t(w)], sample[std::size_t(w)], learningFromCoins);

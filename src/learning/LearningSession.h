@@ -2,6 +2,7 @@
 
 #include "Learning.h"
 
+#include <QList>
 #include <QString>
 #include <optional>
 
@@ -22,7 +23,7 @@ public:
         reset();
     }
 
-    // Every window back to (255, 0), no measurement, no coin.
+    // Every window back to (255, 0), no measurement, no coin, no sample kept.
     void reset();
 
     // One poll of the validator: a sample when a coin was measured (the parameter byte is 1
@@ -59,6 +60,8 @@ public:
     const Windows &windows() const { return m_windows; }
     Windows &windows() { return m_windows; }
     const SampleBytes &measures() const { return m_measures; }
+    // Every sample of the current learning, oldest first.
+    const QList<SampleBytes> &samples() const { return m_samples; }
     int coinCount() const { return m_coinCount; }
     int minimumSamples() const { return m_minimumSamples; }
     void setMinimumSamples(int n) { m_minimumSamples = n; }
@@ -75,6 +78,7 @@ public:
 private:
     Windows m_windows{};
     SampleBytes m_measures{};
+    QList<SampleBytes> m_samples;
     int m_coinCount = 0;
     int m_minimumSamples;
 };

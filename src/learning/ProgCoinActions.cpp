@@ -84,6 +84,7 @@ void ProgCoinModel::BtnOKClick(bool save)
     storeLearnedChannel(m_image, k, m_result, *value,
                         c().state(QStringLiteral("CheckEnable")).checked);
     m_imageChanged = true;
+    showChart();
     if ((save || m_setup.directWrite) && m_link) {
         flush();
         LearningSession::saveToValidator(*m_link, m_image, k, m_prompt);

@@ -13,12 +13,6 @@ constexpr const char *kContext = "TFormProgCoin";
 // The windows' short names in measurement order, for the names of their panels and labels.
 constexpr const char *kWindowSuffix[kWindows] = {"HFUL", "HFUH", "DIM", "LF",
                                                  "HFLL", "HFLH", "AMP"};
-constexpr const char *kWindowCaption[kWindows] = {
-    QT_TRANSLATE_NOOP("TFormProgCoin", "HFU low"), QT_TRANSLATE_NOOP("TFormProgCoin", "HFU high"),
-    QT_TRANSLATE_NOOP("TFormProgCoin", "DIM"),     QT_TRANSLATE_NOOP("TFormProgCoin", "LF"),
-    QT_TRANSLATE_NOOP("TFormProgCoin", "HFL low"), QT_TRANSLATE_NOOP("TFormProgCoin", "HFL high"),
-    QT_TRANSLATE_NOOP("TFormProgCoin", "AMP"),
-};
 
 struct Caption
 {
@@ -149,6 +143,7 @@ void ProgCoinModel::build()
     }
     resetMarks();
     showAllWindows();
+    showChart();
 }
 
 void ProgCoinModel::retranslate()
@@ -162,7 +157,7 @@ void ProgCoinModel::retranslate()
         caption(QStringLiteral("BtnLoad"), kClear);
     c().setItems(QStringLiteral("RadioGroup3"), {tr(kPriceLines[0]), tr(kPriceLines[1])});
     for (int w = 0; w < kWindows; ++w)
-        caption(panelName(w), kWindowCaption[w]);
+        c().setText(panelName(w), windowCaption(w));
     c().setText(kForm, m_title());
     flush();
 }
@@ -233,6 +228,14 @@ void ProgCoinModel::clearState()
     }
     showAllWindows();
     showCoinCount();
+    showChart();
+}
+
+void ProgCoinModel::showChart()
+{
+    m_chart.setImage(m_image);
+    m_chart.setSamples(m_session.samples());
+    markChanged(chartName());
 }
 
 void ProgCoinModel::FormActivate()
@@ -281,6 +284,8 @@ void ProgCoinModel::addCoin(const SampleBytes &sample)
         if (!m_session.learningFromCoins)
             syncWindowsFromEdits();
         const LearningSession::Coin coin = m_session.addSample(sample, m_image);
+        m_chart.addSample(sample);
+        markChanged(chartName());
         if (coin.first && spinValue(QStringLiteral("SpinEdit1")) == 0 && !modify())
             tell(messageText(Msg::SelectChannelNumber), UserPrompt::Kind::Warning);
         showCoinCount();

@@ -2,6 +2,7 @@
 
 #include "FormModel.h"
 #include "LearningSession.h"
+#include "WindowsChartModel.h"
 
 class LearningServices;
 struct ConfigImage;
@@ -63,6 +64,11 @@ public:
     // The channel the last coin matched (1-based), 0 when none.
     int lastMatched() const { return m_lastMatched; }
 
+    // The windows chart of the configuration with the coins of this learning as ticks; its
+    // name is among the changed ones only when it changed (a coin, a stored channel).
+    const WindowsChartModel &chart() const { return m_chart; }
+    static QString chartName() { return QStringLiteral("Chart"); }
+
     void retranslate() override;
 
     // "Coin.Wav" (when the sound setting is on).
@@ -100,6 +106,7 @@ private:
     void showCoinCount();
     void showRelease();
     void clearState();
+    void showChart();
     void loadChannel(int channel);
     void syncWindowsFromEdits();
     std::optional<quint8> valueByte(int channel);
@@ -113,6 +120,7 @@ private:
     LearningServices *m_services;
     ProgCoinSetup m_setup;
     ChannelBytes m_result{};
+    WindowsChartModel m_chart;
     bool m_imageChanged = false;
     int m_lastMatched = 0;
     bool m_boundChanged = false;

@@ -170,6 +170,10 @@ constexpr Entry kTable[] = {
     {Cap::NoChanges,
      QT_TRANSLATE_NOOP("Captions",
                        "No changes since the configuration was last read, opened or written.")},
+    {Cap::ChartTitle, QT_TRANSLATE_NOOP("Captions", "Channel windows")},
+    {Cap::ChartEmpty, QT_TRANSLATE_NOOP("Captions", "No channel in use")},
+    {Cap::ChartOverlapping, QT_TRANSLATE_NOOP("Captions", "Overlapping channels:")},
+    {Cap::ChartReference, QT_TRANSLATE_NOOP("Captions", "Reference channel %d")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

@@ -173,6 +173,11 @@ enum class Cap
     // the Changes window
     Changes,
     NoChanges,
+    // the windows chart
+    ChartTitle,
+    ChartEmpty,
+    ChartOverlapping,
+    ChartReference,
     Count_
 };
 

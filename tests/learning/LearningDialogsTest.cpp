@@ -111,7 +111,11 @@ TEST(Lists, HeadersCountsAndTheReferenceNotice)
     EXPECT_EQ(analyse.control(QStringLiteral("Label1")).text, QStringLiteral("2 superposition(s)"));
     EXPECT_EQ(analyse.control(QStringLiteral("ListBox1")).items.size(), 2);
 
-    SuperpositionModel overlap({QStringLiteral("   1 | C   1 <--> C   2        ")});
+    ConfigImage twice = VirtualValidator::factoryImage(0x13, 1001);
+    twice.channels[1] = twice.channels[0];
+    SuperpositionModel overlap(twice);
+    EXPECT_EQ(overlap.control(QStringLiteral("ListBox1")).items,
+              QStringList{QStringLiteral("   1 | C   1 <--> C   2        ")});
     EXPECT_EQ(overlap.control(QStringLiteral("TFormSuperposition")).text,
               QStringLiteral("Overlapped channels list"));
     EXPECT_EQ(overlap.control(QStringLiteral("Label1")).text, QStringLiteral("1 Overlapping"));
@@ -130,7 +134,10 @@ TEST(Lists, HeadersCountsAndTheReferenceNotice)
         void runProgCoin(ProgCoinModel &) override {}
         void runChannelToAdjust(CAdjustModel &) override {}
         void showReferenceNotice() override {}
-        void showOverlap(const QStringList &l) override { lines = l; }
+        void showOverlap(const ConfigImage &image) override
+        {
+            lines = SuperpositionModel(image).control(QStringLiteral("ListBox1")).items;
+        }
         QStringList lines;
     } windows;
     RecordingPrompt prompt;

@@ -134,6 +134,32 @@ TEST(ProgCoin, TenCoinsThenOkStoreTheChannelWithTheDefaultMargins)
     EXPECT_EQ(bench.device.memory().channels, before.channels);
 }
 
+// The chart of the learning window: the coins of this learning as ticks, repainted only for a
+// coin or a stored channel, cleared with the learning.
+TEST(ProgCoin, TheChartFollowsTheCoinsOfThisLearning)
+{
+    Bench bench;
+    QStringList changed;
+    bench.form->changed = [&](const QStringList &names) { changed += names; };
+    bench.form->tick(); // no coin: nothing to repaint
+    bench.form->type(QStringLiteral("Edit1"), QStringLiteral("euro"));
+    EXPECT_FALSE(changed.contains(ProgCoinModel::chartName()));
+    EXPECT_EQ(bench.form->chart().channelsInUse(), WindowsChartModel(bench.image).channelsInUse());
+
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("10"));
+    bench.insert(CoinKind::Euro050, 3);
+    EXPECT_TRUE(changed.contains(ProgCoinModel::chartName()));
+    EXPECT_EQ(bench.form->chart().sampleCount(), 3);
+    EXPECT_EQ(bench.form->chart().bands()[2].ticks.last(), bench.session.measures()[2]);
+
+    // Too few coins: proceed; then calibrate another channel.
+    bench.prompt.setNextAnswers({Answer::Yes, Answer::Yes});
+    bench.form->click(QStringLiteral("BtnOK"));
+    ASSERT_FALSE(bench.form->closed());
+    EXPECT_TRUE(bench.form->chart().channelsInUse().contains(10));
+    EXPECT_EQ(bench.form->chart().sampleCount(), 0);
+}
+
 TEST(ProgCoin, TooFewCoinsAskFirstAndNoKeepsEverything)
 {
     Bench bench;
@@ -339,7 +365,7 @@ TEST(ProgCoin, TheChannelControlLoadsTheChannelAndRefusesAnEmptyOne)
         void runProgCoin(ProgCoinModel &model) override { run(model); }
         void runChannelToAdjust(CAdjustModel &model) override { choose(model); }
         void showReferenceNotice() override {}
-        void showOverlap(const QStringList &) override {}
+        void showOverlap(const ConfigImage &) override {}
         std::function<void(ProgCoinModel &)> run;
         std::function<void(CAdjustModel &)> choose;
     } windows;
@@ -402,7 +428,7 @@ TEST(ProgCoin, ReferenceCalibrationWithGoldenAndSilverTokens)
         void runProgCoin(ProgCoinModel &model) override { run(model); }
         void runChannelToAdjust(CAdjustModel &) override {}
         void showReferenceNotice() override { ++notices; }
-        void showOverlap(const QStringList &) override {}
+        void showOverlap(const ConfigImage &) override {}
         std::function<void(ProgCoinModel &)> run;
         int notices = 0;
     } windows;

@@ -24,7 +24,7 @@ check() { # check NAME COMMAND...
 }
 
 dpkg-deb -f "$deb" Depends >"$scratch/depends"
-for lib in libqt6core6 libqt6gui6 libqt6widgets6 libqt6serialport6 libqt6multimedia6; do
+for lib in libqt6core6 libqt6gui6 libqt6widgets6 libqt6serialport6 libqt6multimedia6 libqt6svg6; do
   check "depends on $lib" grep -q "\b$lib\b" "$scratch/depends"
 done
 
@@ -63,6 +63,8 @@ check "tarvik-sim --version" sh -c "'$root/usr/bin/tarvik-sim' --version | grep 
 check "tarvik --version without a display" \
   sh -c "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM '$root/usr/bin/tarvik' --version | grep -qx 'tarvik $version'"
 check "tarvik-cli --simulate read" sh -c "cd '$scratch' && '$root/usr/bin/tarvik-cli' --simulate read -o v.json && grep -q '\"channels\"' v.json"
+check "tarvik-cli overlap --chart without a display" \
+  sh -c "cd '$scratch' && env -u DISPLAY -u WAYLAND_DISPLAY '$root/usr/bin/tarvik-cli' overlap v.json --chart c.svg && grep -q '<svg' c.svg"
 smoke() {
   QT_QPA_PLATFORM=offscreen timeout 60 "$root/usr/bin/tarvik" --smoke >"$scratch/smoke" 2>&1 || {
     cat "$scratch/smoke"

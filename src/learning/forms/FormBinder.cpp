@@ -111,6 +111,10 @@ QWidget *FormBinder::make(const Control &control, QWidget *parent)
         } else if (m_model.isList(name)) {
             auto *list = new QListWidget(parent);
             list->setSelectionMode(QAbstractItemView::SingleSelection);
+            connect(list, &QListWidget::currentRowChanged, this, [this, name](int row) {
+                if (row >= 0)
+                    act([&] { m_model.pick(name, row); });
+            });
             widget = list;
         } else {
             widget = new QWidget(parent);
@@ -174,8 +178,15 @@ void FormBinder::apply(const Control &control, QWidget *widget)
         slider->setValue(bar.position);
         slider->setSelection(bar.selectionStart, bar.selectionEnd);
     } else if (auto *list = qobject_cast<QListWidget *>(widget)) {
-        list->clear();
-        list->addItems(s.items);
+        QStringList shown;
+        for (int row = 0; row < list->count(); ++row)
+            shown.append(list->item(row)->text());
+        if (shown != s.items) {
+            list->clear();
+            list->addItems(s.items);
+        }
+        if (s.itemIndex >= 0 && s.itemIndex < list->count())
+            list->setCurrentRow(s.itemIndex);
     } else if (auto *text = qobject_cast<QPlainTextEdit *>(widget)) {
         const QString joined = s.items.join(u'\n');
         if (text->toPlainText() != joined)

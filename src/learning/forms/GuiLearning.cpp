@@ -38,9 +38,9 @@ void GuiLearningWindows::showReferenceNotice()
     (new TFormRefChannel(m_parent))->exec();
 }
 
-void GuiLearningWindows::showOverlap(const QStringList &lines)
+void GuiLearningWindows::showOverlap(const ConfigImage &image)
 {
-    (new TFormSuperposition(lines, m_parent))->exec();
+    (new TFormSuperposition(image, m_parent))->exec();
 }
 
 // ---- services -----------------------------------------------------------------------------

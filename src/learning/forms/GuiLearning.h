@@ -18,7 +18,7 @@ public:
     void runProgCoin(ProgCoinModel &model) override;
     void runChannelToAdjust(CAdjustModel &model) override;
     void showReferenceNotice() override;
-    void showOverlap(const QStringList &lines) override;
+    void showOverlap(const ConfigImage &image) override;
 
 private:
     QPointer<QWidget> m_parent;

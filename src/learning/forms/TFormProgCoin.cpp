@@ -3,6 +3,7 @@
 #include "FormBinder.h"
 #include "ProgCoinModel.h"
 #include "TTarvikAnalyse.h"
+#include "WindowsChartView.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -32,7 +33,13 @@ TFormProgCoin::TFormProgCoin(ProgCoinModel &model, QWidget *parent)
     setObjectName(QStringLiteral("TFormProgCoin"));
     build();
     m_binder->bindWindow(QStringLiteral("TFormProgCoin"), this);
-    m_model.changed = [this](const QStringList &names) { m_binder->show(names); };
+    // The chart repaints only when a coin came or a channel was stored: the ticks without a
+    // coin stay cheap.
+    m_model.changed = [this](const QStringList &names) {
+        m_binder->show(names);
+        if (names.contains(ProgCoinModel::chartName()))
+            m_chart->update();
+    };
     m_model.closeRequested = [this](bool accepted) { done(accepted ? Accepted : Rejected); };
     m_model.focusRequested = [this](const QString &name) {
         if (QWidget *widget = m_binder->widget(name))
@@ -112,6 +119,11 @@ void TFormProgCoin::build()
         windows->addWidget(panel);
     }
     column->addLayout(windows);
+
+    // Every channel's windows with this learning's coins over them.
+    m_chart = new WindowsChartView(m_model.chart(), this);
+    m_chart->setMinimumHeight(280);
+    column->addWidget(m_chart, 1);
 
     column->addLayout(
         line(b, this,

@@ -8,6 +8,7 @@
 class FormBinder;
 class ProgCoinModel;
 class QTimer;
+class WindowsChartView;
 
 // "Coin calibration": the coin learning window over ProgCoinModel. It builds one widget per
 // control, named after it, forwards typing, leaving and clicks, repaints what the model reports
@@ -23,6 +24,7 @@ public:
     ProgCoinModel &model() { return m_model; }
     // The analysis list of the last coin, while it is open.
     TTarvikAnalyse *analysis() const { return m_analysis; }
+    WindowsChartView *chart() const { return m_chart; }
 
     // Escape and the close button cancel, as "&Cancel" does.
     void reject() override;
@@ -40,5 +42,6 @@ private:
     ProgCoinModel &m_model;
     FormBinder *m_binder;
     QTimer *m_timer;
+    WindowsChartView *m_chart = nullptr;
     QPointer<TTarvikAnalyse> m_analysis;
 };

@@ -12,6 +12,7 @@
 #include "TTarvikTolerance.h"
 #include "ToleranceModel.h"
 #include "VirtualValidator.h"
+#include "WindowsChartView.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -61,6 +62,11 @@ private Q_SLOTS:
         auto *coins = form.findChild<QLabel *>("LabelCoins");
         QVERIFY(QTest::qWaitFor([&] { return coins->text() == QLatin1String("10"); }, 20000));
         QVERIFY(prompt.all().isEmpty());
+        // The chart under the windows carries the ten coins as ticks.
+        auto *chart = form.findChild<WindowsChartView *>(QStringLiteral("WindowsChart"));
+        QVERIFY(chart && chart->isVisible());
+        QCOMPARE(chart->model().sampleCount(), 10);
+        QCOMPARE(chart->model().bands()[0].ticks.size(), 10);
 
         // Every window shows the smallest and largest reading, its track bar the same range.
         for (int w = 0; w < kWindows; ++w) {
