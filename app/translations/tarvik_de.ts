@@ -620,8 +620,6 @@
         <translation>Änderungen</translation>
     </message>
     <message>
-        <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>Keine Änderungen seit dem letzten Lesen, Öffnen oder Schreiben der Konfiguration.</translation>
         <source>Channel windows</source>
         <translation>Fenster der Kanäle</translation>
     </message>
@@ -636,6 +634,10 @@
     <message>
         <source>Reference channel %d</source>
         <translation>Referenzkanal %d</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>Keine Änderungen seit dem letzten Lesen, Öffnen oder Schreiben der Konfiguration.</translation>
     </message>
 </context>
 <context>

@@ -620,8 +620,6 @@
         <translation>Changes</translation>
     </message>
     <message>
-        <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>No changes since the configuration was last read, opened or written.</translation>
         <source>Channel windows</source>
         <translation>Channel windows</translation>
     </message>
@@ -636,6 +634,10 @@
     <message>
         <source>Reference channel %d</source>
         <translation>Reference channel %d</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>No changes since the configuration was last read, opened or written.</translation>
     </message>
 </context>
 <context>

@@ -620,8 +620,6 @@
         <translation>Modifications</translation>
     </message>
     <message>
-        <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>Aucune modification depuis la dernière lecture, ouverture ou écriture de la configuration.</translation>
         <source>Channel windows</source>
         <translation>Fenêtres des canaux</translation>
     </message>
@@ -636,6 +634,10 @@
     <message>
         <source>Reference channel %d</source>
         <translation>Canal de référence %d</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>Aucune modification depuis la dernière lecture, ouverture ou écriture de la configuration.</translation>
     </message>
 </context>
 <context>

@@ -620,8 +620,6 @@
         <translation>Modifiche</translation>
     </message>
     <message>
-        <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
         <source>Channel windows</source>
         <translation>Finestre dei canali</translation>
     </message>
@@ -636,6 +634,10 @@
     <message>
         <source>Reference channel %d</source>
         <translation>Canale di riferimento %d</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
     </message>
 </context>
 <context>
