@@ -158,6 +158,17 @@ enum class Cap
     HelpContents,
     HelpPrevious,
     HelpNext,
+    // the configuration sheet
+    PrintSheet,
+    SaveSheetPdf,
+    SheetTitle,
+    SheetChannels,
+    SheetChannel,
+    SheetNoChannel,
+    SheetNoOption,
+    SheetChart,
+    SheetPrinted,
+    SheetPage,
     Count_
 };
 

@@ -127,6 +127,7 @@ enum class Msg
     RepairIndexUnusable,
     SettingsUnreadable,
     FileNotReadable,
+    SheetNotWritten,
     Count_
 };
 

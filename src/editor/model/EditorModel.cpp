@@ -28,7 +28,8 @@ constexpr Button kButtons[] = {
     {"BtnLearn", Cap::CoinLearning, true},      {"BtnReference", Cap::ReferenceCalibration, true},
     {"BtnControl", Cap::ChannelControl, true},  {"BtnOverlap", Cap::OverlapCheck, false},
     {"BtnCopy", Cap::CopyTitle, false},         {"BtnValues", Cap::ValuesTable, false},
-    {"BtnSaved", Cap::SavedValidators, false},  {"BitBtn1", Cap::Close, false},
+    {"BtnSaved", Cap::SavedValidators, false},  {"BtnPrint", Cap::PrintSheet, false},
+    {"BtnPdf", Cap::SaveSheetPdf, false},       {"BitBtn1", Cap::Close, false},
 };
 
 bool isLearningButton(const QString &name)
@@ -78,6 +79,8 @@ EditorModel::EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeu
     c.setVisible(QStringLiteral("BtnSaved"), services && services->savedValidatorsAvailable());
     for (const char *name : {"BtnLearn", "BtnReference", "BtnControl", "BtnOverlap"})
         c.setVisible(QLatin1String(name), services && services->learningAvailable());
+    // The sheet is printed once the editor holds a configuration.
+    showSheetButtons();
     c.add(QStringLiteral("Gauge1"), ControlKind::Gauge);
     c.add(QStringLiteral("Label3"), ControlKind::Label);
     c.setVisible(QStringLiteral("Gauge1"), false);
@@ -163,9 +166,17 @@ void EditorModel::showPagesOfImage()
         m_grid.showPage(page);
 }
 
+void EditorModel::showSheetButtons()
+{
+    for (const char *name : {"BtnPrint", "BtnPdf"})
+        m_s.controls.setEnabled(QLatin1String(name), m_holdsConfiguration);
+}
+
 void EditorModel::loadImage(const ConfigImage &image, bool modified)
 {
     m_s.image = image;
+    m_holdsConfiguration = true;
+    showSheetButtons();
     m_money.takeFromImage();
     m_counters.takeFromImage();
     showModel(image.isLight());
@@ -250,6 +261,8 @@ void EditorModel::SpeedButton1Click()
         }
         m_s.flags.readOnOpen = false;
         m_s.flags.editChanged = false;
+        m_holdsConfiguration = true;
+        showSheetButtons();
         m_money.takeFromImage();
         m_counters.takeFromImage();
         display();
@@ -427,6 +440,10 @@ bool EditorModel::click(const QString &name, QString *error)
         BtnOutputClick();
     } else if (name == QLatin1String("BtnCopy")) {
         BtnCopyClick();
+    } else if (name == QLatin1String("BtnPrint")) {
+        BtnPrintClick();
+    } else if (name == QLatin1String("BtnPdf")) {
+        BtnPdfClick();
     } else if (name == QLatin1String("BtnValues")) {
         exclusive([&] {
             EHFUBMIN0Exit();

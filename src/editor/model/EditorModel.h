@@ -2,6 +2,7 @@
 
 #include "ChannelCopyModel.h"
 #include "ChannelGridModel.h"
+#include "ConfigSheet.h"
 #include "CountersModel.h"
 #include "EditorState.h"
 #include "IdentityModel.h"
@@ -74,6 +75,12 @@ public:
     // The channel copy dialog's model; copies act on this editor's image.
     ChannelCopyModel &channelCopy() { return m_copy; }
     void BtnCopyClick();
+    // The configuration sheet of what the editor shows: "Print..." and "Save as PDF...", enabled
+    // once the editor holds a configuration (read or loaded).
+    void BtnPrintClick();
+    void BtnPdfClick();
+    bool holdsConfiguration() const { return m_holdsConfiguration; }
+    SheetOptions sheetOptions() const;
     // Coin learning, reference calibration, channel control and the overlap check.
     void learningClick(const QString &button);
 
@@ -103,6 +110,7 @@ private:
     void exitBox(const QString &name);
     bool clickSetting(const QString &name);
     void pickType(int item);
+    void showSheetButtons();
 
     EditorState m_s;
     EditorServices *m_services;
@@ -115,4 +123,5 @@ private:
     SerialTestModel m_test;
     ChannelCopyModel m_copy;
     bool m_busy = false;
+    bool m_holdsConfiguration = false;
 };

@@ -1,0 +1,76 @@
+// "Print..." and "Save as PDF..." on the editor window over the in-process virtual validator,
+// driven by the buttons' names.
+#include "Captions.h"
+#include "EditorModel.h"
+#include "GuiEditorServices.h"
+#include "Messages.h"
+#include "PdfText.h"
+#include "RecordingPrompt.h"
+#include "SimTransport.h"
+#include "TFormData.h"
+#include "VirtualValidator.h"
+
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class SheetFormTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale::c()); }
+
+    void saveAsPdfWritesTheSheetOfTheValidatorRead()
+    {
+        QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("sheet.pdf"));
+        VirtualValidator device(0x13, 24680);
+        SimTransport port(&device);
+        port.setLatencyMs(0);
+        RecordingPrompt prompt;
+        TMonnayeur link(&port, &prompt);
+        GuiEditorServices services(prompt, nullptr);
+        TFormData form(prompt, services, &link);
+        services.setWindow(&form);
+        auto *pdf = form.findChild<QPushButton *>(QStringLiteral("BtnPdf"));
+        auto *print = form.findChild<QPushButton *>(QStringLiteral("BtnPrint"));
+        QVERIFY(pdf && print);
+        QCOMPARE(pdf->accessibleName(), captionText(Cap::SaveSheetPdf));
+        QCOMPARE(print->accessibleName(), captionText(Cap::PrintSheet));
+        // Before the read the editor holds no configuration.
+        QVERIFY(!pdf->isEnabled());
+        QVERIFY(!print->isEnabled());
+
+        form.model().flags().readOnOpen = true;
+        form.show();
+        QVERIFY(QTest::qWaitFor([&] { return form.hasOpened(); }));
+        QVERIFY(pdf->isEnabled());
+        QVERIFY(print->isEnabled());
+
+        // A value typed and not yet left is on the sheet: the button stores the box first.
+        form.model().type(QStringLiteral("EIdent"), QStringLiteral("SHOP-7"));
+        form.model().type(QStringLiteral("Sub2"), QStringLiteral("9"));
+        GuiEditorServices::setNextSaveFileName(file);
+        QTest::mouseClick(pdf, Qt::LeftButton);
+        QVERIFY(prompt.told().isEmpty());
+        const QString text = pdfText(file);
+        QVERIFY(text.contains(QStringLiteral("24680")));
+        QVERIFY(text.contains(QStringLiteral("SHOP-7")));
+        QCOMPARE(form.model().image().channels[2][Rec::Substitute], 9);
+        QVERIFY(!pdfChannelRows(text).isEmpty());
+
+        // Cancelling the dialog writes nothing.
+        QFile::remove(file);
+        GuiEditorServices::setNextSaveFileName(QString());
+        QTest::mouseClick(pdf, Qt::LeftButton);
+        QVERIFY(!QFile::exists(file));
+        QVERIFY(prompt.told().isEmpty());
+
+        form.model().flags().configModified = false;
+        QVERIFY(form.close());
+    }
+};
+
+QTEST_MAIN(SheetFormTest)
+#include "SheetFormTest.moc"
