@@ -10,6 +10,9 @@
 #include "TFormData.h"
 #include "VirtualValidator.h"
 
+#include <QApplication>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -21,7 +24,7 @@ class SheetFormTest : public QObject
 private Q_SLOTS:
     void init() { QLocale::setDefault(QLocale::c()); }
 
-    void saveAsPdfWritesTheSheetOfTheValidatorRead()
+    void theSheetIsSavedAsPdfAndPreviewedForPrinting()
     {
         QTemporaryDir dir;
         const QString file = dir.filePath(QStringLiteral("sheet.pdf"));
@@ -65,6 +68,21 @@ private Q_SLOTS:
         GuiEditorServices::setNextSaveFileName(QString());
         QTest::mouseClick(pdf, Qt::LeftButton);
         QVERIFY(!QFile::exists(file));
+        QVERIFY(prompt.told().isEmpty());
+
+        // "Print..." shows the sheet in the print preview, from which the printer is chosen.
+        int previewPages = -1;
+        QTimer::singleShot(0, &form, [&] {
+            QTRY_VERIFY(QApplication::activeModalWidget());
+            auto *preview = qobject_cast<QPrintPreviewDialog *>(QApplication::activeModalWidget());
+            QVERIFY(preview);
+            auto *pages = preview->findChild<QPrintPreviewWidget *>();
+            QTRY_VERIFY(pages && pages->pageCount() > 0);
+            previewPages = pages->pageCount();
+            preview->reject();
+        });
+        QTest::mouseClick(print, Qt::LeftButton);
+        QCOMPARE(previewPages, 1);
         QVERIFY(prompt.told().isEmpty());
 
         form.model().flags().configModified = false;
