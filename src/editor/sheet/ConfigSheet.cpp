@@ -22,6 +22,11 @@ constexpr double kChannelRow = 9.7;
 constexpr double kSettingRow = 11.0;
 constexpr double kChartHeight = 250.0;
 constexpr int kSettingColumns = 3;
+// The channel row: its number, the fourteen window boxes, enable, value and substitute.
+constexpr int kWindowBoxes = 14;
+constexpr std::size_t kEnableCell = 1 + kWindowBoxes;
+constexpr std::size_t kValueCell = kEnableCell + 1;
+constexpr std::size_t kSubCell = kValueCell + 1;
 
 // Widths of the channel table's columns besides the fourteen windows.
 constexpr double kNumberColumn = 34.0;
@@ -201,7 +206,7 @@ private:
     std::vector<QRectF> columns(double y, double height) const
     {
         const double fixed = pt(kNumberColumn + kEnableColumn + kValueColumn + kSubColumn);
-        const double window = (m_area.width() - fixed) / 14;
+        const double window = (m_area.width() - fixed) / kWindowBoxes;
         std::vector<QRectF> out;
         double x = m_area.left();
         auto add = [&](double width) {
@@ -209,7 +214,7 @@ private:
             x += width;
         };
         add(pt(kNumberColumn));
-        for (int i = 0; i < 14; ++i)
+        for (int i = 0; i < kWindowBoxes; ++i)
             add(window);
         add(pt(kEnableColumn));
         add(pt(kValueColumn));
@@ -268,12 +273,12 @@ private:
                 shade(QRectF(m_area.left(), m_y, m_area.width(), pt(kChannelRow)));
             const int right = Qt::AlignRight | Qt::AlignVCenter;
             text(cells[0].adjusted(0, 0, -pt(6), 0), bold, right, QString::number(channel.number));
-            for (int i = 0; i < 14 && i < channel.windows.size(); ++i)
+            for (int i = 0; i < kWindowBoxes && i < channel.windows.size(); ++i)
                 text(cells[std::size_t(1 + i)].adjusted(0, 0, -pt(4), 0), font, right,
                      channel.windows.at(i));
-            checkBox(cells[15].center(), channel.enabled);
-            text(cells[16].adjusted(0, 0, -pt(4), 0), bold, right, channel.value);
-            text(cells[17].adjusted(0, 0, -pt(4), 0), font, right, channel.substitute);
+            checkBox(cells[kEnableCell].center(), channel.enabled);
+            text(cells[kValueCell].adjusted(0, 0, -pt(4), 0), bold, right, channel.value);
+            text(cells[kSubCell].adjusted(0, 0, -pt(4), 0), font, right, channel.substitute);
             m_y += pt(kChannelRow);
         }
         rule(m_y, m_area.left(), m_area.right(), kInk);
