@@ -114,20 +114,28 @@ TEST_F(Sheet, ThePdfSaysWhatTheEditorShows)
     EXPECT_EQ(pdfChannelRows(pdfText(services.printedTo)).keys(), inUse);
 }
 
-TEST_F(Sheet, ALightValidatorListsAtMost25Channels)
+TEST_F(Sheet, TheChannelsListedAreThoseOfTheModel)
 {
-    ConfigImage image = VirtualValidator::factoryImage(0x33, 4242);
-    // Records past the 25th are carried in the image but are not the validator's.
-    for (std::size_t k = 0; k < 60; ++k)
-        image.channels[k] = image.channels[0];
-    EditorModel editor(&prompt, &services);
-    editor.loadImage(image, false);
-    const SheetContent content = sheetContent(editor);
-    ASSERT_EQ(content.channels.size(), 25);
-    EXPECT_EQ(content.channels.last().number, 25);
-    const QMap<int, QStringList> rows = pdfChannelRows(savedSheet(editor));
-    ASSERT_EQ(rows.size(), 25);
-    EXPECT_EQ(rows.lastKey(), 25);
+    // Records past the 25th of a Light validator are carried in the image but are not the
+    // validator's.
+    for (quint8 family : {quint8(0x33), quint8(0x13)}) {
+        ConfigImage image = VirtualValidator::factoryImage(family, 4242);
+        for (std::size_t k = 0; k < 60; ++k)
+            image.channels[k] = image.channels[0];
+        EditorModel editor(&prompt, &services);
+        editor.loadImage(image, false);
+        const int count = image.channelCount();
+        const SheetContent content = sheetContent(editor);
+        ASSERT_EQ(content.channels.size(), count);
+        EXPECT_EQ(content.channels.last().number, count);
+        const QMap<int, QStringList> rows = pdfChannelRows(savedSheet(editor));
+        ASSERT_EQ(rows.size(), count);
+        EXPECT_EQ(rows.lastKey(), count);
+        // A full validator still fits on two pages.
+        services.printedTo = dir.filePath(QStringLiteral("printed.pdf"));
+        EXPECT_TRUE(editor.click(QStringLiteral("BtnPrint")));
+        EXPECT_EQ(services.pagesPrinted, count == 60 ? 2 : 1);
+    }
 }
 
 TEST_F(Sheet, ABlankConfigurationStillGivesASheet)
