@@ -959,6 +959,10 @@
         <translation>Das Blatt konnte nicht nach %s geschrieben werden: %s. Sonst wurde nichts geändert.</translation>
     </message>
     <message>
+        <source>The sheet could not be printed.</source>
+        <translation>Das Blatt konnte nicht gedruckt werden.</translation>
+    </message>
+    <message>
         <source>%s was changed by another program; open it again before changing it</source>
         <translation>%s wurde von einem anderen Programm geändert; öffnen Sie es erneut, bevor Sie es ändern</translation>
     </message>

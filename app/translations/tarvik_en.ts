@@ -959,6 +959,10 @@
         <translation>The sheet could not be written to %s: %s. Nothing else was changed.</translation>
     </message>
     <message>
+        <source>The sheet could not be printed.</source>
+        <translation>The sheet could not be printed.</translation>
+    </message>
+    <message>
         <source>%s was changed by another program; open it again before changing it</source>
         <translation>%s was changed by another program; open it again before changing it</translation>
     </message>

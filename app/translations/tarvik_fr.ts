@@ -959,6 +959,10 @@
         <translation>La fiche n&apos;a pas pu être écrite dans %s : %s. Rien d&apos;autre n&apos;a été modifié.</translation>
     </message>
     <message>
+        <source>The sheet could not be printed.</source>
+        <translation>La fiche n&apos;a pas pu être imprimée.</translation>
+    </message>
+    <message>
         <source>%s was changed by another program; open it again before changing it</source>
         <translation>%s a été modifié par un autre programme ; ouvrez-le de nouveau avant de le modifier</translation>
     </message>

@@ -959,6 +959,10 @@
         <translation>Non è stato possibile scrivere la scheda in %s: %s. Nient&apos;altro è stato modificato.</translation>
     </message>
     <message>
+        <source>The sheet could not be printed.</source>
+        <translation>Non è stato possibile stampare la scheda.</translation>
+    </message>
+    <message>
         <source>%s was changed by another program; open it again before changing it</source>
         <translation>%s è stato modificato da un altro programma; aprirlo di nuovo prima di modificarlo</translation>
     </message>

@@ -218,6 +218,7 @@ constexpr Entry kTable[] = {
     {Msg::SheetNotWritten,
      QT_TRANSLATE_NOOP("Messages", "The sheet could not be written to %s: %s. Nothing else was "
                                    "changed.")},
+    {Msg::SheetNotPrinted, QT_TRANSLATE_NOOP("Messages", "The sheet could not be printed.")},
 };
 
 } // namespace

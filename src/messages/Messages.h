@@ -128,6 +128,7 @@ enum class Msg
     SettingsUnreadable,
     FileNotReadable,
     SheetNotWritten,
+    SheetNotPrinted,
     Count_
 };
 

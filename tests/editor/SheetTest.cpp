@@ -185,6 +185,12 @@ TEST_F(Sheet, ASheetThatCannotBeWrittenSaysSoAndChangesNothing)
         messageText(Msg::SheetNotWritten, {dir.path(), QString()}).section(u':', 0, 0)));
     EXPECT_EQ(editor.image(), before);
     EXPECT_FALSE(editor.flags().configModified);
+    // A printer that cannot be drawn on says so too.
+    prompt.clear();
+    services.printedTo = dir.filePath(QStringLiteral("no/such/printer.pdf"));
+    EXPECT_TRUE(editor.click(QStringLiteral("BtnPrint")));
+    EXPECT_EQ(services.pagesPrinted, 0);
+    EXPECT_EQ(prompt.told(), QStringList{messageText(Msg::SheetNotPrinted)});
 
     // A sheet written over an older one replaces it whole.
     const QString file = dir.filePath(QStringLiteral("old.pdf"));

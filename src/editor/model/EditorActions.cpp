@@ -212,8 +212,12 @@ void EditorModel::BtnPrintClick()
         EHFUBMIN0Exit();
         const SheetContent content = sheetContent(*this);
         const SheetOptions options = sheetOptions();
-        m_services->printSheet(
-            [&](QPagedPaintDevice &printer) { return paintSheet(printer, content, options); });
+        m_services->printSheet([&](QPagedPaintDevice &printer) {
+            const int pages = paintSheet(printer, content, options);
+            if (pages == 0 && m_s.prompt)
+                m_s.prompt->tell(messageText(Msg::SheetNotPrinted), UserPrompt::Kind::Error);
+            return pages;
+        });
     });
 }
 
