@@ -94,10 +94,25 @@ void ScreenshotTour::start(TFormData &editor)
     typeInEditor(QStringLiteral("EIdent"), QStringLiteral("SHOP-12"));
     typeInEditor(QStringLiteral("EDescription"), QStringLiteral("Bar du Port, machine 2"));
     editor.model().click(QStringLiteral("SpeedButton4"));
+    pictureSheet();
 
     buildSteps();
     m_poll.start();
     beginStep();
+}
+
+void ScreenshotTour::pictureSheet()
+{
+    // The first page of the configuration sheet, as "Print..." draws it.
+    const QString file = QDir(m_directory).filePath(QStringLiteral("sheet.png"));
+    const EditorModel &model = m_editor->model();
+    if (!sheetPageImage(sheetContent(model), model.sheetOptions(), 1).save(file)) {
+        std::fprintf(stderr, "tarvik: screenshots: cannot write %s\n", qPrintable(file));
+        m_missing.append(QStringLiteral("sheet"));
+        return;
+    }
+    std::printf("tarvik: screenshots: %s\n", qPrintable(file));
+    std::fflush(stdout);
 }
 
 void ScreenshotTour::typeInEditor(const QString &control, const QString &text)

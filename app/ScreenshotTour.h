@@ -68,6 +68,7 @@ private:
     QWidget *shownWindow(const QString &objectName) const;
     void click(const QString &window, const QString &button);
     void typeInEditor(const QString &control, const QString &text);
+    void pictureSheet();
 
     QString m_directory;
     TFormMain *m_main;

@@ -116,8 +116,11 @@ void registerLearnCommands(CliCommandTable &table);
 void registerValueCommands(CliCommandTable &table);
 void registerRepairCommands(CliCommandTable &table);
 void registerDiffCommands(CliCommandTable &table);
+void registerSheetCommands(CliCommandTable &table);
 
 // Runs tarvik-cli with the arguments after the program name.
 int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
            bool progressToTerminal = false);
 QString cliUsage(const CliCommandTable &table);
+// The command the arguments name, after the global options; empty when there is none.
+QString cliCommandName(const QStringList &arguments);

@@ -68,6 +68,14 @@ bool parseGlobal(QStringList &args, GlobalOptions &o, QString &error)
 
 } // namespace
 
+QString cliCommandName(const QStringList &arguments)
+{
+    QStringList args = arguments;
+    GlobalOptions options;
+    QString error;
+    return parseGlobal(args, options, error) && !args.isEmpty() ? args.first() : QString();
+}
+
 QString cliUsage(const CliCommandTable &table)
 {
     QString text =
@@ -93,6 +101,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerValueCommands(table);
     registerRepairCommands(table);
     registerDiffCommands(table);
+    registerSheetCommands(table);
 
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {

@@ -1,7 +1,6 @@
 #include "CliContext.h"
 #include "Settings.h"
 
-#include <QCoreApplication>
 #include <QGuiApplication>
 #include <cstdio>
 #include <memory>
@@ -9,16 +8,23 @@
 
 int main(int argc, char *argv[])
 {
-    // A chart is drawn with fonts, which need a graphical application: it runs offscreen, so
-    // that no display is needed. The other commands keep to a core application.
-    bool drawing = false;
+    QStringList arguments;
     for (int i = 1; i < argc; ++i)
-        drawing = drawing || qstrcmp(argv[i], "--chart") == 0;
-    if (drawing)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    // The configuration sheet and the windows chart draw, and need fonts: they run on the
+    // offscreen platform (the command line shows no window), with or without a display. The
+    // other commands stay away from the graphical system.
+    const QString command = cliCommandName(arguments);
+    const bool drawing = command == QLatin1String("sheet") ||
+                         (command == QLatin1String("overlap") &&
+                          arguments.contains(QLatin1String("--chart")));
+    std::unique_ptr<QCoreApplication> app;
+    if (drawing) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    const std::unique_ptr<QCoreApplication> app =
-        drawing ? std::make_unique<QGuiApplication>(argc, argv)
-                : std::make_unique<QCoreApplication>(argc, argv);
+        app = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        app = std::make_unique<QCoreApplication>(argc, argv);
+    }
     QCoreApplication::setOrganizationName(QStringLiteral("Brunfeld"));
     QCoreApplication::setApplicationName(QStringLiteral("Tarvik"));
     // The separators and date order the technician chose, else the system locale's.

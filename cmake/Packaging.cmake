@@ -18,6 +18,8 @@ set(CPACK_PACKAGE_CONTACT "Tarvik maintainers <tarvik@brunfeld.invalid>")
 set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The configuration sheet is drawn in DejaVu Sans, whatever fonts the system has besides.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_STRIP_FILES ON)
 # The user guide's pictures, the manual page and the desktop entry sit in the usual places;

@@ -622,6 +622,24 @@
     <message>
         <source>Channel windows</source>
         <translation>Fenster der Kanäle</translation>
+        <source>Print...</source>
+        <translation>Drucken...</translation>
+    </message>
+    <message>
+        <source>Save as PDF...</source>
+        <translation>Als PDF speichern...</translation>
+    </message>
+    <message>
+        <source>Configuration sheet</source>
+        <translation>Konfigurationsblatt</translation>
+    </message>
+    <message>
+        <source>Channels in use</source>
+        <translation>Belegte Kanäle</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
     </message>
     <message>
         <source>No channel in use</source>
@@ -638,6 +656,20 @@
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
         <translation>Keine Änderungen seit dem letzten Lesen, Öffnen oder Schreiben der Konfiguration.</translation>
+        <source>No option switched on</source>
+        <translation>Keine Option eingeschaltet</translation>
+    </message>
+    <message>
+        <source>Windows chart</source>
+        <translation>Fensterdiagramm</translation>
+    </message>
+    <message>
+        <source>Printed on %s</source>
+        <translation>Gedruckt am %s</translation>
+    </message>
+    <message>
+        <source>Page %d of %d</source>
+        <translation>Seite %d von %d</translation>
     </message>
 </context>
 <context>
@@ -981,6 +1013,14 @@
     <message>
         <source>The file %s could not be read.</source>
         <translation>Die Datei %s konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The sheet could not be written to %s: %s. Nothing else was changed.</source>
+        <translation>Das Blatt konnte nicht nach %s geschrieben werden: %s. Sonst wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The sheet could not be printed.</source>
+        <translation>Das Blatt konnte nicht gedruckt werden.</translation>
     </message>
     <message>
         <source>%s was changed by another program; open it again before changing it</source>

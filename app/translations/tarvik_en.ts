@@ -622,6 +622,24 @@
     <message>
         <source>Channel windows</source>
         <translation>Channel windows</translation>
+        <source>Print...</source>
+        <translation>Print...</translation>
+    </message>
+    <message>
+        <source>Save as PDF...</source>
+        <translation>Save as PDF...</translation>
+    </message>
+    <message>
+        <source>Configuration sheet</source>
+        <translation>Configuration sheet</translation>
+    </message>
+    <message>
+        <source>Channels in use</source>
+        <translation>Channels in use</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Channel</translation>
     </message>
     <message>
         <source>No channel in use</source>
@@ -638,6 +656,20 @@
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
         <translation>No changes since the configuration was last read, opened or written.</translation>
+        <source>No option switched on</source>
+        <translation>No option switched on</translation>
+    </message>
+    <message>
+        <source>Windows chart</source>
+        <translation>Windows chart</translation>
+    </message>
+    <message>
+        <source>Printed on %s</source>
+        <translation>Printed on %s</translation>
+    </message>
+    <message>
+        <source>Page %d of %d</source>
+        <translation>Page %d of %d</translation>
     </message>
 </context>
 <context>
@@ -981,6 +1013,14 @@
     <message>
         <source>The file %s could not be read.</source>
         <translation>The file %s could not be read.</translation>
+    </message>
+    <message>
+        <source>The sheet could not be written to %s: %s. Nothing else was changed.</source>
+        <translation>The sheet could not be written to %s: %s. Nothing else was changed.</translation>
+    </message>
+    <message>
+        <source>The sheet could not be printed.</source>
+        <translation>The sheet could not be printed.</translation>
     </message>
     <message>
         <source>%s was changed by another program; open it again before changing it</source>

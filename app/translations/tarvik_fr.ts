@@ -622,6 +622,24 @@
     <message>
         <source>Channel windows</source>
         <translation>Fenêtres des canaux</translation>
+        <source>Print...</source>
+        <translation>Imprimer...</translation>
+    </message>
+    <message>
+        <source>Save as PDF...</source>
+        <translation>Enregistrer en PDF...</translation>
+    </message>
+    <message>
+        <source>Configuration sheet</source>
+        <translation>Fiche de configuration</translation>
+    </message>
+    <message>
+        <source>Channels in use</source>
+        <translation>Canaux utilisés</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
     </message>
     <message>
         <source>No channel in use</source>
@@ -638,6 +656,20 @@
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
         <translation>Aucune modification depuis la dernière lecture, ouverture ou écriture de la configuration.</translation>
+        <source>No option switched on</source>
+        <translation>Aucune option activée</translation>
+    </message>
+    <message>
+        <source>Windows chart</source>
+        <translation>Graphique des fenêtres</translation>
+    </message>
+    <message>
+        <source>Printed on %s</source>
+        <translation>Imprimé le %s</translation>
+    </message>
+    <message>
+        <source>Page %d of %d</source>
+        <translation>Page %d sur %d</translation>
     </message>
 </context>
 <context>
@@ -981,6 +1013,14 @@
     <message>
         <source>The file %s could not be read.</source>
         <translation>Le fichier %s n&apos;a pas pu être lu.</translation>
+    </message>
+    <message>
+        <source>The sheet could not be written to %s: %s. Nothing else was changed.</source>
+        <translation>La fiche n&apos;a pas pu être écrite dans %s : %s. Rien d&apos;autre n&apos;a été modifié.</translation>
+    </message>
+    <message>
+        <source>The sheet could not be printed.</source>
+        <translation>La fiche n&apos;a pas pu être imprimée.</translation>
     </message>
     <message>
         <source>%s was changed by another program; open it again before changing it</source>

@@ -622,6 +622,24 @@
     <message>
         <source>Channel windows</source>
         <translation>Finestre dei canali</translation>
+        <source>Print...</source>
+        <translation>Stampa...</translation>
+    </message>
+    <message>
+        <source>Save as PDF...</source>
+        <translation>Salva come PDF...</translation>
+    </message>
+    <message>
+        <source>Configuration sheet</source>
+        <translation>Scheda di configurazione</translation>
+    </message>
+    <message>
+        <source>Channels in use</source>
+        <translation>Canali in uso</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canale</translation>
     </message>
     <message>
         <source>No channel in use</source>
@@ -638,6 +656,20 @@
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
         <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
+        <source>No option switched on</source>
+        <translation>Nessuna opzione attivata</translation>
+    </message>
+    <message>
+        <source>Windows chart</source>
+        <translation>Grafico delle finestre</translation>
+    </message>
+    <message>
+        <source>Printed on %s</source>
+        <translation>Stampato il %s</translation>
+    </message>
+    <message>
+        <source>Page %d of %d</source>
+        <translation>Pagina %d di %d</translation>
     </message>
 </context>
 <context>
@@ -981,6 +1013,14 @@
     <message>
         <source>The file %s could not be read.</source>
         <translation>Non è stato possibile leggere il file %s.</translation>
+    </message>
+    <message>
+        <source>The sheet could not be written to %s: %s. Nothing else was changed.</source>
+        <translation>Non è stato possibile scrivere la scheda in %s: %s. Nient&apos;altro è stato modificato.</translation>
+    </message>
+    <message>
+        <source>The sheet could not be printed.</source>
+        <translation>Non è stato possibile stampare la scheda.</translation>
     </message>
     <message>
         <source>%s was changed by another program; open it again before changing it</source>

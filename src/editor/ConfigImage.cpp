@@ -79,3 +79,8 @@ bool windowRecordValid(const quint8 *record)
 {
     return std::all_of(record, record + 12, [](quint8 b) { return b < 255; });
 }
+
+bool channelInUse(const quint8 *record)
+{
+    return std::all_of(record, record + 12, [](quint8 b) { return b < 255; });
+}

@@ -104,3 +104,6 @@ const char *familyText(quint8 familyByte);
 
 // A learned or stored window record is valid when each of its first 12 bytes is set.
 bool windowRecordValid(const quint8 *record);
+// A channel is in use when every window but the amplitude's is set: the overlap check and the
+// configuration sheet list only those.
+bool channelInUse(const quint8 *record);

@@ -116,11 +116,6 @@ void storeLearnedChannel(ConfigImage &image, int k, const ChannelBytes &record, 
     }
 }
 
-bool channelInUse(const quint8 *record)
-{
-    return std::all_of(record, record + 12, [](quint8 b) { return b < 255; });
-}
-
 void takeReferenceWindows(ChannelBytes &reference, const ChannelBytes &learned, TokenSet set)
 {
     auto take = [&](int w) {

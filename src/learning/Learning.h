@@ -88,9 +88,6 @@ void applyTolerances(ChannelBytes &record, const Tolerances &tolerances);
 void storeLearnedChannel(ConfigImage &image, int k, const ChannelBytes &record, quint8 value,
                          bool enabled);
 
-// A channel is in use when every window but the amplitude's is set.
-bool channelInUse(const quint8 *record);
-
 // The reference token windows: golden tokens give HFU low, LF, DIM, HFL low and amplitude,
 // silver ones HFU high and HFL high. A window narrower than 4 grows by half the shortfall on
 // each side (a half to the even neighbour), wrapping around a byte.

@@ -174,6 +174,16 @@ constexpr Entry kTable[] = {
     {Cap::ChartEmpty, QT_TRANSLATE_NOOP("Captions", "No channel in use")},
     {Cap::ChartOverlapping, QT_TRANSLATE_NOOP("Captions", "Overlapping channels:")},
     {Cap::ChartReference, QT_TRANSLATE_NOOP("Captions", "Reference channel %d")},
+    {Cap::PrintSheet, QT_TRANSLATE_NOOP("Captions", "Print...")},
+    {Cap::SaveSheetPdf, QT_TRANSLATE_NOOP("Captions", "Save as PDF...")},
+    {Cap::SheetTitle, QT_TRANSLATE_NOOP("Captions", "Configuration sheet")},
+    {Cap::SheetChannels, QT_TRANSLATE_NOOP("Captions", "Channels in use")},
+    {Cap::SheetChannel, QT_TRANSLATE_NOOP("Captions", "Channel")},
+    {Cap::SheetNoChannel, QT_TRANSLATE_NOOP("Captions", "No channel in use")},
+    {Cap::SheetNoOption, QT_TRANSLATE_NOOP("Captions", "No option switched on")},
+    {Cap::SheetChart, QT_TRANSLATE_NOOP("Captions", "Windows chart")},
+    {Cap::SheetPrinted, QT_TRANSLATE_NOOP("Captions", "Printed on %s")},
+    {Cap::SheetPage, QT_TRANSLATE_NOOP("Captions", "Page %d of %d")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

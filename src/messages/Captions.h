@@ -178,6 +178,17 @@ enum class Cap
     ChartEmpty,
     ChartOverlapping,
     ChartReference,
+    // the configuration sheet
+    PrintSheet,
+    SaveSheetPdf,
+    SheetTitle,
+    SheetChannels,
+    SheetChannel,
+    SheetNoChannel,
+    SheetNoOption,
+    SheetChart,
+    SheetPrinted,
+    SheetPage,
     Count_
 };
 

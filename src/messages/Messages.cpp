@@ -215,6 +215,10 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages", "The settings could not be read; the defaults are used until a "
                                    "setting is changed.")},
     {Msg::FileNotReadable, QT_TRANSLATE_NOOP("Messages", "The file %s could not be read.")},
+    {Msg::SheetNotWritten,
+     QT_TRANSLATE_NOOP("Messages", "The sheet could not be written to %s: %s. Nothing else was "
+                                   "changed.")},
+    {Msg::SheetNotPrinted, QT_TRANSLATE_NOOP("Messages", "The sheet could not be printed.")},
 };
 
 } // namespace

@@ -127,6 +127,8 @@ enum class Msg
     RepairIndexUnusable,
     SettingsUnreadable,
     FileNotReadable,
+    SheetNotWritten,
+    SheetNotPrinted,
     Count_
 };
 

@@ -24,7 +24,8 @@ check() { # check NAME COMMAND...
 }
 
 dpkg-deb -f "$deb" Depends >"$scratch/depends"
-for lib in libqt6core6 libqt6gui6 libqt6widgets6 libqt6serialport6 libqt6multimedia6 libqt6svg6; do
+for lib in libqt6core6 libqt6gui6 libqt6widgets6 libqt6serialport6 libqt6multimedia6 libqt6svg6 \
+  libqt6printsupport6 fonts-dejavu-core; do
   check "depends on $lib" grep -q "\b$lib\b" "$scratch/depends"
 done
 
@@ -65,6 +66,13 @@ check "tarvik --version without a display" \
 check "tarvik-cli --simulate read" sh -c "cd '$scratch' && '$root/usr/bin/tarvik-cli' --simulate read -o v.json && grep -q '\"channels\"' v.json"
 check "tarvik-cli overlap --chart without a display" \
   sh -c "cd '$scratch' && env -u DISPLAY -u WAYLAND_DISPLAY '$root/usr/bin/tarvik-cli' overlap v.json --chart c.svg && grep -q '<svg' c.svg"
+sheet() {
+  (cd "$scratch" && "$root/usr/bin/tarvik-cli" sheet v.json -o v.pdf) || return 1
+  head -c 5 "$scratch/v.pdf" | grep -q '%PDF-' || return 1
+  # In the language of the settings, when poppler-utils can read it back.
+  ! command -v pdftotext >/dev/null || pdftotext "$scratch/v.pdf" - | grep -q 'Fiche de configuration'
+}
+check "tarvik-cli sheet writes the sheet in French" sheet
 smoke() {
   QT_QPA_PLATFORM=offscreen timeout 60 "$root/usr/bin/tarvik" --smoke >"$scratch/smoke" 2>&1 || {
     cat "$scratch/smoke"

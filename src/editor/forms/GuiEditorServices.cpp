@@ -33,12 +33,36 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <utility>
 
 namespace {
 
 std::optional<QString> g_nextSaveName;
 
 const QString kConfigFilter = QStringLiteral("*.json");
+const QString kSheetFilter = QStringLiteral("*.pdf");
+
+// The name the next save dialog was told to return, taken once.
+std::optional<QString> takeNextSaveName()
+{
+    return std::exchange(g_nextSaveName, std::nullopt);
+}
+
+QString askSaveFileName(QWidget *window, const QString &caption, const QString &filter,
+                        const QString &suffix, const QString &suggested)
+{
+    if (const std::optional<QString> next = takeNextSaveName())
+        return *next;
+    QFileDialog dialog(window, caption, QString(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    dialog.selectFile(suggested);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return dialog.selectedFiles().constFirst();
+}
 
 } // namespace
 
@@ -90,18 +114,31 @@ QString GuiEditorServices::openConfigFileName()
 
 QString GuiEditorServices::saveConfigFileName(const QString &suggested)
 {
-    if (g_nextSaveName) {
-        const QString name = *g_nextSaveName;
-        g_nextSaveName.reset();
-        return name;
-    }
-    QFileDialog dialog(m_window, captionText(Cap::SaveFile), QString(), kConfigFilter);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("json"));
-    dialog.selectFile(suggested);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return {};
-    return dialog.selectedFiles().constFirst();
+    return askSaveFileName(m_window, captionText(Cap::SaveFile), kConfigFilter,
+                           QStringLiteral("json"), suggested);
+}
+
+QString GuiEditorServices::saveSheetFileName(const QString &suggested)
+{
+    return askSaveFileName(m_window, captionText(Cap::SaveSheetPdf), kSheetFilter,
+                           QStringLiteral("pdf"), suggested);
+}
+
+void GuiEditorServices::printSheet(const std::function<int(QPagedPaintDevice &)> &paint)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setDocName(captionText(Cap::SheetTitle));
+    QPrintPreviewDialog preview(&printer, m_window);
+    preview.setWindowTitle(captionText(Cap::PrintSheet));
+    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
+                     [&paint](QPrinter *chosen) { paint(*chosen); });
+    preview.exec();
+}
+
+SheetChart GuiEditorServices::sheetChart(const ConfigImage &)
+{
+    return {};
 }
 
 void GuiEditorServices::firmwareRequested(TMonnayeur &link)

@@ -56,6 +56,12 @@ public:
     bool savedValidatorsAvailable() override { return m_db != nullptr; }
     void browseSavedValidators(EditorModel &editor) override;
 
+    // The configuration sheet: its file dialog (answered by setNextSaveFileName too), the
+    // print preview with the system's print dialog, and its windows chart.
+    QString saveSheetFileName(const QString &suggested) override;
+    void printSheet(const std::function<int(QPagedPaintDevice &)> &paint) override;
+    SheetChart sheetChart(const ConfigImage &image) override;
+
 private:
     // Runs a learning procedure with the windows and the settings as they are now.
     template <typename Flow> auto withLearning(const ConfigImage &image, Flow flow);

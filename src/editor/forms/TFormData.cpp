@@ -54,6 +54,8 @@ constexpr Place kPlaces[] = {
     {"BtnCopy", Area::Tools},
     {"BtnValues", Area::Tools},
     {"BtnSaved", Area::Tools},
+    {"BtnPrint", Area::Tools},
+    {"BtnPdf", Area::Tools},
 };
 
 // The deepest nesting of layouts in the form: a line of a group inside a group.

@@ -207,6 +207,50 @@ void EditorModel::BtnChangesClick()
     });
 }
 
+SheetOptions EditorModel::sheetOptions() const
+{
+    SheetOptions options;
+    if (m_services)
+        options.drawChart = m_services->sheetChart(m_s.image);
+    return options;
+}
+
+void EditorModel::BtnPrintClick()
+{
+    if (!m_services || !m_holdsConfiguration)
+        return;
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        const SheetContent content = sheetContent(*this);
+        const SheetOptions options = sheetOptions();
+        m_services->printSheet([&](QPagedPaintDevice &printer) {
+            const int pages = paintSheet(printer, content, options);
+            if (pages == 0 && m_s.prompt)
+                m_s.prompt->tell(messageText(Msg::SheetNotPrinted), UserPrompt::Kind::Error);
+            return pages;
+        });
+    });
+}
+
+void EditorModel::BtnPdfClick()
+{
+    if (!m_services || !m_holdsConfiguration)
+        return;
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        const QString suggested = QStringLiteral("validator-%1.pdf").arg(m_s.image.serialNumber());
+        const QString path = m_services->saveSheetFileName(suggested);
+        if (path.isEmpty())
+            return;
+        QString error;
+        // A sheet that cannot be written leaves the file that was there, and the editor, as
+        // they were.
+        if (!saveSheetPdf(path, sheetContent(*this), sheetOptions(), &error) && m_s.prompt)
+            m_s.prompt->tell(messageText(Msg::SheetNotWritten, {path, error}),
+                             UserPrompt::Kind::Error);
+    });
+}
+
 void EditorModel::learningClick(const QString &button)
 {
     if (!m_services)

@@ -38,6 +38,8 @@ constexpr Button kButtons[] = {
     {"BtnCopy", Cap::CopyTitle, false},
     {"BtnValues", Cap::ValuesTable, false},
     {"BtnSaved", Cap::SavedValidators, false},
+    {"BtnPrint", Cap::PrintSheet, false},
+    {"BtnPdf", Cap::SaveSheetPdf, false},
     {"BitBtn1", Cap::Close, false},
 };
 
@@ -89,6 +91,8 @@ EditorModel::EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeu
     c.setVisible(QStringLiteral("BtnSaved"), services && services->savedValidatorsAvailable());
     for (const char *name : {"BtnLearn", "BtnReference", "BtnControl", "BtnOverlap"})
         c.setVisible(QLatin1String(name), services && services->learningAvailable());
+    // The sheet is printed once the editor holds a configuration.
+    showSheetButtons();
     c.add(QStringLiteral("Gauge1"), ControlKind::Gauge);
     c.add(QStringLiteral("Label3"), ControlKind::Label);
     c.setVisible(QStringLiteral("Gauge1"), false);
@@ -174,6 +178,12 @@ void EditorModel::showPagesOfImage()
         m_grid.showPage(page);
 }
 
+void EditorModel::showSheetButtons()
+{
+    for (const char *name : {"BtnPrint", "BtnPdf"})
+        m_s.controls.setEnabled(QLatin1String(name), m_holdsConfiguration);
+}
+
 void EditorModel::loadImage(const ConfigImage &image, bool modified)
 {
     m_s.baseline = image;
@@ -192,6 +202,8 @@ void EditorModel::editImage(const ConfigImage &image)
 void EditorModel::showImage(const ConfigImage &image)
 {
     m_s.image = image;
+    m_holdsConfiguration = true;
+    showSheetButtons();
     m_money.takeFromImage();
     m_counters.takeFromImage();
     showModel(image.isLight());
@@ -274,6 +286,8 @@ void EditorModel::SpeedButton1Click()
         }
         m_s.flags.readOnOpen = false;
         m_s.flags.editChanged = false;
+        m_holdsConfiguration = true;
+        showSheetButtons();
         m_money.takeFromImage();
         m_counters.takeFromImage();
         display();
@@ -454,6 +468,10 @@ bool EditorModel::click(const QString &name, QString *error)
         BtnCopyClick();
     } else if (name == QLatin1String("BtnChanges")) {
         BtnChangesClick();
+    } else if (name == QLatin1String("BtnPrint")) {
+        BtnPrintClick();
+    } else if (name == QLatin1String("BtnPdf")) {
+        BtnPdfClick();
     } else if (name == QLatin1String("BtnValues")) {
         exclusive([&] {
             EHFUBMIN0Exit();

@@ -3,6 +3,7 @@
 #include "ChangesModel.h"
 #include "ChannelCopyModel.h"
 #include "ChannelGridModel.h"
+#include "ConfigSheet.h"
 #include "CountersModel.h"
 #include "EditorState.h"
 #include "IdentityModel.h"
@@ -83,6 +84,12 @@ public:
     // The Changes window's model; the button takes the form into the image and opens it.
     ChangesModel &changes() { return m_changes; }
     void BtnChangesClick();
+    // The configuration sheet of what the editor shows: "Print..." and "Save as PDF...", enabled
+    // once the editor holds a configuration (read or loaded).
+    void BtnPrintClick();
+    void BtnPdfClick();
+    bool holdsConfiguration() const { return m_holdsConfiguration; }
+    SheetOptions sheetOptions() const;
     // Coin learning, reference calibration, channel control and the overlap check.
     void learningClick(const QString &button);
 
@@ -113,6 +120,7 @@ private:
     bool clickSetting(const QString &name);
     void pickType(int item);
     void showImage(const ConfigImage &image);
+    void showSheetButtons();
 
     EditorState m_s;
     EditorServices *m_services;
@@ -126,4 +134,5 @@ private:
     ChannelCopyModel m_copy;
     ChangesModel m_changes;
     bool m_busy = false;
+    bool m_holdsConfiguration = false;
 };

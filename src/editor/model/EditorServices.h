@@ -1,10 +1,12 @@
 #pragma once
 
 #include "CloneGroups.h"
+#include "ConfigSheet.h"
 
 #include <QString>
 #include <optional>
 
+class QPagedPaintDevice;
 struct ConfigImage;
 class ChangesModel;
 class ChannelCopyModel;
@@ -81,6 +83,13 @@ public:
 
     // The Changes window over its model, once the model has listed the changes.
     virtual void showChanges(ChangesModel &) {}
+    // The configuration sheet. "Save as PDF...": the file dialog, empty when cancelled.
+    virtual QString saveSheetFileName(const QString &) { return {}; }
+    // "Print...": the print dialog with its preview; paint draws the sheet on the printer the
+    // person chose and returns the pages drawn (0: the printer could not be drawn on).
+    virtual void printSheet(const std::function<int(QPagedPaintDevice &)> &) {}
+    // The windows chart the sheet shows for an image; empty: the sheet has no chart.
+    virtual SheetChart sheetChart(const ConfigImage &) { return {}; }
 };
 
 // Answers as a script would: every group, Continue, no dialogs, no files, no tables.
