@@ -620,8 +620,6 @@
         <translation>Änderungen</translation>
     </message>
     <message>
-        <source>Channel windows</source>
-        <translation>Fenster der Kanäle</translation>
         <source>Print...</source>
         <translation>Drucken...</translation>
     </message>
@@ -654,8 +652,6 @@
         <translation>Referenzkanal %d</translation>
     </message>
     <message>
-        <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>Keine Änderungen seit dem letzten Lesen, Öffnen oder Schreiben der Konfiguration.</translation>
         <source>No option switched on</source>
         <translation>Keine Option eingeschaltet</translation>
     </message>
@@ -670,6 +666,14 @@
     <message>
         <source>Page %d of %d</source>
         <translation>Seite %d von %d</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>Keine Änderungen seit dem letzten Lesen, Öffnen oder Schreiben der Konfiguration.</translation>
+    </message>
+    <message>
+        <source>Channel windows</source>
+        <translation>Fenster der Kanäle</translation>
     </message>
 </context>
 <context>

@@ -620,8 +620,6 @@
         <translation>Changes</translation>
     </message>
     <message>
-        <source>Channel windows</source>
-        <translation>Channel windows</translation>
         <source>Print...</source>
         <translation>Print...</translation>
     </message>
@@ -654,8 +652,6 @@
         <translation>Reference channel %d</translation>
     </message>
     <message>
-        <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>No changes since the configuration was last read, opened or written.</translation>
         <source>No option switched on</source>
         <translation>No option switched on</translation>
     </message>
@@ -670,6 +666,14 @@
     <message>
         <source>Page %d of %d</source>
         <translation>Page %d of %d</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>No changes since the configuration was last read, opened or written.</translation>
+    </message>
+    <message>
+        <source>Channel windows</source>
+        <translation>Channel windows</translation>
     </message>
 </context>
 <context>

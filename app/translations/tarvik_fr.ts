@@ -620,8 +620,6 @@
         <translation>Modifications</translation>
     </message>
     <message>
-        <source>Channel windows</source>
-        <translation>Fenêtres des canaux</translation>
         <source>Print...</source>
         <translation>Imprimer...</translation>
     </message>
@@ -654,8 +652,6 @@
         <translation>Canal de référence %d</translation>
     </message>
     <message>
-        <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>Aucune modification depuis la dernière lecture, ouverture ou écriture de la configuration.</translation>
         <source>No option switched on</source>
         <translation>Aucune option activée</translation>
     </message>
@@ -670,6 +666,14 @@
     <message>
         <source>Page %d of %d</source>
         <translation>Page %d sur %d</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>Aucune modification depuis la dernière lecture, ouverture ou écriture de la configuration.</translation>
+    </message>
+    <message>
+        <source>Channel windows</source>
+        <translation>Fenêtres des canaux</translation>
     </message>
 </context>
 <context>

@@ -620,8 +620,6 @@
         <translation>Modifiche</translation>
     </message>
     <message>
-        <source>Channel windows</source>
-        <translation>Finestre dei canali</translation>
         <source>Print...</source>
         <translation>Stampa...</translation>
     </message>
@@ -654,8 +652,6 @@
         <translation>Canale di riferimento %d</translation>
     </message>
     <message>
-        <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
         <source>No option switched on</source>
         <translation>Nessuna opzione attivata</translation>
     </message>
@@ -670,6 +666,14 @@
     <message>
         <source>Page %d of %d</source>
         <translation>Pagina %d di %d</translation>
+    </message>
+    <message>
+        <source>No changes since the configuration was last read, opened or written.</source>
+        <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
+    </message>
+    <message>
+        <source>Channel windows</source>
+        <translation>Finestre dei canali</translation>
     </message>
 </context>
 <context>
