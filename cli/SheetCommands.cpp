@@ -6,6 +6,7 @@
 #include "EditorServices.h"
 #include "Languages.h"
 #include "Settings.h"
+#include "WindowsChartPainter.h"
 
 #include <QGuiApplication>
 
@@ -17,7 +18,7 @@ class SheetServices final : public DefaultEditorServices
 public:
     explicit SheetServices(QString output) : m_output(std::move(output)) {}
     QString saveSheetFileName(const QString &) override { return m_output; }
-    SheetChart sheetChart(const ConfigImage &) override { return {}; }
+    SheetChart sheetChart(const ConfigImage &image) override { return sheetWindowsChart(image); }
 
 private:
     QString m_output;

@@ -311,3 +311,10 @@ void paintWindowsChartTicks(QPainter &painter, const WindowsChartLayout &l,
     }
     painter.restore();
 }
+
+SheetChart sheetWindowsChart(const ConfigImage &image)
+{
+    return [model = WindowsChartModel(image)](QPainter &painter, const QRectF &area) {
+        paintWindowsChart(painter, area, model);
+    };
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ConfigSheet.h"
 #include "WindowsChartModel.h"
 
 #include <QColor>
@@ -18,6 +19,9 @@ class QPainter;
 // or an SVG file alike. An area larger than 1200 x 800 gets the chart of that size scaled up,
 // so that a page in printer pixels reads like a screen.
 void paintWindowsChart(QPainter &painter, const QRectF &area, const WindowsChartModel &model);
+
+// The windows chart of a configuration, as the configuration sheet draws it in its area.
+SheetChart sheetWindowsChart(const ConfigImage &image);
 
 // The colour of a bar of that tint.
 QColor windowsChartColour(ChartTint tint);

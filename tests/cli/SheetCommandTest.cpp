@@ -85,6 +85,9 @@ TEST_F(CliSheet, WritesTheSheetOfAConfigurationFile)
             EXPECT_TRUE(text.contains(price.text.trimmed())) << box;
         }
     }
+    // The windows chart, with its legend naming the reference channel.
+    EXPECT_TRUE(text.contains(QStringLiteral("Windows chart")));
+    EXPECT_TRUE(text.contains(QStringLiteral("Reference channel %1").arg(image.channelCount())));
 }
 
 TEST_F(CliSheet, SpeaksTheLanguageAskedFor)

@@ -9,6 +9,7 @@
 #include "TFormValue.h"
 #include "ValueTableModel.h"
 #include "ValueTableStore.h"
+#include "WindowsChartPainter.h"
 
 #include "Captions.h"
 #include "EffectSoundPlayer.h"
@@ -136,9 +137,9 @@ void GuiEditorServices::printSheet(const std::function<int(QPagedPaintDevice &)>
     preview.exec();
 }
 
-SheetChart GuiEditorServices::sheetChart(const ConfigImage &)
+SheetChart GuiEditorServices::sheetChart(const ConfigImage &image)
 {
-    return {};
+    return sheetWindowsChart(image);
 }
 
 void GuiEditorServices::firmwareRequested(TMonnayeur &link)
