@@ -46,6 +46,8 @@ public:
         return true;
     }
     int warnings = 0;
+    bool verifyAfterWrite() override { return verify; }
+    bool verify = true;
     FakeTables fakeTables;
     QString backups;
 };
@@ -350,6 +352,45 @@ TEST(EditorWriting, SavingShowsOnceTheWarningsArePast)
     EXPECT_EQ(warningsWhenShown, 1);
     EXPECT_TRUE(toldWhenShown.contains(QStringLiteral("Invalid code table !")));
     EXPECT_TRUE(e.prompt.told().contains(QStringLiteral("Finished operation!")));
+}
+
+TEST(EditorWriting, AReadBackThatDiffersKeepsTheImageAndTheModifiedFlag)
+{
+    Editor e;
+    e.open();
+    e.device->setRefusal(22);
+    ASSERT_TRUE(e.model->click("Enable0"));
+    QStringList labels;
+    e.model->changed = [&](const QStringList &names) {
+        if (names.contains(QStringLiteral("Label3")) && e.visible("Label3"))
+            labels.append(e.text("Label3"));
+    };
+    e.model->SpeedButton8Click();
+    EXPECT_TRUE(labels.contains(QStringLiteral("Verifying...")));
+    ASSERT_EQ(e.prompt.told().size(), 2);
+    EXPECT_EQ(e.prompt.told().first(), QStringLiteral("Finished operation!"));
+    EXPECT_EQ(e.prompt.told().last(), QStringLiteral("The validator does not hold what was "
+                                                     "written:\nChannel 1: disabled → enabled"));
+    // The editor keeps what it shows, and closing offers to write it again.
+    EXPECT_TRUE(e.model->flags().configModified);
+    EXPECT_FALSE(e.image().enableBit(0));
+    EXPECT_TRUE(e.device->memory().enableBit(0));
+    EXPECT_FALSE(e.visible("Gauge1"));
+
+    e.device->clearFaults();
+    e.prompt.clear();
+    e.model->SpeedButton8Click();
+    EXPECT_EQ(e.prompt.told(), QStringList({"Finished operation!",
+                                            "Verified: the validator holds the configuration."}));
+    EXPECT_FALSE(e.model->flags().configModified);
+
+    // With the switch off nothing is read back.
+    e.services.verify = false;
+    e.prompt.clear();
+    e.device->clearExchangeLog();
+    e.model->SpeedButton8Click();
+    EXPECT_EQ(e.prompt.told(), QStringList{"Finished operation!"});
+    EXPECT_FALSE(e.device->exchangeLog().contains(SimExchange{23, -1}));
 }
 
 TEST(EditorWriting, CablePulledDuringAWriteLeavesTheFormUsable)

@@ -13,6 +13,7 @@
 
 class EditorServices;
 class TMonnayeur;
+struct SentBlocks;
 class UserPrompt;
 
 // The editor TFormData without its widgets: every control by name with what it shows, the
@@ -97,6 +98,9 @@ private:
     void setGauge(int value);
     void showProgress(bool shown, const QString &label = {});
     void stopExchange();
+    // Reads the validator back after a write that finished, when the setting is on, and says
+    // what it holds; true when it does not hold what was sent.
+    bool verifyAfterWrite(const SentBlocks &sent);
     const Control *lookup(const QString &name, QString *error) const;
     bool canAct(const Control &control, QString *error) const;
     void keepBackup();
