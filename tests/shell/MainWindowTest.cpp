@@ -277,6 +277,8 @@ private Q_SLOTS:
         QCOMPARE(messageText(Msg::SelectPort), QStringLiteral("Sélectionnez un port !!!"));
         QCOMPARE(start.settings.language(), QStringLiteral("FR"));
         QVERIFY(start.action("Fran1")->font().bold());
+        QCOMPARE(start.action("Verifyafterwrite1")->text(),
+                 QStringLiteral("&Vérifier après écriture"));
 
         start.action("English1")->trigger();
         QTRY_COMPARE(back->text(), QStringLiteral("&Back"));
