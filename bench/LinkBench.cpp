@@ -2,15 +2,20 @@
 // rough as a bench's: 9600 baud, a random turnaround of 0 to 50 ms before every echo and reply,
 // and a USB adapter that hands bytes over every 16 ms. Each run is compared with that line's
 // own bound: the bytes' time on the wire, the turnarounds the device drew and the adapter's
-// waits (tarvik-sim reports the last two on exit). Then a 100 KB firmware transfer.
+// waits (tarvik-sim reports the last two on exit). A full write followed by its read-back is
+// held to the bound of both together. Then a 100 KB firmware transfer. First, the comparison
+// the read-back ends with, on two 60-channel images that differ in a few fields.
 //
-//   build/bin/link_bench [reads] [writes]      (default 100 reads, 20 writes)
+//   build/bin/link_bench [reads] [writes] [verified writes]   (default 100, 20, 10; the
+//   writes send the last image read, so give at least one read)
 #include "ConfigImage.h"
 #include "FirmwareTransfer.h"
 #include "ReadSequence.h"
 #include "RecordingPrompt.h"
 #include "SerialTransport.h"
+#include "VirtualValidator.h"
 #include "WriteSequence.h"
+#include "WriteVerification.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -141,7 +146,7 @@ void report(const char *what, Tally &t)
         return;
     std::sort(t.ratios.begin(), t.ratios.end());
     const double median = t.ratios[t.ratios.size() / 2];
-    std::printf("%-11s %4zu runs  ratio to the line's bound: median %.3f  worst %.3f  "
+    std::printf("%-12s %4zu runs  ratio to the line's bound: median %.3f  worst %.3f  "
                 "(target <= 1.05) %s   failed runs %d, reads cut short %lld\n",
                 what, t.ratios.size(), median, t.ratios.back(),
                 t.ratios.back() <= 1.05 ? "ok" : "OVER", t.failed,
@@ -149,8 +154,15 @@ void report(const char *what, Tally &t)
     std::fflush(stdout);
 }
 
+enum class Run
+{
+    Read,
+    Write,
+    VerifiedWrite // a full write, then its read-back and comparison
+};
+
 // One full read or full write against a fresh device; its ratio to the line's bound.
-bool run(bool write, int seed, ConfigImage &image, Tally &tally)
+bool run(Run kind, int seed, ConfigImage &image, Tally &tally)
 {
     Sim sim({"--family", "0x13", "--line", kLine.arg(seed)});
     SerialTransport serial;
@@ -165,9 +177,12 @@ bool run(bool write, int seed, ConfigImage &image, Tally &tally)
     QElapsedTimer clock;
     clock.start();
     bool ok = false;
-    if (write) {
+    if (kind != Run::Read) {
         FullWriteOptions options;
-        ok = fullWrite(link, image, options) == WriteOutcome::Finished;
+        SentBlocks sent;
+        ok = fullWrite(link, image, options, {}, &sent) == WriteOutcome::Finished;
+        if (ok && kind == Run::VerifiedWrite)
+            ok = verifyWrite(link, sent).outcome == VerifyOutcome::Verified;
     } else {
         ok = readValidator(link, image, false) == ReadOutcome::Done;
     }
@@ -181,6 +196,48 @@ bool run(bool write, int seed, ConfigImage &image, Tally &tally)
     return true;
 }
 
+// The read-back's comparison: two 60-channel images that differ in a few fields.
+void compareTwoImages()
+{
+    SentBlocks sent;
+    ConfigImage readBack = VirtualValidator::factoryImage(0x13, 1001);
+    ConfigImage written = readBack;
+    written.channels[4][Rec::HfuLowMin] += 3;
+    written.channels[41][Rec::DimMax] -= 2;
+    written.enable[7] ^= 0x02;
+    written.values[Val::Channel0 + 7] = 9;
+    written.prices[1] = 40;
+    for (std::size_t k = 0; k < sent.channels.size(); ++k) {
+        ChannelBytes record;
+        std::copy_n(written.channels[k].begin(), record.size(), record.begin());
+        sent.channels[k] = record;
+    }
+    sent.options = written.options;
+    sent.values = written.values;
+    sent.prices = written.prices;
+    sent.enable = written.enable;
+    sent.ident = written.ident;
+    std::vector<double> diffUs, verifyUs;
+    qsizetype found = 0;
+    for (int i = 0; i < 1000; ++i) {
+        QElapsedTimer clock;
+        clock.start();
+        found += configDifferences(written, readBack).size();
+        diffUs.push_back(double(clock.nsecsElapsed()) / 1e3);
+        clock.restart();
+        found += compareWithReadBack(readBack, sent).mismatches.size();
+        verifyUs.push_back(double(clock.nsecsElapsed()) / 1e3);
+    }
+    std::sort(diffUs.begin(), diffUs.end());
+    std::sort(verifyUs.begin(), verifyUs.end());
+    const double median = diffUs[diffUs.size() / 2];
+    std::printf("difference of two 60-channel images (%lld fields): median %.1f us, worst %.1f us "
+                "(target < 1000 us) %s; with the expected image built: median %.1f us\n",
+                static_cast<long long>(found / 2000), median, diffUs.back(),
+                median < 1000 ? "ok" : "OVER", verifyUs[verifyUs.size() / 2]);
+    std::fflush(stdout);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -188,17 +245,24 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     const int reads = argc > 1 ? QString::fromLocal8Bit(argv[1]).toInt() : 100;
     const int writes = argc > 2 ? QString::fromLocal8Bit(argv[2]).toInt() : 20;
+    const int verified = argc > 3 ? QString::fromLocal8Bit(argv[3]).toInt() : 10;
+    compareTwoImages();
     std::printf("line: %s\n", qPrintable(kLine.arg(QStringLiteral("N"))));
     ConfigImage image = ConfigImage::blank();
-    Tally readTally, writeTally;
+    Tally readTally, writeTally, verifiedTally;
     for (int i = 0; i < reads; ++i)
-        if (!run(false, 1000 + i, image, readTally))
+        if (!run(Run::Read, 1000 + i, image, readTally))
             return 1;
     report("full read", readTally);
     for (int i = 0; i < writes; ++i)
-        if (!run(true, 2000 + i, image, writeTally))
+        if (!run(Run::Write, 2000 + i, image, writeTally))
             return 1;
     report("full write", writeTally);
+    // Its bound is the line's for the write and the read-back together.
+    for (int i = 0; i < verified; ++i)
+        if (!run(Run::VerifiedWrite, 3000 + i, image, verifiedTally))
+            return 1;
+    report("write+verify", verifiedTally);
 
     QByteArray firmware;
     while (firmware.size() < 100 * 1024)

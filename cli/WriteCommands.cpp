@@ -3,6 +3,7 @@
 #include "FirmwareTransfer.h"
 #include "Messages.h"
 #include "WriteSequence.h"
+#include "WriteVerification.h"
 
 #include <QFile>
 
@@ -15,6 +16,27 @@ WriteObserver gaugeOnTerminal(CliContext &cli)
         cli.showProgress(messageText(Msg::SavingInProgress), gauge);
     };
     return observer;
+}
+
+// After a write that finished: reads the validator back, prints what it holds against what
+// was sent, and gives the exit code (1 when it differs or could not be read back).
+int verifyCommandWrite(CliContext &cli, TMonnayeur &link, const SentBlocks &sent)
+{
+    ReadObserver observer;
+    observer.progress = [&cli](int gauge) { cli.showProgress(messageText(Msg::Verifying), gauge); };
+    const VerifyResult result = verifyWrite(link, sent, observer);
+    cli.endProgress();
+    cli.out() << verificationMessage(result) << Qt::endl;
+    return result.outcome == VerifyOutcome::Verified ? kExitOk : kExitFailed;
+}
+
+// The write's exit code, with its verification unless --no-verify.
+int afterWrite(CliContext &cli, TMonnayeur &link, WriteOutcome outcome, bool verify,
+               const SentBlocks &sent)
+{
+    if (outcome != WriteOutcome::Finished)
+        return kExitFailed;
+    return verify ? verifyCommandWrite(cli, link, sent) : kExitOk;
 }
 
 QString familyName(quint8 familyByte)
@@ -44,9 +66,12 @@ int writeCommand(CliContext &cli, const QStringList &args)
     ConfigImage image;
     quint32 serial = 0;
     bool force = false;
+    bool verify = true;
     for (int i = 0; i < args.size(); ++i) {
         if (args[i] == QLatin1String("--force")) {
             force = true;
+        } else if (args[i] == QLatin1String("--no-verify")) {
+            verify = false;
         } else if (args[i] == QLatin1String("--serial") && i + 1 < args.size()) {
             bool ok = false;
             serial = args[++i].toUInt(&ok);
@@ -80,17 +105,21 @@ int writeCommand(CliContext &cli, const QStringList &args)
         cli.err() << warning << Qt::endl;
         return true;
     };
-    const WriteOutcome outcome = fullWrite(*link, image, options, gaugeOnTerminal(cli));
+    SentBlocks sent;
+    const WriteOutcome outcome = fullWrite(*link, image, options, gaugeOnTerminal(cli), &sent);
     cli.endProgress();
-    return outcome == WriteOutcome::Finished ? kExitOk : kExitFailed;
+    return afterWrite(cli, *link, outcome, verify, sent);
 }
 
 int cloneCommand(CliContext &cli, const QStringList &args)
 {
     QString file;
     CloneGroups groups;
+    bool verify = true;
     for (int i = 0; i < args.size(); ++i) {
-        if (args[i] == QLatin1String("--groups") && i + 1 < args.size()) {
+        if (args[i] == QLatin1String("--no-verify")) {
+            verify = false;
+        } else if (args[i] == QLatin1String("--groups") && i + 1 < args.size()) {
             groups = CloneGroups{false, false, false, false, false};
             const QStringList names = args[++i].split(u',', Qt::SkipEmptyParts);
             for (const QString &name : names) {
@@ -128,9 +157,10 @@ int cloneCommand(CliContext &cli, const QStringList &args)
     if (!link)
         return kExitFailed;
     cli.prompt().setAnswer(UserPrompt::Answer::Cancel);
-    const WriteOutcome outcome = cloneWrite(*link, image, groups, gaugeOnTerminal(cli));
+    SentBlocks sent;
+    const WriteOutcome outcome = cloneWrite(*link, image, groups, gaugeOnTerminal(cli), &sent);
     cli.endProgress();
-    return outcome == WriteOutcome::Finished ? kExitOk : kExitFailed;
+    return afterWrite(cli, *link, outcome, verify, sent);
 }
 
 int firmwareCommand(CliContext &cli, const QStringList &args)
@@ -172,14 +202,18 @@ int firmwareCommand(CliContext &cli, const QStringList &args)
 void registerWriteCommands(CliCommandTable &table)
 {
     table.insert(QStringLiteral("write"),
-                 {QStringLiteral("write FILE [--serial N] [--force]"),
+                 {QStringLiteral("write FILE [--serial N] [--force] [--no-verify]"),
                   QStringLiteral("writes the whole configuration in FILE to the validator; a "
-                                 "file of another firmware family is refused unless --force"),
+                                 "file of another firmware family is refused unless --force; "
+                                 "then reads it back and prints what it does not hold (exit 1) "
+                                 "unless --no-verify"),
                   writeCommand});
     table.insert(QStringLiteral("clone"),
-                 {QStringLiteral("clone FILE [--groups channels,values,prices,config,enable]"),
+                 {QStringLiteral("clone FILE [--groups channels,values,prices,config,enable] "
+                                 "[--no-verify]"),
                   QStringLiteral("copies the chosen groups of FILE onto another validator of the "
-                                 "same family"),
+                                 "same family, then reads it back and prints what it does not "
+                                 "hold of what was sent (exit 1) unless --no-verify"),
                   cloneCommand});
     table.insert(QStringLiteral("firmware"),
                  {QStringLiteral("firmware FILE"),

@@ -1126,6 +1126,22 @@
         <source>The index %s is not usable (%s)</source>
         <translation>Der Index %s ist nicht verwendbar (%s)</translation>
     </message>
+    <message>
+        <source>Verifying...</source>
+        <translation>Überprüfung...</translation>
+    </message>
+    <message>
+        <source>Verified: the validator holds the configuration.</source>
+        <translation>Überprüft: der Münzprüfer enthält die Konfiguration.</translation>
+    </message>
+    <message>
+        <source>The validator does not hold what was written:</source>
+        <translation>Der Münzprüfer enthält nicht, was geschrieben wurde:</translation>
+    </message>
+    <message>
+        <source>Verification failed: the validator could not be read back.</source>
+        <translation>Überprüfung fehlgeschlagen: der Münzprüfer konnte nicht zurückgelesen werden.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1405,6 +1421,14 @@
     <message>
         <source>&amp;Exit</source>
         <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Verify after write</source>
+        <translation>Nach dem Schreiben &amp;prüfen</translation>
+    </message>
+    <message>
+        <source>Reads the validator back after each write and lists what it does not hold</source>
+        <translation>Liest den Münzprüfer nach jedem Schreiben zurück und listet auf, was er nicht enthält</translation>
     </message>
 </context>
 <context>

@@ -1126,6 +1126,22 @@
         <source>The index %s is not usable (%s)</source>
         <translation>The index %s is not usable (%s)</translation>
     </message>
+    <message>
+        <source>Verifying...</source>
+        <translation>Verifying...</translation>
+    </message>
+    <message>
+        <source>Verified: the validator holds the configuration.</source>
+        <translation>Verified: the validator holds the configuration.</translation>
+    </message>
+    <message>
+        <source>The validator does not hold what was written:</source>
+        <translation>The validator does not hold what was written:</translation>
+    </message>
+    <message>
+        <source>Verification failed: the validator could not be read back.</source>
+        <translation>Verification failed: the validator could not be read back.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1405,6 +1421,14 @@
     <message>
         <source>&amp;Exit</source>
         <translation>&amp;Exit</translation>
+    </message>
+    <message>
+        <source>&amp;Verify after write</source>
+        <translation>&amp;Verify after write</translation>
+    </message>
+    <message>
+        <source>Reads the validator back after each write and lists what it does not hold</source>
+        <translation>Reads the validator back after each write and lists what it does not hold</translation>
     </message>
 </context>
 <context>

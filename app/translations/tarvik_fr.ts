@@ -1126,6 +1126,22 @@
         <source>The index %s is not usable (%s)</source>
         <translation>L&apos;index %s n&apos;est pas utilisable (%s)</translation>
     </message>
+    <message>
+        <source>Verifying...</source>
+        <translation>Vérification...</translation>
+    </message>
+    <message>
+        <source>Verified: the validator holds the configuration.</source>
+        <translation>Vérifié : le monnayeur contient la configuration.</translation>
+    </message>
+    <message>
+        <source>The validator does not hold what was written:</source>
+        <translation>Le monnayeur ne contient pas ce qui a été écrit :</translation>
+    </message>
+    <message>
+        <source>Verification failed: the validator could not be read back.</source>
+        <translation>Échec de la vérification : le monnayeur n&apos;a pas pu être relu.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1405,6 +1421,14 @@
     <message>
         <source>&amp;Exit</source>
         <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Verify after write</source>
+        <translation>&amp;Vérifier après écriture</translation>
+    </message>
+    <message>
+        <source>Reads the validator back after each write and lists what it does not hold</source>
+        <translation>Relit le monnayeur après chaque écriture et liste ce qu&apos;il ne contient pas</translation>
     </message>
 </context>
 <context>

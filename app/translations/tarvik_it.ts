@@ -1126,6 +1126,22 @@
         <source>The index %s is not usable (%s)</source>
         <translation>L&apos;indice %s non è utilizzabile (%s)</translation>
     </message>
+    <message>
+        <source>Verifying...</source>
+        <translation>Verifica in corso...</translation>
+    </message>
+    <message>
+        <source>Verified: the validator holds the configuration.</source>
+        <translation>Verificato: la gettoniera contiene la configurazione.</translation>
+    </message>
+    <message>
+        <source>The validator does not hold what was written:</source>
+        <translation>La gettoniera non contiene ciò che è stato scritto:</translation>
+    </message>
+    <message>
+        <source>Verification failed: the validator could not be read back.</source>
+        <translation>Verifica non riuscita: impossibile rileggere la gettoniera.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1405,6 +1421,14 @@
     <message>
         <source>&amp;Exit</source>
         <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>&amp;Verify after write</source>
+        <translation>&amp;Verifica dopo la scrittura</translation>
+    </message>
+    <message>
+        <source>Reads the validator back after each write and lists what it does not hold</source>
+        <translation>Rilegge la gettoniera dopo ogni scrittura ed elenca ciò che non contiene</translation>
     </message>
 </context>
 <context>

@@ -54,6 +54,20 @@ ChannelBytes recordBytes(const ChannelRecord &record)
     return bytes;
 }
 
+// A channel record as the validator keeps it: a short record loses its amplitude window.
+ChannelBytes asKept(const ChannelBytes &record, bool longForm)
+{
+    return longForm ? record : TMonnayeur::widenRecord(TMonnayeur::narrowRecord(record).data());
+}
+
+// What the caller asked to be told, or a scratch record nobody reads.
+SentBlocks &sentRecord(SentBlocks *sent, SentBlocks &scratch)
+{
+    SentBlocks &record = sent ? *sent : scratch;
+    record = SentBlocks{};
+    return record;
+}
+
 } // namespace
 
 int writeGaugeAfterChannel(int i)
@@ -62,8 +76,10 @@ int writeGaugeAfterChannel(int i)
 }
 
 WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &options,
-                       const WriteObserver &observer)
+                       const WriteObserver &observer, SentBlocks *sent)
 {
+    SentBlocks scratch;
+    SentBlocks &record = sentRecord(sent, scratch);
     bool cancelled = !connectLoop(link, true);
 
     // The validator's last channel (its reference) against the image's.
@@ -101,8 +117,9 @@ WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &o
 
     const int count = image.channelCount();
     for (int i = 0; i < count && link.linkGood(); ++i) {
-        if (link.WriteChannel(quint8(i), recordBytes(image.channels[std::size_t(i)]),
-                              image.longForm()))
+        const ChannelBytes bytes = recordBytes(image.channels[std::size_t(i)]);
+        record.channels[std::size_t(i)] = asKept(bytes, image.longForm());
+        if (link.WriteChannel(quint8(i), bytes, image.longForm()))
             gauge.set(writeGaugeAfterChannel(i));
     }
     // 25 x 1.55 rounds to 39, and 39 + 54 = 93, where 60 channels end.
@@ -122,22 +139,30 @@ WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &o
     };
     if (link.linkGood())
         ownBlockRead = link.ReadBlock(Cmd::ReadBlock2, ownBlock.data());
-    if (link.linkGood())
+    if (link.linkGood()) {
+        record.options = image.options;
         ran(link.WriteBlock(Cmd::WriteOptions, image.options.data()), 1);
+    }
     if (link.linkGood()) {
         ValueTableBytes values;
         std::copy(image.values.begin(), image.values.end(), values.begin());
+        record.values = image.values;
         ran(link.WriteValueTable(values), 1);
     }
-    if (link.linkGood())
+    if (link.linkGood()) {
+        record.prices = image.prices;
         ran(link.WriteBlock(Cmd::WritePrices, image.prices.data()), 1);
-    if (link.linkGood())
+    }
+    if (link.linkGood()) {
+        record.enable = image.enable;
         ran(link.WriteBlock(Cmd::WriteEnable, image.enable.data()), 1);
+    }
     if (link.linkGood()) {
         // The counters only travel when the option word says so; the step counts either way.
-        if (image.options[1] & 0x20)
+        if (image.options[1] & 0x20) {
+            record.counters = image.counters;
             ran(link.WriteBlock(Cmd::WriteCounters, image.counters.data()), 1);
-        else
+        } else
             gauge.add(1);
     }
     if (link.linkGood()) {
@@ -152,8 +177,10 @@ WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &o
             options.serialOverride = false;
         }
     }
-    if (link.linkGood())
+    if (link.linkGood()) {
+        record.ident = image.ident;
         ran(link.WriteBlock(Cmd::WriteIdent, image.ident.data()), 1);
+    }
     if (link.linkGood() && ownBlockRead)
         ran(link.WriteBlock(Cmd::WriteBlock13, ownBlock.data()), 1);
 
@@ -193,8 +220,10 @@ ChannelBytes correctedRecord(const quint8 *record, const quint8 *imageReference,
 }
 
 WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneGroups &groups,
-                        const WriteObserver &observer)
+                        const WriteObserver &observer, SentBlocks *sent)
 {
+    SentBlocks scratch;
+    SentBlocks &record = sentRecord(sent, scratch);
     if (!connectLoop(link, true)) {
         tell(link, Msg::OperationCancelled);
         return WriteOutcome::Cancelled;
@@ -235,11 +264,12 @@ WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneG
             const quint8 *imageRef = image.channels[std::size_t(ref)].data();
             for (int i = 0; i < count && link.linkGood(); ++i) {
                 // The reference channel stays the target's own.
-                const ChannelBytes record =
+                const ChannelBytes bytes =
                     i == ref ? targetRef
                              : correctedRecord(image.channels[std::size_t(i)].data(), imageRef,
                                                targetRef.data());
-                succeeded(link.WriteChannel(quint8(i), record, image.longForm()));
+                record.channels[std::size_t(i)] = asKept(bytes, image.longForm());
+                succeeded(link.WriteChannel(quint8(i), bytes, image.longForm()));
             }
         }
     }
@@ -255,18 +285,24 @@ WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneG
         if (link.ReadBlock(Cmd::ReadOptions, theirs.data())) {
             OptionWord word = image.options;
             word[1] = quint8((word[1] & ~0x70) | (theirs[1] & 0x70));
+            record.options = word;
             succeeded(link.WriteBlock(Cmd::WriteOptions, word.data()));
         }
     }
     if (groups.values && link.linkGood()) {
         ValueTableBytes values;
         std::copy(image.values.begin(), image.values.end(), values.begin());
+        record.values = image.values;
         succeeded(link.WriteValueTable(values));
     }
-    if (groups.prices && link.linkGood())
+    if (groups.prices && link.linkGood()) {
+        record.prices = image.prices;
         succeeded(link.WriteBlock(Cmd::WritePrices, image.prices.data()));
-    if (groups.enable && link.linkGood())
+    }
+    if (groups.enable && link.linkGood()) {
+        record.enable = image.enable;
         succeeded(link.WriteBlock(Cmd::WriteEnable, image.enable.data()));
+    }
 
     return finish(link, gauge.value());
 }

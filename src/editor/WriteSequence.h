@@ -6,6 +6,7 @@
 
 #include <QDate>
 #include <functional>
+#include <optional>
 
 enum class WriteOutcome
 {
@@ -19,6 +20,20 @@ enum class WriteOutcome
 struct WriteObserver
 {
     std::function<void(int gauge)> progress;
+};
+
+// What the steps of a write sent, each block set only when its step ran, whether the validator
+// accepted it or not. Channel records are as they went on the line: the clone's corrected
+// records, and a short record as the validator keeps it (no amplitude window).
+struct SentBlocks
+{
+    std::array<std::optional<ChannelBytes>, kChannels> channels;
+    std::optional<OptionWord> options; // the clone's keeps the target's own bits 4 to 6
+    std::optional<ValueBlock> values;
+    std::optional<PriceBlock> prices;
+    std::optional<EnableBitmap> enable;
+    std::optional<CounterBlock> counters; // only when the option word lets them travel
+    std::optional<IdentRecord> ident;
 };
 
 struct FullWriteOptions
@@ -39,13 +54,14 @@ struct FullWriteOptions
 // The full write: every block of the image to the validator that was read. Shows its messages
 // through the link's prompt. Changes the image only in its identification (programming date;
 // the validator's own serial number and production date unless the serial override was set).
+// When sent is given, it receives what each step sent.
 WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &options,
-                       const WriteObserver &observer = {});
+                       const WriteObserver &observer = {}, SentBlocks *sent = nullptr);
 
 // The clone write: the chosen groups of the image to another validator of the same family,
 // with the channel windows corrected by the target's reference channel.
 WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneGroups &groups,
-                        const WriteObserver &observer = {});
+                        const WriteObserver &observer = {}, SentBlocks *sent = nullptr);
 
 // The correction of one channel record for the target's reference channel: each window byte is
 // scaled by the ratio of the target's reference window centre to the image's (1 when either is

@@ -112,6 +112,13 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages",
                        "The validator now holds a partly written configuration: nothing already "
                        "written was undone. Write it again before use.")},
+    {Msg::Verifying, QT_TRANSLATE_NOOP("Messages", "Verifying...")},
+    {Msg::Verified,
+     QT_TRANSLATE_NOOP("Messages", "Verified: the validator holds the configuration.")},
+    {Msg::VerificationMismatch,
+     QT_TRANSLATE_NOOP("Messages", "The validator does not hold what was written:")},
+    {Msg::VerificationFailed,
+     QT_TRANSLATE_NOOP("Messages", "Verification failed: the validator could not be read back.")},
     {Msg::BackupFailed,
      QT_TRANSLATE_NOOP("Messages", "The backup of this read could not be written: %s")},
     {Msg::TablesUnavailable,

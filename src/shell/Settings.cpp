@@ -17,11 +17,11 @@ struct KeyInfo
 };
 
 constexpr KeyInfo kKeys[int(Settings::Key::Count_)] = {
-    {"Sound", KeyInfo::Type::Bool},           {"Adjust", KeyInfo::Type::Bool},
-    {"DirectWrite", KeyInfo::Type::Bool},     {"Language", KeyInfo::Type::Text},
-    {"DataDirectory", KeyInfo::Type::Text},   {"PortMap", KeyInfo::Type::Text},
-    {"DecimalChar", KeyInfo::Type::Char},     {"DateChar", KeyInfo::Type::Char},
-    {"DateFormat", KeyInfo::Type::DateOrder},
+    {"Sound", KeyInfo::Type::Bool},       {"Adjust", KeyInfo::Type::Bool},
+    {"DirectWrite", KeyInfo::Type::Bool}, {"Verify", KeyInfo::Type::Bool},
+    {"Language", KeyInfo::Type::Text},    {"DataDirectory", KeyInfo::Type::Text},
+    {"PortMap", KeyInfo::Type::Text},     {"DecimalChar", KeyInfo::Type::Char},
+    {"DateChar", KeyInfo::Type::Char},    {"DateFormat", KeyInfo::Type::DateOrder},
 };
 
 // A stored value in its typed form, or an invalid variant when it cannot be read as one.
@@ -79,6 +79,8 @@ QVariant Settings::defaultValue(Key key)
     case Key::Adjust:
     case Key::DirectWrite:
         return false;
+    case Key::Verify:
+        return true;
     default:
         return QString();
     }

@@ -19,6 +19,7 @@ public:
         Sound,         // "Sound": play sounds
         Adjust,        // "Adjust": the Auto adjust switch
         DirectWrite,   // "DirectWrite": the Direct write switch
+        Verify,        // "Verify": a write that finished is read back and compared
         Language,      // "Language": "FR", "IT", "EN", "DE" or empty (Local)
         DataDirectory, // empty: the records engine's own default
         PortMap,
@@ -49,6 +50,7 @@ public:
     bool soundOn() const { return value(Key::Sound).toBool(); }
     bool autoAdjust() const { return value(Key::Adjust).toBool(); }
     bool directWrite() const { return value(Key::DirectWrite).toBool(); }
+    bool verifyAfterWrite() const { return value(Key::Verify).toBool(); }
     QString language() const { return value(Key::Language).toString(); }
     QString dataDirectory() const { return value(Key::DataDirectory).toString(); }
     QString portMap() const { return value(Key::PortMap).toString(); }
@@ -59,6 +61,7 @@ public:
     void setSoundOn(bool on) { set(Key::Sound, on); }
     void setAutoAdjust(bool on) { set(Key::Adjust, on); }
     void setDirectWrite(bool on) { set(Key::DirectWrite, on); }
+    void setVerifyAfterWrite(bool on) { set(Key::Verify, on); }
     void setLanguage(const QString &code) { set(Key::Language, code); }
     void setDataDirectory(const QString &path) { set(Key::DataDirectory, path); }
     void setPortMap(const QString &map) { set(Key::PortMap, map); }

@@ -117,6 +117,7 @@ void TFormMain::buildMenu()
     m_son1 = addSwitch("Son1", &TFormMain::Son1Click);
     m_ajustementauto1 = addSwitch("Ajustementauto1", &TFormMain::Ajustementauto1Click);
     m_ecrituredirecte1 = addSwitch("Ecrituredirecte1", &TFormMain::Ecrituredirecte1Click);
+    m_verifyafterwrite1 = addSwitch("Verifyafterwrite1", &TFormMain::Verifyafterwrite1Click);
     m_parameters->addSeparator();
     m_langage = m_parameters->addMenu(QString());
     m_langage->setObjectName(QStringLiteral("Langage1"));
@@ -145,6 +146,10 @@ void TFormMain::retranslateUi()
     m_ecrituredirecte1->setText(tr("&Direct write"));
     m_ecrituredirecte1->setToolTip(tr("Only for calibration"));
     m_ecrituredirecte1->setStatusTip(tr("Only for calibration"));
+    m_verifyafterwrite1->setText(tr("&Verify after write"));
+    m_verifyafterwrite1->setToolTip(
+        tr("Reads the validator back after each write and lists what it does not hold"));
+    m_verifyafterwrite1->setStatusTip(m_verifyafterwrite1->toolTip());
     m_langage->setTitle(tr("&Langage"));
     m_languageItems.at(Languages::kLocal)->setText(tr("&Local"));
     m_firmware1->setText(tr("Firmware upgrade..."));
@@ -210,6 +215,7 @@ bool TFormMain::FormCreate()
     m_son1->setChecked(settings.soundOn());
     m_ajustementauto1->setChecked(settings.autoAdjust());
     m_ecrituredirecte1->setChecked(settings.directWrite());
+    m_verifyafterwrite1->setChecked(settings.verifyAfterWrite());
 
     if (settings.soundOn() && m_context.sounds)
         m_context.sounds->play(Sound::Chimes);
@@ -273,6 +279,11 @@ void TFormMain::Ajustementauto1Click()
 void TFormMain::Ecrituredirecte1Click()
 {
     m_context.settings->setDirectWrite(m_ecrituredirecte1->isChecked());
+}
+
+void TFormMain::Verifyafterwrite1Click()
+{
+    m_context.settings->setVerifyAfterWrite(m_verifyafterwrite1->isChecked());
 }
 
 void TFormMain::Fran1Click(QAction *item)

@@ -30,6 +30,7 @@ public:
     void Son1Click();
     void Ajustementauto1Click();
     void Ecrituredirecte1Click();
+    void Verifyafterwrite1Click();
     void Fran1Click(QAction *item); // the five language items
     void Firmware1Click();
     void Repairtables1Click();
@@ -69,6 +70,7 @@ private:
     QAction *m_son1 = nullptr;
     QAction *m_ajustementauto1 = nullptr;
     QAction *m_ecrituredirecte1 = nullptr;
+    QAction *m_verifyafterwrite1 = nullptr;
     QAction *m_firmware1 = nullptr;
     QAction *m_repairtables1 = nullptr;
     QList<QAction *> m_languageItems;

@@ -46,6 +46,8 @@ public:
         return true;
     }
     int warnings = 0;
+    bool verifyAfterWrite() override { return verify; }
+    bool verify = true;
     FakeTables fakeTables;
     QString backups;
 };
@@ -350,6 +352,48 @@ TEST(EditorWriting, SavingShowsOnceTheWarningsArePast)
     EXPECT_EQ(warningsWhenShown, 1);
     EXPECT_TRUE(toldWhenShown.contains(QStringLiteral("Invalid code table !")));
     EXPECT_TRUE(e.prompt.told().contains(QStringLiteral("Finished operation!")));
+}
+
+TEST(EditorWriting, AReadBackThatDiffersKeepsTheImageAndTheModifiedFlag)
+{
+    Editor e;
+    e.open();
+    e.device->setRefusal(22);
+    ASSERT_TRUE(e.model->click("Enable0"));
+    ASSERT_TRUE(e.model->type("EHFUBMIN4", "70")); // taken by the validator
+    ASSERT_TRUE(e.model->leave("EHFUBMIN4"));
+    QStringList labels;
+    e.model->changed = [&](const QStringList &names) {
+        if (names.contains(QStringLiteral("Label3")) && e.visible("Label3"))
+            labels.append(e.text("Label3"));
+    };
+    e.model->SpeedButton8Click();
+    EXPECT_TRUE(labels.contains(QStringLiteral("Verifying...")));
+    ASSERT_EQ(e.prompt.told().size(), 2);
+    EXPECT_EQ(e.prompt.told().first(), QStringLiteral("Finished operation!"));
+    EXPECT_EQ(e.prompt.told().last(), QStringLiteral("The validator does not hold what was "
+                                                     "written:\nChannel 1: disabled → enabled"));
+    // The editor keeps what it shows, and closing offers to write it again.
+    EXPECT_TRUE(e.model->flags().configModified);
+    EXPECT_FALSE(e.image().enableBit(0));
+    EXPECT_TRUE(e.device->memory().enableBit(0));
+    // Changes now counts from what the validator holds: what the next write would still send.
+    e.model->changes().list();
+    ASSERT_EQ(e.model->changes().changes().size(), 1);
+    EXPECT_EQ(e.model->changes().changes().first().text(),
+              QStringLiteral("Channel 1: enabled → disabled"));
+
+    e.device->clearFaults();
+    e.prompt.clear();
+    e.model->SpeedButton8Click();
+    EXPECT_EQ(e.prompt.told(), QStringList({"Finished operation!",
+                                            "Verified: the validator holds the configuration."}));
+    EXPECT_FALSE(e.model->flags().configModified);
+
+    e.services.verify = false; // switched off: nothing is read back
+    e.prompt.clear();
+    e.model->SpeedButton8Click();
+    EXPECT_EQ(e.prompt.told(), QStringList{"Finished operation!"});
 }
 
 TEST(EditorWriting, CablePulledDuringAWriteLeavesTheFormUsable)

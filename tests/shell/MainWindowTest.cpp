@@ -236,6 +236,10 @@ private Q_SLOTS:
                 QVERIFY(!first.action(name)->isChecked());
                 first.action(name)->trigger();
             }
+            // Verifying after a write is on until switched off.
+            QVERIFY(first.action("Verifyafterwrite1")->isChecked());
+            first.action("Verifyafterwrite1")->trigger();
+            QVERIFY(!first.settings.verifyAfterWrite());
         }
         {
             Start second(source);
@@ -244,6 +248,7 @@ private Q_SLOTS:
                     second.settings.directWrite());
             for (const char *name : {"Son1", "Ajustementauto1", "Ecrituredirecte1"})
                 QVERIFY(second.action(name)->isChecked());
+            QVERIFY(!second.action("Verifyafterwrite1")->isChecked());
             QCOMPARE(second.sounds.played, QList<Sound>{Sound::Chimes});
             second.action("Son1")->trigger();
         }
@@ -272,6 +277,8 @@ private Q_SLOTS:
         QCOMPARE(messageText(Msg::SelectPort), QStringLiteral("Sélectionnez un port !!!"));
         QCOMPARE(start.settings.language(), QStringLiteral("FR"));
         QVERIFY(start.action("Fran1")->font().bold());
+        QCOMPARE(start.action("Verifyafterwrite1")->text(),
+                 QStringLiteral("&Vérifier après écriture"));
 
         start.action("English1")->trigger();
         QTRY_COMPARE(back->text(), QStringLiteral("&Back"));

@@ -75,6 +75,7 @@ TEST(SettingsTest, FirstRunCreatesTheDefaultsAndChangesAreKept)
         Settings settings;
         EXPECT_EQ(settings.load(), Settings::LoadState::Created);
         EXPECT_FALSE(settings.soundOn());
+        EXPECT_TRUE(settings.verifyAfterWrite()); // writes are read back unless switched off
         EXPECT_TRUE(settings.language().isEmpty());
         settings.setSoundOn(true);
         settings.setDirectWrite(true);
@@ -83,6 +84,7 @@ TEST(SettingsTest, FirstRunCreatesTheDefaultsAndChangesAreKept)
     QSettings raw(QStringLiteral("Brunfeld"), QStringLiteral("Tarvik"));
     EXPECT_TRUE(raw.contains(QStringLiteral("DefaultSettings/Adjust")));
     EXPECT_TRUE(raw.contains(QStringLiteral("DefaultSettings/PortMap")));
+    EXPECT_EQ(raw.value(QStringLiteral("DefaultSettings/Verify")).toString(), "true");
 
     Settings again;
     EXPECT_EQ(again.load(), Settings::LoadState::Read);

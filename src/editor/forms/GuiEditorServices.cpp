@@ -179,6 +179,13 @@ QString GuiEditorServices::backupDirectory()
     return QDir(m_db->dataDirectory()).filePath(QStringLiteral("backups"));
 }
 
+bool GuiEditorServices::verifyAfterWrite()
+{
+    Settings settings;
+    settings.load();
+    return settings.verifyAfterWrite();
+}
+
 // ---- coin learning ------------------------------------------------------------------------
 
 void GuiEditorServices::playCoin()

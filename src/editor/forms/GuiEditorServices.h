@@ -38,6 +38,8 @@ public:
     void firmwareRequested(TMonnayeur &link) override;
     ValidatorTables *tables() override;
     QString backupDirectory() override;
+    // The "Verify" setting as the main window left it.
+    bool verifyAfterWrite() override;
 
     // Coin learning, the reference calibration, the channel control and the overlap check,
     // with the learning windows and the "Sound", "Adjust" and "DirectWrite" settings.

@@ -7,6 +7,7 @@
 #include "TMonnayeur.h"
 #include "UserPrompt.h"
 #include "WriteSequence.h"
+#include "WriteVerification.h"
 
 #include <utility>
 
@@ -32,13 +33,17 @@ void EditorModel::SpeedButton8Click()
             setGauge(gauge);
             flush();
         };
-        const WriteOutcome outcome = fullWrite(*m_link, m_s.image, options, observer);
+        SentBlocks sent;
+        const WriteOutcome outcome = fullWrite(*m_link, m_s.image, options, observer, &sent);
         m_s.flags.serialOverride = options.serialOverride;
         showProgress(false);
-        // The validator now holds the image.
         if (outcome == WriteOutcome::Finished) {
-            m_s.flags.configModified = false;
-            m_s.baseline = m_s.image;
+            // The validator now holds the image, unless the read-back shows otherwise: then
+            // closing offers to write it again, and Changes counts from what it holds.
+            const std::optional<VerifyResult> verified = verifyAfterWrite(sent);
+            const bool differs = verified && verified->outcome == VerifyOutcome::Mismatches;
+            m_s.flags.configModified = differs;
+            m_s.baseline = differs ? verified->readBack : m_s.image;
         }
         display();
     });
@@ -60,10 +65,33 @@ void EditorModel::SpeedButton2Click()
             setGauge(gauge);
             flush();
         };
-        cloneWrite(*m_link, m_s.image, *groups, observer);
+        SentBlocks sent;
+        const WriteOutcome outcome = cloneWrite(*m_link, m_s.image, *groups, observer, &sent);
         showProgress(false);
+        if (outcome == WriteOutcome::Finished)
+            verifyAfterWrite(sent);
         display();
     });
+}
+
+std::optional<VerifyResult> EditorModel::verifyAfterWrite(const SentBlocks &sent)
+{
+    if (m_services && !m_services->verifyAfterWrite())
+        return std::nullopt;
+    showProgress(true, messageText(Msg::Verifying));
+    ReadObserver observer;
+    observer.progress = [&](int gauge) {
+        setGauge(gauge);
+        flush();
+    };
+    // A read into an image of its own: the editor keeps what it shows.
+    const VerifyResult result = verifyWrite(*m_link, sent, observer);
+    showProgress(false);
+    if (m_s.prompt)
+        m_s.prompt->tell(verificationMessage(result), result.outcome == VerifyOutcome::Verified
+                                                          ? UserPrompt::Kind::Information
+                                                          : UserPrompt::Kind::Warning);
+    return result;
 }
 
 void EditorModel::SpeedButton4Click()

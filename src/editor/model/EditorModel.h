@@ -10,8 +10,10 @@
 #include "MoneyModel.h"
 #include "OptionsModel.h"
 #include "SerialTestModel.h"
+#include "WriteVerification.h"
 
 #include <functional>
+#include <optional>
 
 class EditorServices;
 class TMonnayeur;
@@ -113,6 +115,9 @@ private:
     void setGauge(int value);
     void showProgress(bool shown, const QString &label = {});
     void stopExchange();
+    // Reads the validator back after a write that finished, when the setting is on, and says
+    // what it holds; nothing when the setting is off.
+    std::optional<VerifyResult> verifyAfterWrite(const SentBlocks &sent);
     const Control *lookup(const QString &name, QString *error) const;
     bool canAct(const Control &control, QString *error) const;
     void keepBackup();

@@ -57,6 +57,8 @@ public:
     virtual ValidatorTables *tables() = 0;
     // Where every good read is kept; empty: nowhere.
     virtual QString backupDirectory() = 0;
+    // The "Verify after write" switch: a write that finished is read back and compared.
+    virtual bool verifyAfterWrite() { return true; }
 
     // The coin learning windows, where the program has them: without them their buttons do
     // not show.
