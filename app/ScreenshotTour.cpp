@@ -1,10 +1,13 @@
 #include "ScreenshotTour.h"
 
+#include "Commands.h"
 #include "EditorModel.h"
 #include "FileDialog.h"
 #include "HelpTopics.h"
 #include "HelpWindow.h"
+#include "MessageBoxPrompt.h"
 #include "Messages.h"
+#include "RecordingPrompt.h"
 #include "ResourceFiles.h"
 #include "Screenshot.h"
 #include "TCommunication.h"
@@ -24,6 +27,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QSpinBox>
 #include <cstdio>
 
@@ -113,6 +117,24 @@ void ScreenshotTour::pictureSheet()
     }
     std::printf("tarvik: screenshots: %s\n", qPrintable(file));
     std::fflush(stdout);
+}
+
+void ScreenshotTour::pictureVerification(const QString &editor)
+{
+    m_device->setRefusal(Cmd::WriteEnable);
+    RecordingPrompt told;
+    UserPrompt *before = MessageBoxPrompt::divertedTo();
+    MessageBoxPrompt::divertTo(&told);
+    click(editor, QStringLiteral("Enable0"));
+    click(editor, QStringLiteral("SpeedButton8"));
+    MessageBoxPrompt::divertTo(before);
+    m_device->clearFaults();
+    // The box the write's prompt shows for the read-back's finding.
+    QMessageBox box(QMessageBox::Warning, QApplication::applicationName(),
+                    told.told().isEmpty() ? QString() : told.told().constLast(), QMessageBox::Ok,
+                    m_editor);
+    box.setObjectName(QStringLiteral("VerificationMessage"));
+    box.exec();
 }
 
 void ScreenshotTour::typeInEditor(const QString &control, const QString &text)
@@ -250,6 +272,10 @@ void ScreenshotTour::buildSteps()
          [this] { (new TConnectForm(m_editor))->show(); },
          {},
          [](QWidget *window) { window->close(); }},
+        // Last, as it writes to the validator: a write whose enable mask the validator refuses
+        // ends at 100, and the read-back says what it does not hold.
+        {QStringLiteral("verification"), QStringLiteral("VerificationMessage"),
+         [this, editor] { pictureVerification(editor); }},
     };
 }
 

@@ -69,6 +69,7 @@ private:
     void click(const QString &window, const QString &button);
     void typeInEditor(const QString &control, const QString &text);
     void pictureSheet();
+    void pictureVerification(const QString &editor);
 
     QString m_directory;
     TFormMain *m_main;

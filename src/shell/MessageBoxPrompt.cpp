@@ -58,6 +58,11 @@ void MessageBoxPrompt::divertTo(UserPrompt *target)
     g_diverted = target;
 }
 
+UserPrompt *MessageBoxPrompt::divertedTo()
+{
+    return g_diverted;
+}
+
 void MessageBoxPrompt::tell(const QString &text, Kind kind)
 {
     if (g_diverted) {

@@ -16,6 +16,7 @@ public:
 
     // Every message box of every MessageBoxPrompt goes to target instead (nullptr: shown).
     static void divertTo(UserPrompt *target);
+    static UserPrompt *divertedTo();
 
 private:
     QWidget *m_parent;
