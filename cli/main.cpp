@@ -15,9 +15,9 @@ int main(int argc, char *argv[])
     // offscreen platform (the command line shows no window), with or without a display. The
     // other commands stay away from the graphical system.
     const QString command = cliCommandName(arguments);
-    const bool drawing = command == QLatin1String("sheet") ||
-                         (command == QLatin1String("overlap") &&
-                          arguments.contains(QLatin1String("--chart")));
+    const bool drawing =
+        command == QLatin1String("sheet") ||
+        (command == QLatin1String("overlap") && arguments.contains(QLatin1String("--chart")));
     std::unique_ptr<QCoreApplication> app;
     if (drawing) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
