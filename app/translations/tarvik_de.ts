@@ -1142,6 +1142,10 @@
         <source>Verification failed: the validator could not be read back.</source>
         <translation>Überprüfung fehlgeschlagen: der Münzprüfer konnte nicht zurückgelesen werden.</translation>
     </message>
+    <message>
+        <source>... and %d more.</source>
+        <translation>... und %d weitere.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

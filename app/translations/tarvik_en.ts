@@ -1142,6 +1142,10 @@
         <source>Verification failed: the validator could not be read back.</source>
         <translation>Verification failed: the validator could not be read back.</translation>
     </message>
+    <message>
+        <source>... and %d more.</source>
+        <translation>... and %d more.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -1142,6 +1142,10 @@
         <source>Verification failed: the validator could not be read back.</source>
         <translation>Échec de la vérification : le monnayeur n&apos;a pas pu être relu.</translation>
     </message>
+    <message>
+        <source>... and %d more.</source>
+        <translation>... et %d de plus.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -1142,6 +1142,10 @@
         <source>Verification failed: the validator could not be read back.</source>
         <translation>Verifica non riuscita: impossibile rileggere la gettoniera.</translation>
     </message>
+    <message>
+        <source>... and %d more.</source>
+        <translation>... e altre %d.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -47,7 +47,7 @@ VerifyResult verifyWrite(TMonnayeur &link, const SentBlocks &sent, const ReadObs
     return compareWithReadBack(readBack, sent);
 }
 
-QString verificationMessage(const VerifyResult &result)
+QString verificationMessage(const VerifyResult &result, int maxLines)
 {
     switch (result.outcome) {
     case VerifyOutcome::ReadBackFailed:
@@ -58,7 +58,11 @@ QString verificationMessage(const VerifyResult &result)
         break;
     }
     QStringList lines{messageText(Msg::VerificationMismatch)};
-    for (const ConfigChange &change : result.mismatches)
-        lines.append(change.text());
+    const qsizetype count = result.mismatches.size();
+    const qsizetype shown = maxLines > 0 && count > maxLines ? maxLines - 1 : count;
+    for (qsizetype i = 0; i < shown; ++i)
+        lines.append(result.mismatches.at(i).text());
+    if (shown < count)
+        lines.append(messageText(Msg::VerificationMore, {QString::number(count - shown)}));
     return lines.join(u'\n');
 }

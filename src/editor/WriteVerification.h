@@ -38,5 +38,6 @@ VerifyResult verifyWrite(TMonnayeur &link, const SentBlocks &sent,
                          const ReadObserver &observer = {});
 
 // The message that says the result: "Verified: ...", the heading with one difference a line, or
-// "Verification failed: ...".
-QString verificationMessage(const VerifyResult &result);
+// "Verification failed: ...". With maxLines above 0, a longer list is cut there and ends with
+// how many more there are (a message box must fit the screen).
+QString verificationMessage(const VerifyResult &result, int maxLines = 0);

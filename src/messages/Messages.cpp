@@ -119,6 +119,7 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages", "The validator does not hold what was written:")},
     {Msg::VerificationFailed,
      QT_TRANSLATE_NOOP("Messages", "Verification failed: the validator could not be read back.")},
+    {Msg::VerificationMore, QT_TRANSLATE_NOOP("Messages", "... and %d more.")},
     {Msg::BackupFailed,
      QT_TRANSLATE_NOOP("Messages", "The backup of this read could not be written: %s")},
     {Msg::TablesUnavailable,

@@ -79,6 +79,7 @@ enum class Msg
     Verified,
     VerificationMismatch,
     VerificationFailed,
+    VerificationMore,
     BackupFailed,
     TablesUnavailable,
     FamilyMismatch,

@@ -45,6 +45,26 @@ TEST(WriteVerification, RefusedBlockFinishesButTheReadBackShowsIt)
     }
 }
 
+// A refused value table of a new coin set: every channel's value differs. The message box gets
+// the first lines and how many more; the command line prints them all.
+TEST(WriteVerification, ALongListIsCutForAMessageBox)
+{
+    SimBench b;
+    ConfigImage image = b.device.memory();
+    for (int k = 0; k < 30; ++k)
+        image.values[std::size_t(Val::Channel0 + k)] = quint8(200 - k);
+    b.device.setRefusal(16);
+    FullWriteOptions options;
+    SentBlocks sent;
+    ASSERT_EQ(fullWrite(b.link, image, options, {}, &sent), WriteOutcome::Finished);
+    const VerifyResult result = verifyWrite(b.link, sent);
+    ASSERT_EQ(result.mismatches.size(), 30);
+    const QStringList box = verificationMessage(result, 20).split(u'\n');
+    ASSERT_EQ(box.size(), 21);
+    EXPECT_EQ(box.last(), QStringLiteral("... and 11 more."));
+    EXPECT_EQ(verificationMessage(result).split(u'\n').size(), 31);
+}
+
 // Short records lose their amplitude window and a Light validator holds 25 channels: what it
 // keeps of a whole write from another validator is what was sent.
 TEST(WriteVerification, EveryFamilyHoldsAWholeWrite)

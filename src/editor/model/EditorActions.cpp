@@ -85,12 +85,14 @@ std::optional<VerifyResult> EditorModel::verifyAfterWrite(const SentBlocks &sent
         flush();
     };
     // A read into an image of its own: the editor keeps what it shows.
+    // A message box must fit the screen: the first lines, then how many more.
+    constexpr int kVerificationLines = 20;
     const VerifyResult result = verifyWrite(*m_link, sent, observer);
     showProgress(false);
     if (m_s.prompt)
-        m_s.prompt->tell(verificationMessage(result), result.outcome == VerifyOutcome::Verified
-                                                          ? UserPrompt::Kind::Information
-                                                          : UserPrompt::Kind::Warning);
+        m_s.prompt->tell(verificationMessage(result, kVerificationLines),
+                         result.outcome == VerifyOutcome::Verified ? UserPrompt::Kind::Information
+                                                                   : UserPrompt::Kind::Warning);
     return result;
 }
 
