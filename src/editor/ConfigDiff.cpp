@@ -374,44 +374,31 @@ QList<ConfigChange> configDifferences(const ConfigImage &before, const ConfigIma
     return out;
 }
 
+namespace {
+
+// Each group's caption and its name for scripts, in the order of ChangeGroup.
+struct GroupNames
+{
+    Cap caption;
+    const char *key;
+};
+constexpr GroupNames kGroupNames[] = {
+    {Cap::DiffChannels, "channels"}, {Cap::DiffValues, "values"},
+    {Cap::DiffPrices, "prices"},     {Cap::DiffConfig, "config"},
+    {Cap::DiffEnable, "enable"},     {Cap::GroupIdent, "identification"},
+    {Cap::CashCounters, "counters"},
+};
+static_assert(std::size(kGroupNames) == std::size_t(ChangeGroup::Counters) + 1,
+              "one name per group");
+
+} // namespace
+
 QString changeGroupName(ChangeGroup group)
 {
-    switch (group) {
-    case ChangeGroup::Channels:
-        return fieldName(Cap::DiffChannels);
-    case ChangeGroup::Values:
-        return fieldName(Cap::DiffValues);
-    case ChangeGroup::Prices:
-        return fieldName(Cap::DiffPrices);
-    case ChangeGroup::Config:
-        return fieldName(Cap::DiffConfig);
-    case ChangeGroup::Enable:
-        return fieldName(Cap::DiffEnable);
-    case ChangeGroup::Identification:
-        return fieldName(Cap::GroupIdent);
-    case ChangeGroup::Counters:
-        return fieldName(Cap::CashCounters);
-    }
-    return {};
+    return fieldName(kGroupNames[std::size_t(group)].caption);
 }
 
 const char *changeGroupKey(ChangeGroup group)
 {
-    switch (group) {
-    case ChangeGroup::Channels:
-        return "channels";
-    case ChangeGroup::Values:
-        return "values";
-    case ChangeGroup::Prices:
-        return "prices";
-    case ChangeGroup::Config:
-        return "config";
-    case ChangeGroup::Enable:
-        return "enable";
-    case ChangeGroup::Identification:
-        return "identification";
-    case ChangeGroup::Counters:
-        return "counters";
-    }
-    return "";
+    return kGroupNames[std::size_t(group)].key;
 }
