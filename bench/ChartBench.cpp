@@ -4,6 +4,7 @@
 //      windows: the model's work and every widget that changed repainted, the chart included.
 //   build/bin/chart_bench [paintings] [coins]
 #include "LearningSession.h"
+#include "MedianReport.h"
 #include "ProgCoinModel.h"
 #include "TFormProgCoin.h"
 #include "UserPrompt.h"
@@ -26,12 +27,7 @@ constexpr double kTickTargetMs = ProgCoinModel::kTimerMs;
 
 double report(const char *what, std::vector<qint64> ns, double targetMs)
 {
-    std::sort(ns.begin(), ns.end());
-    const double median = double(ns[ns.size() / 2]) / 1e6;
-    std::printf("%-46s n=%zu  min %.3f ms  median %.3f ms  max %.3f ms  (target %.0f ms: %s)\n",
-                what, ns.size(), double(ns.front()) / 1e6, median, double(ns.back()) / 1e6,
-                targetMs, median < targetMs ? "met" : "missed");
-    return median;
+    return reportMedian(what, std::move(ns), targetMs, 46, 3);
 }
 
 // The factory's coins, then every other channel learned with windows of its own, values from

@@ -5,6 +5,7 @@
 //   build/bin/editor_bench [builds] [leaves]
 #include "EditorModel.h"
 #include "EditorServices.h"
+#include "MedianReport.h"
 #include "TFormData.h"
 #include "UserPrompt.h"
 #include "VirtualValidator.h"
@@ -24,12 +25,7 @@ constexpr double kLeaveTargetMs = 5;
 
 double report(const char *what, std::vector<qint64> ns, double targetMs)
 {
-    std::sort(ns.begin(), ns.end());
-    const double median = double(ns[ns.size() / 2]) / 1e6;
-    std::printf("%-40s n=%zu  min %.2f ms  median %.2f ms  max %.2f ms  (target %.0f ms: %s)\n",
-                what, ns.size(), double(ns.front()) / 1e6, median, double(ns.back()) / 1e6,
-                targetMs, median < targetMs ? "met" : "missed");
-    return median;
+    return reportMedian(what, std::move(ns), targetMs, 40, 2);
 }
 
 } // namespace

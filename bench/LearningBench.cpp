@@ -5,6 +5,7 @@
 // The serial poll itself is left out (link_bench measures exchanges).
 //   build/bin/learning_bench [samples]
 #include "LearningSession.h"
+#include "MedianReport.h"
 #include "ProgCoinModel.h"
 #include "TFormProgCoin.h"
 #include "UserPrompt.h"
@@ -25,12 +26,7 @@ constexpr double kWindowTargetMs = 5.0;
 
 double report(const char *what, std::vector<qint64> ns, double targetMs = kTargetMs)
 {
-    std::sort(ns.begin(), ns.end());
-    const double median = double(ns[ns.size() / 2]) / 1e6;
-    std::printf("%-42s n=%zu  min %.4f ms  median %.4f ms  max %.4f ms  (target %.0f ms: %s)\n",
-                what, ns.size(), double(ns.front()) / 1e6, median, double(ns.back()) / 1e6,
-                targetMs, median < targetMs ? "met" : "missed");
-    return median;
+    return reportMedian(what, std::move(ns), targetMs, 42, 4);
 }
 
 // Samples scattered around a stored coin, so that windows keep growing and marks change.

@@ -2,11 +2,11 @@
 // names every channel in use, the PNG is a picture, and any other file name is a usage error.
 #include "CliContext.h"
 #include "ConfigFile.h"
+#include "SimProcess.h"
 #include "VirtualValidator.h"
 #include "WindowsChartModel.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
@@ -15,28 +15,14 @@
 
 namespace {
 
-struct ProgramRun
+// Run as on a machine with no display at all.
+CliRun runWithoutDisplay(const QStringList &args)
 {
-    int code = -1;
-    QString out, err;
-};
-
-ProgramRun tarvikCli(const QStringList &args)
-{
-    QProcess cli;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.remove(QStringLiteral("DISPLAY"));
     env.remove(QStringLiteral("WAYLAND_DISPLAY"));
     env.remove(QStringLiteral("QT_QPA_PLATFORM"));
-    cli.setProcessEnvironment(env);
-    cli.start(QStringLiteral(TARVIK_CLI_PATH), args);
-    ProgramRun r;
-    if (!cli.waitForFinished(60000))
-        return r;
-    r.code = cli.exitStatus() == QProcess::NormalExit ? cli.exitCode() : -1;
-    r.out = QString::fromUtf8(cli.readAllStandardOutput());
-    r.err = QString::fromUtf8(cli.readAllStandardError());
-    return r;
+    return runTarvikCliIn(env, args);
 }
 
 } // namespace
@@ -51,9 +37,9 @@ TEST(ChartCommand, WritesTheChartAsSvgOrPngWithoutADisplay)
     ASSERT_TRUE(saveConfigFile(file, image, &error)) << qPrintable(error);
 
     const QString svg = dir.filePath(QStringLiteral("chart.svg"));
-    const ProgramRun drawn =
-        tarvikCli({QStringLiteral("overlap"), file, QStringLiteral("--chart"), svg});
-    ASSERT_EQ(drawn.code, kExitOk) << qPrintable(drawn.err);
+    const CliRun drawn =
+        runWithoutDisplay({QStringLiteral("overlap"), file, QStringLiteral("--chart"), svg});
+    ASSERT_EQ(drawn.exitCode, kExitOk) << qPrintable(drawn.err);
     // The list is printed as without the chart.
     EXPECT_EQ(drawn.out, QStringLiteral("   1 | C   3 <--> C  10        \n1 Overlapping\n"));
 
@@ -82,17 +68,20 @@ TEST(ChartCommand, WritesTheChartAsSvgOrPngWithoutADisplay)
     EXPECT_TRUE(texts.contains(QStringLiteral("Overlapping channels: 3 <--> 10")));
 
     const QString png = dir.filePath(QStringLiteral("chart.PNG"));
-    ASSERT_EQ(tarvikCli({QStringLiteral("overlap"), file, QStringLiteral("--chart"), png}).code,
+    ASSERT_EQ(runWithoutDisplay({QStringLiteral("overlap"), file, QStringLiteral("--chart"), png})
+                  .exitCode,
               kExitOk);
     QFile picture(png);
     ASSERT_TRUE(picture.open(QIODevice::ReadOnly));
     EXPECT_TRUE(picture.read(8).startsWith("\x89PNG"));
 
-    const ProgramRun bad = tarvikCli({QStringLiteral("overlap"), file, QStringLiteral("--chart"),
-                                      dir.filePath(QStringLiteral("chart.jpg"))});
-    EXPECT_EQ(bad.code, kExitUsage);
+    const CliRun bad =
+        runWithoutDisplay({QStringLiteral("overlap"), file, QStringLiteral("--chart"),
+                           dir.filePath(QStringLiteral("chart.jpg"))});
+    EXPECT_EQ(bad.exitCode, kExitUsage);
     EXPECT_TRUE(bad.err.contains(QStringLiteral(".png or a .svg"))) << qPrintable(bad.err);
     EXPECT_TRUE(bad.out.isEmpty());
-    EXPECT_EQ(tarvikCli({QStringLiteral("overlap"), file, QStringLiteral("--chart")}).code,
-              kExitUsage);
+    EXPECT_EQ(
+        runWithoutDisplay({QStringLiteral("overlap"), file, QStringLiteral("--chart")}).exitCode,
+        kExitUsage);
 }

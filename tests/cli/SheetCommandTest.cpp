@@ -2,53 +2,27 @@
 #include "ConfigFile.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
+#include "InProcessCli.h"
 #include "PdfText.h"
+#include "SimProcess.h"
 #include "VirtualValidator.h"
 
-#include <QCoreApplication>
 #include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct CliRun
-{
-    int code = -1;
-    QString err;
-};
-
-CliRun tarvikCli(const QStringList &args)
-{
-    QProcess cli;
-    cli.start(QStringLiteral(TARVIK_CLI_PATH), args);
-    CliRun run;
-    if (cli.waitForFinished(60000) && cli.exitStatus() == QProcess::NormalExit)
-        run.code = cli.exitCode();
-    run.err = QString::fromLocal8Bit(cli.readAllStandardError());
-    return run;
-}
-
-class CliSheet : public ::testing::Test
+class CliSheet : public CliFixture
 {
 protected:
-    static void SetUpTestSuite()
-    {
-        static int argc = 1;
-        static char name[] = "cli_tests";
-        static char *argv[] = {name, nullptr};
-        if (!QCoreApplication::instance())
-            new QCoreApplication(argc, argv);
-    }
     void SetUp() override
     {
+        CliFixture::SetUp();
         image = VirtualValidator::factoryImage(0x13, 13579);
         QString error;
         ASSERT_TRUE(saveConfigFile(config, image, &error)) << qPrintable(error);
     }
 
-    QTemporaryDir dir;
     const QString config = dir.filePath(QStringLiteral("v.json"));
     const QString pdf = dir.filePath(QStringLiteral("v.pdf"));
     ConfigImage image;
@@ -56,9 +30,9 @@ protected:
 
 TEST_F(CliSheet, WritesTheSheetOfAConfigurationFile)
 {
-    const CliRun run = tarvikCli({"sheet", config, "-o", pdf, "--identification", "SHOP-12",
-                                  "--description", "Bar du Port", "--language", "EN"});
-    ASSERT_EQ(run.code, 0) << qPrintable(run.err);
+    const CliRun run = runTarvikCli({"sheet", config, "-o", pdf, "--identification", "SHOP-12",
+                                     "--description", "Bar du Port", "--language", "EN"});
+    ASSERT_EQ(run.exitCode, 0) << qPrintable(run.err);
     const QString text = pdfText(pdf);
     EXPECT_TRUE(text.contains(QStringLiteral("13579")));
     EXPECT_TRUE(text.contains(QStringLiteral("SHOP-12")));
@@ -92,8 +66,8 @@ TEST_F(CliSheet, WritesTheSheetOfAConfigurationFile)
 
 TEST_F(CliSheet, SpeaksTheLanguageAskedFor)
 {
-    const CliRun run = tarvikCli({"sheet", config, "-o", pdf, "--language", "FR"});
-    ASSERT_EQ(run.code, 0) << qPrintable(run.err);
+    const CliRun run = runTarvikCli({"sheet", config, "-o", pdf, "--language", "FR"});
+    ASSERT_EQ(run.exitCode, 0) << qPrintable(run.err);
     const QString text = pdfText(pdf);
     EXPECT_TRUE(text.contains(QStringLiteral("Fiche de configuration")));
     EXPECT_FALSE(text.contains(QStringLiteral("Configuration sheet")));
@@ -101,11 +75,12 @@ TEST_F(CliSheet, SpeaksTheLanguageAskedFor)
 
 TEST_F(CliSheet, RefusesWhatItCannotDo)
 {
-    EXPECT_EQ(tarvikCli({"sheet", config}).code, 2);
-    EXPECT_EQ(tarvikCli({"sheet", config, "-o", pdf, "--language", "XX"}).code, 2);
-    EXPECT_EQ(tarvikCli({"sheet", dir.filePath("none.json"), "-o", pdf}).code, 1);
-    const CliRun unwritable = tarvikCli({"sheet", config, "-o", dir.filePath("no/such/dir.pdf")});
-    EXPECT_EQ(unwritable.code, 1);
+    EXPECT_EQ(runTarvikCli({"sheet", config}).exitCode, 2);
+    EXPECT_EQ(runTarvikCli({"sheet", config, "-o", pdf, "--language", "XX"}).exitCode, 2);
+    EXPECT_EQ(runTarvikCli({"sheet", dir.filePath("none.json"), "-o", pdf}).exitCode, 1);
+    const CliRun unwritable =
+        runTarvikCli({"sheet", config, "-o", dir.filePath("no/such/dir.pdf")});
+    EXPECT_EQ(unwritable.exitCode, 1);
     EXPECT_TRUE(unwritable.err.contains(QStringLiteral("no/such/dir.pdf")));
     EXPECT_FALSE(QFile::exists(pdf));
 }

@@ -49,16 +49,12 @@ struct CliRun
     QString err;
 };
 
-// Runs the built tarvik-cli as its own process.
-inline CliRun runTarvikCli(const QStringList &arguments, int timeoutMs = 60000,
-                           const QString &portMap = {})
+// Runs the built tarvik-cli as its own process, in the environment given.
+inline CliRun runTarvikCliIn(const QProcessEnvironment &environment, const QStringList &arguments,
+                             int timeoutMs = 60000)
 {
     QProcess cli;
-    if (!portMap.isEmpty()) {
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("TARVIK_PORTS"), portMap);
-        cli.setProcessEnvironment(env);
-    }
+    cli.setProcessEnvironment(environment);
     cli.start(QStringLiteral(TARVIK_CLI_PATH), arguments);
     CliRun run;
     if (!cli.waitForFinished(timeoutMs)) {
@@ -70,4 +66,14 @@ inline CliRun runTarvikCli(const QStringList &arguments, int timeoutMs = 60000,
     run.out = QString::fromUtf8(cli.readAllStandardOutput());
     run.err = QString::fromUtf8(cli.readAllStandardError());
     return run;
+}
+
+// The same in this process's environment, with the port map TARVIK_PORTS when one is given.
+inline CliRun runTarvikCli(const QStringList &arguments, int timeoutMs = 60000,
+                           const QString &portMap = {})
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!portMap.isEmpty())
+        environment.insert(QStringLiteral("TARVIK_PORTS"), portMap);
+    return runTarvikCliIn(environment, arguments, timeoutMs);
 }
