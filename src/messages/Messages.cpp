@@ -246,16 +246,10 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages", "\"%s\" is too long for %s: it holds at most %s characters. "
                                    "Nothing was written.")},
     {Msg::RecordsRowsPastCount,
-     QT_TRANSLATE_NOOP("Messages", "%s counts %s records in its header but holds %s: it is "
-                                   "opened read-only with all of them; repair the tables to "
-                                   "keep them.")},
+     QT_TRANSLATE_NOOP("Messages", "%s counts %s records in its header, but its index and its "
+                                   "length prove %s")},
     {Msg::RepairNotReadBack,
      QT_TRANSLATE_NOOP("Messages", "the rebuilt table could not be read back as written")},
-    {Msg::RepairHeaderLength,
-     QT_TRANSLATE_NOOP("Messages", "its header length %s does not match its %s fields")},
-    {Msg::RepairFieldLength,
-     QT_TRANSLATE_NOOP("Messages", "its field lengths add up to %s where each record has %s "
-                                   "bytes")},
 };
 
 } // namespace

@@ -147,8 +147,6 @@ enum class Msg
     // damaged headers
     RecordsRowsPastCount,
     RepairNotReadBack,
-    RepairHeaderLength,
-    RepairFieldLength,
     Count_
 };
 

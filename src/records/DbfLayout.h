@@ -22,7 +22,9 @@ struct TableSchema;
 // else, for one of the five tables, the fields the table is known to have. Rows are read only
 // where they line up (each starts with a live or deleted mark); what the header keeps that is
 // still there (level, language driver, field flags, the level-7 properties) stays as it is.
-// A file of which nothing can be recovered is unreadable.
+// A file of which nothing can be recovered is unreadable. A header length that leaves bytes
+// other than padding between the end mark and the first row, and a field length that does not
+// add up to the record length (mended from the fields the table is known to have), are damage.
 struct DbfLayout
 {
     enum class State
@@ -46,6 +48,11 @@ struct DbfLayout
 
     static DbfLayout read(const QByteArray &bytes, const QString &fileName,
                           const TableSchema *schema = nullptr);
+    // The same, with the rows past a lowered record count that the index (written after the
+    // count by every commit) still names and the file still holds whole: the layout then
+    // holds them and is damaged, so that the table opens read-only until it is repaired.
+    static DbfLayout read(const QByteArray &bytes, const QByteArray &index, const QString &fileName,
+                          const TableSchema *schema);
 
     // The table written anew with the rows that can be read: the header with its date set,
     // the rows as they are (deleted ones included), the end-of-file mark.

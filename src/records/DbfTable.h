@@ -217,7 +217,7 @@ Q_SIGNALS:
 
 private:
     bool fail(Msg id, const QStringList &args) const;
-    bool parseTable(const QByteArray &bytes);
+    bool parseTable(const QByteArray &bytes, const QByteArray *indexBytes);
     bool checkSchema();
     void attachIndex(const QByteArray *indexBytes);
     void setReadOnly(const QString &reason);
