@@ -13,7 +13,8 @@ struct TableSchema;
 // describes them or, when the header is damaged, as far as they can be recovered.
 //
 // A sound file holds every row its header counts. Rows past the count are not the table's (a
-// commit writes appended rows before it writes their count) and are left out. A file that
+// commit writes appended rows before it writes their count) and are left out, unless the index
+// names them (see the second read()). A file that
 // holds fewer whole rows than its count is damaged: the whole rows it holds can be read, a
 // row cut short cannot.
 //
