@@ -333,7 +333,9 @@ DbfLayout DbfLayout::read(const QByteArray &bytes, const QByteArray &index, cons
                           const TableSchema *schema)
 {
     DbfLayout l = read(bytes, fileName, schema);
-    if (l.state != State::Sound || index.isEmpty())
+    // Only a file holding whole rows past its count needs its index looked at.
+    if (l.state != State::Sound || index.isEmpty() || l.recordLength <= 0 ||
+        (bytes.size() - l.rowsOffset) / l.recordLength <= l.rows)
         return l;
     // The highest record the index names.
     MdxIndex mdx;
