@@ -8,8 +8,10 @@
 #include "Messages.h"
 #include "ReadSequence.h"
 #include "ReferenceCalibration.h"
+#include "WholeFile.h"
 #include "WindowsChartPainter.h"
 
+#include <QBuffer>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -227,28 +229,39 @@ bool writeChart(CliContext &cli, const QString &path, const ConfigImage &image)
     }
     const WindowsChartModel model(image);
     const QRectF area(QPointF(0, 0), kChartSize);
-    bool written = false;
+    // Drawn in memory, then written whole: a full disk leaves the file that was there.
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    bool drawn = false;
     if (QFileInfo(path).suffix().compare(QLatin1String("svg"), Qt::CaseInsensitive) == 0) {
         QSvgGenerator svg;
-        svg.setFileName(path);
+        svg.setOutputDevice(&buffer);
         svg.setSize(kChartSize);
         svg.setViewBox(area);
         svg.setTitle(captionText(Cap::ChartTitle));
         QPainter painter;
         if (painter.begin(&svg)) {
             paintWindowsChart(painter, area, model);
-            written = painter.end() && QFileInfo(path).size() > 0;
+            drawn = painter.end() && !bytes.isEmpty();
         }
     } else {
         QImage picture(kChartSize, QImage::Format_RGB32);
         QPainter painter(&picture);
         paintWindowsChart(painter, area, model);
         painter.end();
-        written = picture.save(path, "PNG");
+        drawn = picture.save(&buffer, "PNG");
     }
-    if (!written)
-        cli.err() << "tarvik-cli: cannot write " << path << Qt::endl;
-    return written;
+    if (!drawn) {
+        cli.err() << "tarvik-cli: the chart cannot be drawn" << Qt::endl;
+        return false;
+    }
+    QString error;
+    if (!WholeFile::write(path, bytes, &error)) {
+        cli.err() << "tarvik-cli: " << error << Qt::endl;
+        return false;
+    }
+    return true;
 }
 
 int overlapCommand(CliContext &cli, const QStringList &arguments)

@@ -1146,6 +1146,46 @@
         <source>... and %d more.</source>
         <translation>... und %d weitere.</translation>
     </message>
+    <message>
+        <source>No space left on the disk: nothing was written</source>
+        <translation>Kein Platz mehr auf dem Datenträger: es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>The disk quota is used up: nothing was written</source>
+        <translation>Das Speicherkontingent ist erschöpft: es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>The disk is read-only: nothing was written</source>
+        <translation>Der Datenträger ist schreibgeschützt: es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>Writing in this folder is not allowed: nothing was written</source>
+        <translation>In diesem Ordner darf nicht geschrieben werden: es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>The folder does not exist: nothing was written</source>
+        <translation>Der Ordner existiert nicht: es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>The disk reported an error (%s): nothing was written</source>
+        <translation>Der Datenträger meldete einen Fehler (%s): es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>„%s“ kann nicht in %s gespeichert werden: seine Codepage kennt %s nicht. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>„%s“ ist zu lang für %s: es fasst höchstens %s Zeichen. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>%s counts %s records in its header, but its index and its length prove %s</source>
+        <translation>%s zählt %s Datensätze in seinem Kopf, aber sein Index und seine Länge belegen %s</translation>
+    </message>
+    <message>
+        <source>the rebuilt table could not be read back as written</source>
+        <translation>die neu aufgebaute Tabelle konnte nicht so zurückgelesen werden, wie sie geschrieben wurde</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -1146,6 +1146,46 @@
         <source>... and %d more.</source>
         <translation>... and %d more.</translation>
     </message>
+    <message>
+        <source>No space left on the disk: nothing was written</source>
+        <translation>No space left on the disk: nothing was written</translation>
+    </message>
+    <message>
+        <source>The disk quota is used up: nothing was written</source>
+        <translation>The disk quota is used up: nothing was written</translation>
+    </message>
+    <message>
+        <source>The disk is read-only: nothing was written</source>
+        <translation>The disk is read-only: nothing was written</translation>
+    </message>
+    <message>
+        <source>Writing in this folder is not allowed: nothing was written</source>
+        <translation>Writing in this folder is not allowed: nothing was written</translation>
+    </message>
+    <message>
+        <source>The folder does not exist: nothing was written</source>
+        <translation>The folder does not exist: nothing was written</translation>
+    </message>
+    <message>
+        <source>The disk reported an error (%s): nothing was written</source>
+        <translation>The disk reported an error (%s): nothing was written</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</translation>
+    </message>
+    <message>
+        <source>%s counts %s records in its header, but its index and its length prove %s</source>
+        <translation>%s counts %s records in its header, but its index and its length prove %s</translation>
+    </message>
+    <message>
+        <source>the rebuilt table could not be read back as written</source>
+        <translation>the rebuilt table could not be read back as written</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

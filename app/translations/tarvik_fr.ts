@@ -1146,6 +1146,46 @@
         <source>... and %d more.</source>
         <translation>... et %d de plus.</translation>
     </message>
+    <message>
+        <source>No space left on the disk: nothing was written</source>
+        <translation>Plus de place sur le disque : rien n&apos;a été écrit</translation>
+    </message>
+    <message>
+        <source>The disk quota is used up: nothing was written</source>
+        <translation>Le quota du disque est épuisé : rien n&apos;a été écrit</translation>
+    </message>
+    <message>
+        <source>The disk is read-only: nothing was written</source>
+        <translation>Le disque est en lecture seule : rien n&apos;a été écrit</translation>
+    </message>
+    <message>
+        <source>Writing in this folder is not allowed: nothing was written</source>
+        <translation>L&apos;écriture dans ce dossier n&apos;est pas autorisée : rien n&apos;a été écrit</translation>
+    </message>
+    <message>
+        <source>The folder does not exist: nothing was written</source>
+        <translation>Le dossier n&apos;existe pas : rien n&apos;a été écrit</translation>
+    </message>
+    <message>
+        <source>The disk reported an error (%s): nothing was written</source>
+        <translation>Le disque a signalé une erreur (%s) : rien n&apos;a été écrit</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>« %s » ne peut pas être enregistré dans %s : sa page de codes n&apos;a pas %s. Rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>« %s » est trop long pour %s : il contient au plus %s caractères. Rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>%s counts %s records in its header, but its index and its length prove %s</source>
+        <translation>%s compte %s enregistrements dans son en-tête, mais son index et sa longueur en prouvent %s</translation>
+    </message>
+    <message>
+        <source>the rebuilt table could not be read back as written</source>
+        <translation>la table reconstruite n&apos;a pas pu être relue telle qu&apos;elle a été écrite</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

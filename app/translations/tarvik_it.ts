@@ -1146,6 +1146,46 @@
         <source>... and %d more.</source>
         <translation>... e altre %d.</translation>
     </message>
+    <message>
+        <source>No space left on the disk: nothing was written</source>
+        <translation>Spazio esaurito sul disco: non è stato scritto nulla</translation>
+    </message>
+    <message>
+        <source>The disk quota is used up: nothing was written</source>
+        <translation>La quota del disco è esaurita: non è stato scritto nulla</translation>
+    </message>
+    <message>
+        <source>The disk is read-only: nothing was written</source>
+        <translation>Il disco è di sola lettura: non è stato scritto nulla</translation>
+    </message>
+    <message>
+        <source>Writing in this folder is not allowed: nothing was written</source>
+        <translation>La scrittura in questa cartella non è consentita: non è stato scritto nulla</translation>
+    </message>
+    <message>
+        <source>The folder does not exist: nothing was written</source>
+        <translation>La cartella non esiste: non è stato scritto nulla</translation>
+    </message>
+    <message>
+        <source>The disk reported an error (%s): nothing was written</source>
+        <translation>Il disco ha segnalato un errore (%s): non è stato scritto nulla</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>«%s» non può essere memorizzato in %s: la sua tabella codici non ha %s. Non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>«%s» è troppo lungo per %s: contiene al massimo %s caratteri. Non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>%s counts %s records in its header, but its index and its length prove %s</source>
+        <translation>%s conta %s record nella sua intestazione, ma il suo indice e la sua lunghezza ne provano %s</translation>
+    </message>
+    <message>
+        <source>the rebuilt table could not be read back as written</source>
+        <translation>la tabella ricostruita non ha potuto essere riletta come è stata scritta</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

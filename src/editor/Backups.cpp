@@ -11,7 +11,7 @@ QString keepBackup(const QString &dir, const ConfigImage &image, const QDateTime
     QDir backups(dir);
     if (!backups.mkpath(QStringLiteral("."))) {
         if (error)
-            *error = dir;
+            *error = QDir::toNativeSeparators(dir);
         return {};
     }
     // The time first, so that names sort oldest first.
@@ -20,12 +20,22 @@ QString keepBackup(const QString &dir, const ConfigImage &image, const QDateTime
     QString path = backups.filePath(stem + QStringLiteral(".json"));
     for (int n = 2; QFileInfo::exists(path); ++n)
         path = backups.filePath(stem + QStringLiteral("-%1.json").arg(n));
+    // Written whole or not at all; a backup that could not be written prunes nothing.
     if (!saveConfigFile(path, image, error))
         return {};
 
-    const QStringList files =
-        backups.entryList({QStringLiteral("*-serial*.json")}, QDir::Files, QDir::Name);
-    for (qsizetype i = 0; i + kMaxBackups < files.size(); ++i)
-        backups.remove(files.at(i));
+    // An empty file (left by an older version on a full disk) holds nothing to put back: it is
+    // dropped and never counted against the good ones.
+    QStringList kept;
+    const QFileInfoList files =
+        backups.entryInfoList({QStringLiteral("*-serial*.json")}, QDir::Files, QDir::Name);
+    for (const QFileInfo &file : files) {
+        if (file.size() == 0)
+            backups.remove(file.fileName());
+        else
+            kept.append(file.fileName());
+    }
+    for (qsizetype i = 0; i + kMaxBackups < kept.size(); ++i)
+        backups.remove(kept.at(i));
     return path;
 }

@@ -2,12 +2,12 @@
 
 #include "Encodings.h"
 #include "Messages.h"
+#include "WholeFile.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <algorithm>
 #include <cstring>
 
@@ -201,11 +201,5 @@ bool loadConfigFile(const QString &path, ConfigImage &image, QString *error)
 
 bool saveConfigFile(const QString &path, const ConfigImage &image, QString *error)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(configToJson(image)) < 0 || !file.commit()) {
-        if (error)
-            *error = QStringLiteral("%1: %2").arg(path, file.errorString());
-        return false;
-    }
-    return true;
+    return WholeFile::write(path, configToJson(image), error);
 }

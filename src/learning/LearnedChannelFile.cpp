@@ -1,10 +1,11 @@
 #include "LearnedChannelFile.h"
 
+#include "WholeFile.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 namespace {
 
@@ -94,13 +95,7 @@ std::optional<LearnedChannel> fromJson(const QByteArray &json)
 
 bool save(const QString &fileName, const LearnedChannel &channel, QString *error)
 {
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(toJson(channel)) < 0 || !file.commit()) {
-        if (error)
-            *error = file.errorString();
-        return false;
-    }
-    return true;
+    return WholeFile::write(fileName, toJson(channel), error);
 }
 
 std::optional<LearnedChannel> load(const QString &fileName)

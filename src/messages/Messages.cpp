@@ -227,6 +227,29 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages", "The sheet could not be written to %s: %s. Nothing else was "
                                    "changed.")},
     {Msg::SheetNotPrinted, QT_TRANSLATE_NOOP("Messages", "The sheet could not be printed.")},
+    {Msg::WriteDiskFull,
+     QT_TRANSLATE_NOOP("Messages", "No space left on the disk: nothing was written")},
+    {Msg::WriteQuotaFull,
+     QT_TRANSLATE_NOOP("Messages", "The disk quota is used up: nothing was written")},
+    {Msg::WriteReadOnlyDisk,
+     QT_TRANSLATE_NOOP("Messages", "The disk is read-only: nothing was written")},
+    {Msg::WriteNotAllowed,
+     QT_TRANSLATE_NOOP("Messages", "Writing in this folder is not allowed: nothing was written")},
+    {Msg::WriteNoFolder,
+     QT_TRANSLATE_NOOP("Messages", "The folder does not exist: nothing was written")},
+    {Msg::WriteDiskError,
+     QT_TRANSLATE_NOOP("Messages", "The disk reported an error (%s): nothing was written")},
+    {Msg::NameOutsideCodePage,
+     QT_TRANSLATE_NOOP("Messages", "\"%s\" cannot be stored in %s: its code page has no %s. "
+                                   "Nothing was written.")},
+    {Msg::NameTooLong,
+     QT_TRANSLATE_NOOP("Messages", "\"%s\" is too long for %s: it holds at most %s characters. "
+                                   "Nothing was written.")},
+    {Msg::RecordsRowsPastCount,
+     QT_TRANSLATE_NOOP("Messages", "%s counts %s records in its header, but its index and its "
+                                   "length prove %s")},
+    {Msg::RepairNotReadBack,
+     QT_TRANSLATE_NOOP("Messages", "the rebuilt table could not be read back as written")},
 };
 
 } // namespace

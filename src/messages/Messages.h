@@ -134,6 +134,19 @@ enum class Msg
     FileNotReadable,
     SheetNotWritten,
     SheetNotPrinted,
+    // writing files
+    WriteDiskFull,
+    WriteQuotaFull,
+    WriteReadOnlyDisk,
+    WriteNotAllowed,
+    WriteNoFolder,
+    WriteDiskError,
+    // names the tables cannot hold
+    NameOutsideCodePage,
+    NameTooLong,
+    // damaged headers
+    RecordsRowsPastCount,
+    RepairNotReadBack,
     Count_
 };
 

@@ -2,6 +2,7 @@
 
 #include "DbfTableDetail.h"
 
+#include "MdxIndex.h"
 #include "Messages.h"
 #include "TableSchema.h"
 
@@ -113,6 +114,49 @@ int markedRows(const QByteArray &bytes, qint64 offset, int recordLength, qint64 
     return n;
 }
 
+// Whether the bytes from `from` to `to` are the zeros some engines put after the end mark (a
+// header length pointing into the first row is not).
+bool paddingOnly(const QByteArray &bytes, qint64 from, qint64 to)
+{
+    for (qint64 i = from; i < to && i < bytes.size(); ++i) {
+        if (bytes.at(i) != '\0')
+            return false;
+    }
+    return true;
+}
+
+// A field length another tool spoilt (255 in place of 30): the one field whose length, set
+// back to the width the table is known to have, makes the fields add up to the record length.
+// Its descriptor is mended in header too. False when no single field does.
+bool mendFieldLength(QList<DbfField> &fields, QByteArray &header, int recordLength,
+                     const TableSchema *schema, bool level7)
+{
+    if (!schema || recordLength <= 1)
+        return false;
+    const int total = recordLengthOf(fields);
+    for (int i = 0; i < fields.size(); ++i) {
+        const FieldDef *def = nullptr;
+        for (const FieldDef &known : schema->fields) {
+            if (known.name.compare(fields.at(i).name, Qt::CaseInsensitive) == 0)
+                def = &known;
+        }
+        if (!def || def->dbaseWidth() == fields.at(i).length ||
+            total - fields.at(i).length + def->dbaseWidth() != recordLength)
+            continue;
+        fields[i].length = def->dbaseWidth();
+        const int at = fields.at(i).descriptorOffset + (level7 ? 33 : 16);
+        if (at < header.size())
+            header[at] = char(def->dbaseWidth());
+        int offset = 1;
+        for (DbfField &f : fields) {
+            f.offset = offset;
+            offset += f.length;
+        }
+        return true;
+    }
+    return false;
+}
+
 // A descriptor for a field the table is known to have, as a new table gets it.
 QByteArray schemaDescriptor(const FieldDef &def, const TableSchema &schema, bool level7)
 {
@@ -160,7 +204,8 @@ DbfLayout DbfLayout::read(const QByteArray &bytes, const QString &fileName,
     else if (!d.badField.isEmpty())
         l.problem = messageText(Msg::RecordsBadField, {fileName, d.badField});
     else if (d.fields.isEmpty() || declaredHeader < fixed + 1 || d.end >= declaredHeader ||
-             declaredHeader > size || recordLengthOf(d.fields) != declaredRecord)
+             declaredHeader > size || recordLengthOf(d.fields) != declaredRecord ||
+             (!l.level7 && !paddingOnly(bytes, d.end + 1, declaredHeader)))
         l.problem = messageText(Msg::RecordsBadHeader, {fileName});
     if (l.problem.isEmpty()) {
         l.fields = d.fields;
@@ -184,14 +229,20 @@ DbfLayout DbfLayout::read(const QByteArray &bytes, const QString &fileName,
     // Recovering a header that does not parse: from a whole descriptor list first.
     QList<qint64> offsets; // where the rows may start, most likely first
     const bool wholeList = d.end >= 0 && !d.fields.isEmpty() && recordLengthOf(d.fields) <= 0xFFFF;
+    QByteArray mended = bytes.left(d.end + 1);
+    QList<DbfField> fields = d.fields;
+    const bool lengthMended = d.end >= 0 && !fields.isEmpty() &&
+                              recordLengthOf(fields) != declaredRecord &&
+                              mendFieldLength(fields, mended, declaredRecord, schema, l.level7);
     if (wholeList) {
-        l.fields = d.fields;
+        l.fields = fields;
         if (l.level7 && declaredHeader > d.end && declaredHeader <= size)
             offsets.append(declaredHeader); // after the field properties
         offsets.append(d.end + 1);
         if (!l.level7)
             offsets.append(d.end + 2); // some engines put a zero after the end mark
-        if (declaredHeader > d.end && declaredHeader <= size)
+        if (declaredHeader > d.end && declaredHeader <= size && !lengthMended &&
+            paddingOnly(bytes, d.end + 1, declaredHeader))
             offsets.append(declaredHeader);
     } else if (schema) {
         // Then from the fields the table is known to have, keeping the descriptors that are
@@ -253,7 +304,7 @@ DbfLayout DbfLayout::read(const QByteArray &bytes, const QString &fileName,
     }
     l.rows = std::max(best, 0);
     if (wholeList) // the header runs up to the rows, with what follows the end mark
-        l.header = bytes.left(std::max(l.rowsOffset, d.end + 1));
+        l.header = mended + bytes.mid(d.end + 1, std::max<qint64>(l.rowsOffset - d.end - 1, 0));
     const qint64 rest = size - l.rowsOffset;
     const bool partRow = rest % l.recordLength > 1 ||
                          (rest % l.recordLength == 1 && bytes.at(size - 1) != kEndOfFile);
@@ -276,4 +327,40 @@ QByteArray DbfLayout::rebuilt(const QByteArray &bytes, const QDate &today) const
     out.append(bytes.mid(rowsOffset, qint64(rows) * recordLength));
     out.append(kEndOfFile);
     return out;
+}
+
+DbfLayout DbfLayout::read(const QByteArray &bytes, const QByteArray &index, const QString &fileName,
+                          const TableSchema *schema)
+{
+    DbfLayout l = read(bytes, fileName, schema);
+    // Only a file holding whole rows past its count needs its index looked at.
+    if (l.state != State::Sound || index.isEmpty() || l.recordLength <= 0 ||
+        (bytes.size() - l.rowsOffset) / l.recordLength <= l.rows)
+        return l;
+    // The highest record the index names.
+    MdxIndex mdx;
+    MdxProblem problem;
+    if (!mdx.parse(index, &problem))
+        return l;
+    const LanguageDriver *driver = LanguageDriver::byId(mdx.language());
+    quint32 named = 0;
+    for (int t = 0; t < mdx.tags().size(); ++t) {
+        std::vector<MdxKey> keys;
+        if (!mdx.readKeys(index, t, driver ? *driver : LanguageDriver::none(), keys, &problem))
+            continue;
+        for (const MdxKey &key : keys)
+            named = std::max(named, key.recno);
+    }
+    if (qint64(named) <= l.rows)
+        return l;
+    // Kept only when the file still holds every one of them, each a live or deleted row.
+    const int whole = markedRows(bytes, l.rowsOffset, l.recordLength, 0);
+    if (whole < qint64(named))
+        return l;
+    l.problem = messageText(Msg::RecordsRowsPastCount,
+                            {fileName, QString::number(l.rows), QString::number(named)});
+    l.rows = int(named);
+    l.state = State::Damaged;
+    qToLittleEndian<quint32>(quint32(l.rows), l.header.data() + 4);
+    return l;
 }

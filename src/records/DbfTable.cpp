@@ -209,7 +209,7 @@ bool DbfTable::openBytes(const QByteArray &table, const QByteArray &index,
     m_schema = schema;
     m_memoryOnly = true;
     setReadOnly(messageText(Msg::RecordsReadOnly, {m_path}));
-    if (!parseTable(table) || !checkSchema())
+    if (!parseTable(table, index.isEmpty() ? nullptr : &index) || !checkSchema())
         return false;
     attachIndex(index.isEmpty() ? nullptr : &index);
     if (m_indexProblem.isSet() && m_damage.isEmpty()) {
@@ -269,9 +269,11 @@ void DbfTable::setReadOnly(const QString &reason)
     m_readOnlyReason = reason;
 }
 
-bool DbfTable::parseTable(const QByteArray &bytes)
+bool DbfTable::parseTable(const QByteArray &bytes, const QByteArray *indexBytes)
 {
-    const DbfLayout layout = DbfLayout::read(bytes, fileName(), m_schema);
+    // Rows past a lowered count that the index still names are shown, read-only.
+    const DbfLayout layout = indexBytes ? DbfLayout::read(bytes, *indexBytes, fileName(), m_schema)
+                                        : DbfLayout::read(bytes, fileName(), m_schema);
     if (layout.state == DbfLayout::State::Unreadable)
         return fail(Msg::RecordsUnreadable, {layout.problem});
     m_level7 = layout.level7;

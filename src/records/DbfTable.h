@@ -164,6 +164,10 @@ public:
     QString text(int rec, int f) const;
     QString text(int rec, const QString &name) const;
     QByteArray rawField(int rec, int f) const;
+    // Why text cannot be kept exactly in character field `name`: characters the table's code
+    // page lacks, or more than the field holds. Empty when it round-trips as typed. Names are
+    // checked with it before anything is written, so that none is stored under another name.
+    QString textRefusal(const QString &name, const QString &text) const;
 
     // False with errorString() when the value does not fit the field or the table is
     // read-only. Text longer than a character field is cut, as dBase engines do.
@@ -213,7 +217,7 @@ Q_SIGNALS:
 
 private:
     bool fail(Msg id, const QStringList &args) const;
-    bool parseTable(const QByteArray &bytes);
+    bool parseTable(const QByteArray &bytes, const QByteArray *indexBytes);
     bool checkSchema();
     void attachIndex(const QByteArray *indexBytes);
     void setReadOnly(const QString &reason);

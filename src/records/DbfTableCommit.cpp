@@ -155,7 +155,7 @@ bool DbfTable::commitLocked()
     auto abandon = [&](const QString &why) {
         if (!indexTemp.isEmpty())
             QFile::remove(indexTemp);
-        rememberDiskState(); // a tail beyond the counted rows is ours, and harmless
+        rememberDiskState();
         return fail(Msg::RecordsCannotWrite,
                     {name, why.isEmpty() ? QStringLiteral("injected failure") : why});
     };
@@ -174,14 +174,22 @@ bool DbfTable::commitLocked()
         HookAction action = step(CommitStep::AppendRecords);
         if (action == HookAction::Crash)
             return false;
+        // A failed append (a full disk) is cut off again, the end-of-file marker put back: no
+        // other dBase reader may take its rows past the record count for live ones.
+        auto undoAppend = [&](const QString &reason) {
+            QString ignored;
+            DurableFile::truncate(m_path, committedEnd, &ignored);
+            DurableFile::writeAt(m_path, committedEnd, QByteArray(1, kEndOfFile), &ignored);
+            return abandon(reason);
+        };
         if (action == HookAction::Fail || !DurableFile::writeAt(m_path, committedEnd, tail, &why))
-            return abandon(why);
+            return undoAppend(why);
         action = step(CommitStep::UpdateHeader);
         if (action == HookAction::Crash)
             return false;
         if (action == HookAction::Fail ||
             !DurableFile::writeAt(m_path, 1, m_header.mid(1, 7), &why))
-            return abandon(why);
+            return undoAppend(why);
         DurableFile::truncate(m_path, committedEnd + tail.size(), &why);
     } else if (tableChanged) {
         const QString tableTemp = m_path + kTempSuffix;

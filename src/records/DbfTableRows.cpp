@@ -151,6 +151,25 @@ QString DbfTable::text(int rec, const QString &name) const
     return text(rec, fieldIndex(name));
 }
 
+QString DbfTable::textRefusal(const QString &name, const QString &text) const
+{
+    const int f = fieldIndex(name);
+    if (f < 0 || m_fields.at(f).type != 'C')
+        return messageText(Msg::RecordsFieldMissing, {fileName(), name});
+    QString missing;
+    for (const QChar ch : text) {
+        if (ch != u'?' && lang().encode(QStringView(&ch, 1)) == "?" && !missing.contains(ch))
+            missing += missing.isEmpty() ? QString(ch) : QStringLiteral(", ") + ch;
+    }
+    if (!missing.isEmpty())
+        return messageText(Msg::NameOutsideCodePage, {text, fileName(), missing});
+    if (lang().encode(text).size() > m_fields.at(f).length)
+        return messageText(Msg::NameTooLong,
+                           {text, QStringLiteral("%1 (%2)").arg(fileName(), m_fields.at(f).name),
+                            QString::number(m_fields.at(f).length)});
+    return {};
+}
+
 // ---------------------------------------------------------------------------------------------
 // Changing
 

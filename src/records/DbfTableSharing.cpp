@@ -87,7 +87,7 @@ bool DbfTable::readFromDisk()
         m_readOnlyReason = messageText(Msg::RecordsReadOnly, {fileName()});
         m_notices.append(m_readOnlyReason);
     }
-    if (!parseTable(bytes) || !checkSchema())
+    if (!parseTable(bytes, haveIndex ? &indexBytes : nullptr) || !checkSchema())
         return false;
     attachIndex(haveIndex ? &indexBytes : nullptr);
     m_tableStamp = tableStamp;

@@ -1,5 +1,7 @@
 #include "DurableFile.h"
 
+#include "WholeFile.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -16,6 +18,7 @@
 
 namespace DurableFile {
 
+#ifdef Q_OS_WIN
 namespace {
 
 bool flushToDisk(QFile &file, QString *error)
@@ -24,12 +27,7 @@ bool flushToDisk(QFile &file, QString *error)
         *error = file.errorString();
         return false;
     }
-#ifdef Q_OS_WIN
-    const bool ok = ::_commit(file.handle()) == 0;
-#else
-    const bool ok = ::fsync(file.handle()) == 0;
-#endif
-    if (!ok) {
+    if (::_commit(file.handle()) != 0) {
         *error = QString::fromLocal8Bit(std::strerror(errno));
         return false;
     }
@@ -37,6 +35,68 @@ bool flushToDisk(QFile &file, QString *error)
 }
 
 } // namespace
+#endif
+
+#ifndef Q_OS_WIN
+
+namespace {
+
+// Writes all of data at offset of fd, checking every write; errno tells why it stopped.
+bool writeAllAt(int fd, qint64 offset, const QByteArray &data)
+{
+    const char *bytes = data.constData();
+    qint64 left = data.size();
+    while (left > 0) {
+        const ssize_t n = ::pwrite(fd, bytes, size_t(left), off_t(offset));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0) {
+            if (n == 0)
+                errno = ENOSPC;
+            return false;
+        }
+        bytes += n;
+        offset += n;
+        left -= n;
+    }
+    return true;
+}
+
+bool writeFile(const QString &path, int flags, qint64 offset, const QByteArray &data,
+               QString *error)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, 0666);
+    if (fd < 0) {
+        *error = WholeFile::reason(errno);
+        return false;
+    }
+    bool ok = writeAllAt(fd, offset, data) && ::fsync(fd) == 0;
+    int failure = ok ? 0 : errno;
+    if (::close(fd) != 0 && ok) {
+        failure = errno;
+        ok = false;
+    }
+    if (!ok)
+        *error = WholeFile::reason(failure);
+    return ok;
+}
+
+} // namespace
+
+bool write(const QString &path, const QByteArray &data, QString *error)
+{
+    if (writeFile(path, O_WRONLY | O_CREAT | O_TRUNC, 0, data, error))
+        return true;
+    QFile::remove(path);
+    return false;
+}
+
+bool writeAt(const QString &path, qint64 offset, const QByteArray &data, QString *error)
+{
+    return writeFile(path, O_RDWR, offset, data, error);
+}
+
+#else
 
 bool write(const QString &path, const QByteArray &data, QString *error)
 {
@@ -45,13 +105,9 @@ bool write(const QString &path, const QByteArray &data, QString *error)
         *error = file.errorString();
         return false;
     }
-    if (file.write(data) != data.size()) {
-        *error = file.errorString();
-        file.close();
-        QFile::remove(path);
-        return false;
-    }
-    if (!flushToDisk(file, error)) {
+    if (file.write(data) != data.size() || !flushToDisk(file, error)) {
+        if (error->isEmpty())
+            *error = file.errorString();
         file.close();
         QFile::remove(path);
         return false;
@@ -73,13 +129,15 @@ bool writeAt(const QString &path, qint64 offset, const QByteArray &data, QString
     return flushToDisk(file, error);
 }
 
+#endif
+
 bool truncate(const QString &path, qint64 size, QString *error)
 {
     QFile file(path);
     if (file.size() <= size)
         return true;
     if (!file.resize(size)) {
-        *error = file.errorString();
+        *error = file.errorString(); // a shortening frees space: it fails only on a broken disk
         return false;
     }
     return true;

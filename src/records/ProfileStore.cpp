@@ -104,9 +104,16 @@ ProfileStore::Outcome ProfileStore::save(const ProfileRecord &profile)
         return Outcome::Failed;
     }
     DbfTable &table = *m_db.DemTable();
-    // The name is kept as the field holds it, so that it is found again.
-    key.truncate(table.field(table.fieldIndex(QStringLiteral("NOM"))).length);
-    key = key.trimmed();
+    // A name is kept exactly as typed or refused before anything is written.
+    for (const QString &refusal :
+         {table.textRefusal(QStringLiteral("NOM"), key),
+          table.textRefusal(QStringLiteral("DESCRIPT"), profile.description.trimmed())}) {
+        if (!refusal.isEmpty()) {
+            m_error = refusal;
+            m_prompt.tell(refusal, UserPrompt::Kind::Error);
+            return Outcome::Failed;
+        }
+    }
 
     auto fill = [&](int r) {
         bool ok =

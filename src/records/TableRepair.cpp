@@ -35,6 +35,28 @@ QString indexPathOf(const QString &path, const TableSchema *schema)
                                             : info.completeBaseName() + QStringLiteral(".MDX"));
 }
 
+// Whether the rebuilt table reads back as a sound table with every row kept, each field of
+// each row readable: no table is written whose rows cannot be read.
+bool readsBack(const QByteArray &rebuilt, const DbfLayout &layout, const TableSchema *schema)
+{
+    const DbfLayout again = DbfLayout::read(rebuilt, QStringLiteral("rebuilt"), schema);
+    if (again.state != DbfLayout::State::Sound || again.rows != layout.rows)
+        return false;
+    DbfTable t;
+    if (!t.openBytes(rebuilt, {}, schema) || t.isDamaged() || t.recordCount() != layout.rows)
+        return false;
+    for (int r = 0; r < t.recordCount(); ++r) {
+        for (int f = 0; f < t.fieldCount(); ++f) {
+            // A number or a date that is not blank must read as one.
+            const char type = t.field(f).type;
+            if ((type == 'N' || type == 'F' || type == 'D') &&
+                !t.rawField(r, f).trimmed().isEmpty() && t.value(r, f).isNull())
+                return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 bool TableRepair::Result::sound() const
@@ -127,7 +149,7 @@ TableRepair::Result TableRepair::examine(const QString &path, const QByteArray &
 {
     Result r;
     r.fileName = QFileInfo(path).fileName();
-    const DbfLayout layout = DbfLayout::read(table, r.fileName, schema);
+    const DbfLayout layout = DbfLayout::read(table, index, r.fileName, schema);
     r.kept = layout.rows;
     r.unreadable = layout.unreadable;
     r.problem = layout.problem;
@@ -216,9 +238,12 @@ TableRepair::Result TableRepair::repairFile(const QString &path, const TableSche
 
     // Then the table with every row that can be read takes the damaged one's place in one step.
     if (damaged) {
-        const DbfLayout layout = DbfLayout::read(table, r.fileName, schema);
+        const DbfLayout layout = DbfLayout::read(table, index, r.fileName, schema);
+        const QByteArray rebuilt = layout.rebuilt(table, QDate::currentDate());
+        if (!readsBack(rebuilt, layout, schema))
+            return failed(messageText(Msg::RepairNotReadBack));
         const QString temp = path + kTempSuffix;
-        if (!DurableFile::write(temp, layout.rebuilt(table, QDate::currentDate()), &why)) {
+        if (!DurableFile::write(temp, rebuilt, &why)) {
             QFile::remove(temp);
             return failed(messageText(Msg::RecordsCannotWrite, {r.fileName, why}));
         }

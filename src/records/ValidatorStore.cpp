@@ -61,9 +61,18 @@ ValidatorStore::Outcome ValidatorStore::store(const ConfigImage &image,
     }
     DbfTable &validators = *m_db.Gettoniere();
     DbfTable &channels = *m_db.Channel();
-    // The identification is kept as the field holds it, so that it is found again.
-    ident.truncate(validators.field(validators.fieldIndex(QStringLiteral("IDENT"))).length);
-    ident = ident.trimmed();
+    // A name is kept exactly as typed or refused before anything is written: cut, or with '?'
+    // for what the code page lacks, it would be found as another validator.
+    for (const QString &refusal :
+         {validators.textRefusal(QStringLiteral("IDENT"), ident),
+          channels.textRefusal(QStringLiteral("MONNAYEUR"), ident),
+          validators.textRefusal(QStringLiteral("DESCRIPTIO"), description.trimmed())}) {
+        if (!refusal.isEmpty()) {
+            m_error = refusal;
+            m_prompt.tell(refusal, UserPrompt::Kind::Error);
+            return Outcome::Failed;
+        }
+    }
 
     auto overwrite = [&] {
         return m_prompt.ask(messageText(Msg::ExistOverwrite, {ident}), UserPrompt::Kind::Warning,

@@ -118,9 +118,16 @@ ValueTableStore::Outcome ValueTableStore::save(const ValueBlock &block, const QS
         return Outcome::Failed;
     }
     DbfTable &table = *m_db.ValueTable();
-    // The name is kept as the field holds it, so that it is found again.
-    key.truncate(table.field(table.fieldIndex(QStringLiteral("IDENTI"))).length);
-    key = key.trimmed();
+    // A name is kept exactly as typed or refused before anything is written.
+    for (const QString &refusal :
+         {table.textRefusal(QStringLiteral("IDENTI"), key),
+          table.textRefusal(QStringLiteral("DESCRIP"), description.trimmed())}) {
+        if (!refusal.isEmpty()) {
+            m_error = refusal;
+            m_prompt.tell(refusal, UserPrompt::Kind::Error);
+            return Outcome::Failed;
+        }
+    }
 
     // The encoded device values are kept, not amounts.
     auto fill = [&](int r) {

@@ -7,6 +7,7 @@
 #include "LineTiming.h"
 #include "PtyServer.h"
 #include "VirtualValidator.h"
+#include "WholeFile.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -267,10 +268,8 @@ int main(int argc, char *argv[])
     if (parser.isSet(save) && !saveConfigFile(parser.value(save), device.memory(), &error))
         status = fail(QStringLiteral("cannot save %1: %2").arg(parser.value(save), error));
     if (parser.isSet(firmwareOut)) {
-        QFile out(parser.value(firmwareOut));
-        if (!out.open(QIODevice::WriteOnly) || out.write(device.firmwareBytes()) < 0)
-            status = fail(QStringLiteral("cannot write %1: %2")
-                              .arg(parser.value(firmwareOut), out.errorString()));
+        if (!WholeFile::write(parser.value(firmwareOut), device.firmwareBytes(), &error))
+            status = fail(QStringLiteral("cannot write %1").arg(error));
     }
     return status;
 }

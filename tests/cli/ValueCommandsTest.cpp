@@ -86,3 +86,29 @@ TEST_F(ValueCommands, SaveListApplyDelete)
     EXPECT_EQ(values(db(), {"frobnicate"}).code, kExitUsage);
     EXPECT_EQ(values(db(), {"save", "OnlyName"}).code, kExitUsage);
 }
+
+// Names the tables cannot hold, typed on the command line: refused with the characters or the
+// width named, exit 1, nothing stored, and never found under the name with '?' in it.
+TEST_F(ValueCommands, NamesOutsideTheCodePageOrTooLongAreRefused)
+{
+    QString error;
+    ASSERT_TRUE(saveConfigFile(path("v.json"), ConfigImage::blank(), &error));
+    const QStringList data{QStringLiteral("--data-dir"), db()};
+    for (const QString &name :
+         {QStringLiteral("Łódź-1"), QStringLiteral("Kasse 日本"), QString(33, QLatin1Char('K'))}) {
+        SCOPED_TRACE(name.toStdString());
+        const InProcessRun save =
+            runInProcess(data + QStringList{"save", path("v.json"), "--ident", name});
+        EXPECT_EQ(save.code, kExitFailed);
+        EXPECT_TRUE(save.err.contains(QLatin1String("Nothing was written.")))
+            << qPrintable(save.err);
+        EXPECT_TRUE(save.err.contains(name.startsWith('K') && name.size() > 30
+                                          ? QStringLiteral("at most 30 characters")
+                                          : QStringLiteral("its code page has no")));
+        const InProcessRun stored = values(db(), {"save", name, path("v.json")});
+        EXPECT_EQ(stored.code, kExitFailed);
+        EXPECT_EQ(runInProcess(data + QStringList{"load", name}).code, kExitFailed);
+    }
+    EXPECT_EQ(runInProcess(data + QStringList{"list"}).out, QString());
+    EXPECT_EQ(values(db(), {"list"}).out, QString());
+}

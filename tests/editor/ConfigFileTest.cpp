@@ -1,4 +1,10 @@
 #include "ConfigFile.h"
+#include "Backups.h"
+#include "Messages.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -103,6 +109,38 @@ TEST(ConfigFile, SaveAndLoadFiles)
     EXPECT_FALSE(loadConfigFile(dir.filePath("missing.json"), back, &error));
     EXPECT_TRUE(error.contains("missing.json"));
     EXPECT_FALSE(saveConfigFile(dir.filePath("no/such/dir/v.json"), back, &error));
+    EXPECT_TRUE(error.endsWith(messageText(Msg::WriteNoFolder))) << qPrintable(error);
+
+    // A file reached through a symbolic link is replaced where the link points; the link stays.
+    const QString shared = dir.filePath("shared.json");
+    ASSERT_TRUE(QFile::link(path, shared));
+    ASSERT_TRUE(saveConfigFile(shared, sampleImage(0x13), &error));
+    EXPECT_TRUE(QFileInfo(shared).isSymLink());
+    ASSERT_TRUE(loadConfigFile(path, back, &error));
+    EXPECT_EQ(back.familyByte(), 0x13);
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).size(), 2); // no temporary
+}
+
+// The backups keep at most kMaxBackups good files: an empty one (left by an older version on a
+// full disk) is dropped, never counted against a good one (a backup that cannot be written
+// prunes nothing: see the full-disk tests of tarvik-cli).
+TEST(ConfigFile, BackupsPruneOnlyAfterAGoodWrite)
+{
+    QTemporaryDir dir;
+    QDir backups(dir.path());
+    for (int i = 0; i < kMaxBackups; ++i) {
+        QFile f(backups.filePath(QStringLiteral("2020%1-serial1.json").arg(i, 4, 10, QChar('0'))));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        if (i != 5)
+            f.write("{}");
+    }
+    QString error;
+    const QDateTime when(QDate(2026, 1, 1), QTime(8, 0));
+    ASSERT_FALSE(keepBackup(dir.path(), sampleImage(0x02), when, &error).isEmpty());
+    const QStringList kept = backups.entryList(QDir::Files, QDir::Name);
+    EXPECT_EQ(kept.size(), kMaxBackups);
+    EXPECT_TRUE(kept.contains(QStringLiteral("20200000-serial1.json"))); // the oldest good one
+    EXPECT_FALSE(kept.contains(QStringLiteral("20200005-serial1.json")));
 }
 
 } // namespace

@@ -4,12 +4,14 @@
 #include "ConfigFile.h"
 #include "EditorServices.h"
 #include "Encodings.h"
+#include "Messages.h"
 #include "RecordingPrompt.h"
 #include "SimTransport.h"
 #include "VirtualValidator.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <memory>
@@ -493,5 +495,14 @@ TEST(EditorFiles, ASavedFileOpensAgainAndAMalformedOneChangesNothing)
     e.model->BtnOpenFileClick();
     EXPECT_EQ(e.image().channels[2][Rec::HfuLowMin], 99);
     EXPECT_EQ(e.text("EHFUBMIN2"), QStringLiteral(" 99"));
+    EXPECT_TRUE(e.model->flags().configModified);
+
+    // A save that cannot be written says why in plain words and leaves the editor as it was.
+    e.prompt.clear();
+    e.services.savePath = e.backupDir.filePath("gone/saved.json");
+    e.model->BtnSaveFileClick();
+    ASSERT_EQ(e.prompt.told().size(), 1);
+    EXPECT_TRUE(e.prompt.told().first().endsWith(messageText(Msg::WriteNoFolder)));
+    EXPECT_FALSE(QFileInfo::exists(e.services.savePath));
     EXPECT_TRUE(e.model->flags().configModified);
 }

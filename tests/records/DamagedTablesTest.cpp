@@ -100,6 +100,33 @@ protected:
                  return b;
              },
              180, 0, messageText(Msg::RecordsBadField, {name, QStringLiteral("HFUHIGHMAX")})},
+            // Another tool's slips: the header length off by 7 either way (pointing into the
+            // first row, or into the descriptors), a field length of 255, a lowered count whose
+            // rows the index still names.
+            {"header length 7 too long",
+             [=](QByteArray b) {
+                 qToLittleEndian<quint16>(quint16(h + 7), b.data() + 8);
+                 return b;
+             },
+             180, 0, messageText(Msg::RecordsBadHeader, {name})},
+            {"header length 7 too short",
+             [=](QByteArray b) {
+                 qToLittleEndian<quint16>(quint16(h - 7), b.data() + 8);
+                 return b;
+             },
+             180, 0, messageText(Msg::RecordsBadHeader, {name})},
+            {"field length 255",
+             [](QByteArray b) {
+                 b[32 + 16] = char(255); // MONNAYEUR
+                 return b;
+             },
+             180, 0, messageText(Msg::RecordsBadHeader, {name})},
+            {"count lowered",
+             [](QByteArray b) {
+                 qToLittleEndian<quint32>(100, b.data() + 4);
+                 return b;
+             },
+             180, 0, messageText(Msg::RecordsRowsPastCount, {name, "100", "180"})},
         };
     }
 
@@ -244,6 +271,23 @@ TEST_F(DamagedTablesTest, RepairKeepsExactlyTheReadableRecords)
         EXPECT_EQ(readAll(path(s.fileName)), repaired);
         EXPECT_EQ(readAll(path(s.indexFileName)), fixedIndex);
     }
+}
+
+// A header whose field lengths cannot be mended would give rows that do not read back: the
+// repair says so and leaves the table and its index as they were.
+TEST_F(DamagedTablesTest, RepairRefusesRowsItCannotReadBack)
+{
+    QByteArray bad = channels;
+    bad[32 + 16] = char(255);            // MONNAYEUR
+    bad[10] = char(quint8(bad[10]) + 1); // and the record length: no single field mends both
+    writeAll(path(s.fileName), bad);
+    TableRepair repair(dataDir);
+    const TableRepair::Result r = repair.repair().at(1);
+    EXPECT_EQ(r.state, TableRepair::State::Failed);
+    EXPECT_EQ(r.text(),
+              messageText(Msg::RepairFailed, {s.fileName, messageText(Msg::RepairNotReadBack)}));
+    EXPECT_EQ(readAll(path(s.fileName)), bad);
+    EXPECT_EQ(readAll(path(s.indexFileName)), index);
 }
 
 // A file of which nothing can be read is said once and left as it is; the other tables work.

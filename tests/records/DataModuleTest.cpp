@@ -217,10 +217,39 @@ TEST_F(DataModuleTest, StoreAsksBeforeOverwriting)
     ValidatorStore store(db, prompt);
     ConfigImage image = sampleImage();
 
-    const QString longName(40, QLatin1Char('L'));
-    ASSERT_EQ(store.store(image, longName, {}), ValidatorStore::Outcome::Stored);
-    EXPECT_EQ(store.store(image, longName, {}), ValidatorStore::Outcome::NotOverwritten);
-    ASSERT_TRUE(store.remove(longName.left(30)));
+    // A name cut to its field, or with '?' for what the code page lacks, would be found as
+    // another validator: it is refused, and nothing is written.
+    const auto files = [&] {
+        QByteArray all;
+        for (const DbfTable *t : {db.Gettoniere(), db.Channel()}) {
+            QFile f(t->filePath());
+            f.open(QIODevice::ReadOnly);
+            all += f.readAll();
+        }
+        return all;
+    };
+    const QByteArray empty = files();
+    const QString longName(31, QLatin1Char('L'));
+    const QString validators = TableSchema::gettoniere().fileName;
+    const QList<std::pair<QString, QString>> refused = {
+        {longName, messageText(Msg::NameTooLong, {longName, validators + " (IDENT)", "30"})},
+        {QStringLiteral("Łódź-1"),
+         messageText(Msg::NameOutsideCodePage, {QStringLiteral("Łódź-1"), validators, "Ł, ź"})},
+        {QStringLiteral("Kasse 日本"),
+         messageText(Msg::NameOutsideCodePage,
+                     {QStringLiteral("Kasse 日本"), validators, QStringLiteral("日, 本")})}};
+    for (const auto &[name, message] : refused) {
+        prompt.clear();
+        EXPECT_EQ(store.store(image, name, {}), ValidatorStore::Outcome::Failed);
+        EXPECT_EQ(prompt.told(), QStringList{message});
+        EXPECT_FALSE(store.load(name, image));
+    }
+    EXPECT_EQ(store.store(image, QStringLiteral("ok"), QString(31, QLatin1Char('d'))),
+              ValidatorStore::Outcome::Failed);
+    EXPECT_EQ(files(), empty);
+    EXPECT_TRUE(store.list().isEmpty());
+    ASSERT_EQ(store.store(image, QString(30, QLatin1Char('L')), QStringLiteral("Żółw")),
+              ValidatorStore::Outcome::Failed);
     prompt.clear();
     EXPECT_EQ(store.store(image, QStringLiteral("  "), {}),
               ValidatorStore::Outcome::EmptyIdentification);
@@ -337,6 +366,38 @@ TEST_F(DataModuleTest, ARowChangedWhileTheQuestionWaitsIsAskedAboutAgain)
     EXPECT_TRUE(profiles.remove(QStringLiteral("2 EUR"))); // as read now: no question
     EXPECT_TRUE(theirProfiles.list().isEmpty());
     EXPECT_TRUE(checkAll().isEmpty());
+}
+
+} // namespace
+
+namespace {
+
+// Value table and profile names are held to the same rule: refused, with nothing written,
+// when the code page lacks a character or the field is too short; the name then is not found
+// under the name with '?' in it.
+TEST_F(DataModuleTest, ValueTableAndProfileNamesRoundTripOrAreRefused)
+{
+    TDBModule db;
+    ASSERT_TRUE(db.open(dataDir));
+    RecordingPrompt prompt(UserPrompt::Answer::Yes);
+    ValueTableStore values(db, prompt);
+    ProfileStore profiles(db, prompt);
+    const ValueBlock block = sampleImage().values;
+    for (const QString &name : {QStringLiteral("Łódź"), QString(33, QLatin1Char('x'))}) {
+        prompt.clear();
+        EXPECT_EQ(values.save(block, name, {}, false), ValueTableStore::Outcome::Failed);
+        ProfileRecord p;
+        p.name = name;
+        EXPECT_EQ(profiles.save(p), ProfileStore::Outcome::Failed);
+        ASSERT_EQ(prompt.told().size(), 2);
+        EXPECT_TRUE(prompt.told().at(0).endsWith(QLatin1String("Nothing was written.")));
+    }
+    EXPECT_EQ(db.ValueTable()->recordCount(), 0);
+    EXPECT_EQ(db.DemTable()->recordCount(), 0);
+    EXPECT_EQ(values.save(block, QStringLiteral("Zürich"), {}, false),
+              ValueTableStore::Outcome::Saved);
+    EXPECT_EQ(values.list().size(), 1);
+    EXPECT_EQ(values.list().at(0).name, QStringLiteral("Zürich"));
 }
 
 } // namespace

@@ -2,11 +2,13 @@
 #include "DbfTable.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
+#include "Messages.h"
 #include "ProfileStore.h"
 #include "RecordingPrompt.h"
 #include "SavedValidatorsModel.h"
 #include "TDBModule.h"
 #include "TableSchema.h"
+#include "ValidatorStoreTables.h"
 #include "ValueTableModel.h"
 #include "ValueTableStore.h"
 #include "VirtualValidator.h"
@@ -160,4 +162,34 @@ TEST(SavedValidators, ListedInTheOrderOfTheirIndex)
     for (const ProfileStore::Entry &entry : profiles.list())
         listed.append(entry.name);
     EXPECT_EQ(listed, names);
+}
+
+// The editor's "save in the tables" with an identification the tables cannot hold: the
+// editor's prompt says which characters, and nothing is stored.
+TEST(SavedValidators, TheEditorSaysWhichCharactersTheTablesCannotHold)
+{
+    QTemporaryDir root;
+    TDBModule db;
+    ASSERT_TRUE(db.open(QDir(root.path()).filePath(QStringLiteral("TarvikDB"))));
+    RecordingPrompt prompt(UserPrompt::Answer::Yes);
+    struct Services : DefaultEditorServices
+    {
+        explicit Services(ValidatorTables &t) : tables_(t) {}
+        ValidatorTables *tables() override { return &tables_; }
+        ValidatorTables &tables_;
+    };
+    ValidatorStoreTables tables(db, prompt);
+    Services services(tables);
+    EditorModel editor(&prompt, &services);
+    editor.loadImage(VirtualValidator::factoryImage(0x13, 1001), false);
+    editor.type(QStringLiteral("EIdent"), QStringLiteral("Łódź-1"));
+    editor.leave(QStringLiteral("EIdent"));
+    prompt.clear();
+    ASSERT_TRUE(editor.click(QStringLiteral("SpeedButton4")));
+    EXPECT_EQ(prompt.told(),
+              QStringList{messageText(Msg::NameOutsideCodePage,
+                                      {QStringLiteral("Łódź-1"), TableSchema::gettoniere().fileName,
+                                       QStringLiteral("Ł, ź")})});
+    EXPECT_EQ(db.Gettoniere()->recordCount(), 0);
+    EXPECT_EQ(db.Channel()->recordCount(), 0);
 }

@@ -2,12 +2,12 @@
 
 #include "Captions.h"
 #include "Encodings.h"
+#include "WholeFile.h"
 
 #include <QBuffer>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -420,15 +420,12 @@ bool saveSheetPdf(const QString &path, const SheetContent &content, const SheetO
                   QString *error)
 {
     const QByteArray pdf = sheetPdf(content, options);
-    QSaveFile file(path);
-    if (pdf.isEmpty() || !file.open(QIODevice::WriteOnly) || file.write(pdf) != pdf.size() ||
-        !file.commit()) {
+    if (pdf.isEmpty()) {
         if (error)
-            *error =
-                pdf.isEmpty() ? QStringLiteral("the sheet could not be drawn") : file.errorString();
+            *error = QStringLiteral("the sheet could not be drawn");
         return false;
     }
-    return true;
+    return WholeFile::write(path, pdf, error);
 }
 
 QImage sheetPageImage(const SheetContent &content, const SheetOptions &options, int page,
