@@ -5,8 +5,8 @@
 #include "Transport.h"
 
 #include <QThread>
-#include <utility>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace {
 

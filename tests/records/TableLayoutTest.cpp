@@ -15,7 +15,8 @@ namespace {
 // run of numbered fields.
 QStringList expand(const char *layout)
 {
-    static const QRegularExpression item(QStringLiteral("^([A-Z]+)(?:(\\d+)\\.\\.)?(\\d*):(\\w+)$"));
+    static const QRegularExpression item(
+        QStringLiteral("^([A-Z]+)(?:(\\d+)\\.\\.)?(\\d*):(\\w+)$"));
     QStringList out;
     for (const QString &word : QString::fromLatin1(layout).split(QLatin1Char(' '))) {
         const QRegularExpressionMatch m = item.match(word);
