@@ -1146,6 +1146,14 @@
         <source>... and %d more.</source>
         <translation>... und %d weitere.</translation>
     </message>
+    <message>
+        <source>The settings file %s could not be read; it has been kept as %s. The defaults are used, with the tables in %s.</source>
+        <translation>Die Einstellungsdatei %s konnte nicht gelesen werden; sie wurde als %s aufbewahrt. Es gelten die Standardwerte, mit den Tabellen in %s.</translation>
+    </message>
+    <message>
+        <source>The settings file %s could not be read. The defaults are used, with the tables in %s.</source>
+        <translation>Die Einstellungsdatei %s konnte nicht gelesen werden. Es gelten die Standardwerte, mit den Tabellen in %s.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -1146,6 +1146,14 @@
         <source>... and %d more.</source>
         <translation>... and %d more.</translation>
     </message>
+    <message>
+        <source>The settings file %s could not be read; it has been kept as %s. The defaults are used, with the tables in %s.</source>
+        <translation>The settings file %s could not be read; it has been kept as %s. The defaults are used, with the tables in %s.</translation>
+    </message>
+    <message>
+        <source>The settings file %s could not be read. The defaults are used, with the tables in %s.</source>
+        <translation>The settings file %s could not be read. The defaults are used, with the tables in %s.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -1146,6 +1146,14 @@
         <source>... and %d more.</source>
         <translation>... et %d de plus.</translation>
     </message>
+    <message>
+        <source>The settings file %s could not be read; it has been kept as %s. The defaults are used, with the tables in %s.</source>
+        <translation>Le fichier de paramètres %s n'a pas pu être lu ; il a été conservé sous %s. Les valeurs par défaut sont utilisées, avec les tables dans %s.</translation>
+    </message>
+    <message>
+        <source>The settings file %s could not be read. The defaults are used, with the tables in %s.</source>
+        <translation>Le fichier de paramètres %s n'a pas pu être lu. Les valeurs par défaut sont utilisées, avec les tables dans %s.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -1146,6 +1146,14 @@
         <source>... and %d more.</source>
         <translation>... e altre %d.</translation>
     </message>
+    <message>
+        <source>The settings file %s could not be read; it has been kept as %s. The defaults are used, with the tables in %s.</source>
+        <translation>Il file delle impostazioni %s non può essere letto; è stato conservato come %s. Si usano i valori predefiniti, con le tabelle in %s.</translation>
+    </message>
+    <message>
+        <source>The settings file %s could not be read. The defaults are used, with the tables in %s.</source>
+        <translation>Il file delle impostazioni %s non può essere letto. Si usano i valori predefiniti, con le tabelle in %s.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

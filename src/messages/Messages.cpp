@@ -222,6 +222,12 @@ constexpr Entry kTable[] = {
     {Msg::SettingsUnreadable,
      QT_TRANSLATE_NOOP("Messages", "The settings could not be read; the defaults are used until a "
                                    "setting is changed.")},
+    {Msg::SettingsFileKeptAside,
+     QT_TRANSLATE_NOOP("Messages", "The settings file %s could not be read; it has been kept as "
+                                   "%s. The defaults are used, with the tables in %s.")},
+    {Msg::SettingsFileLeft,
+     QT_TRANSLATE_NOOP("Messages", "The settings file %s could not be read. The defaults are "
+                                   "used, with the tables in %s.")},
     {Msg::FileNotReadable, QT_TRANSLATE_NOOP("Messages", "The file %s could not be read.")},
     {Msg::SheetNotWritten,
      QT_TRANSLATE_NOOP("Messages", "The sheet could not be written to %s: %s. Nothing else was "

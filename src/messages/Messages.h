@@ -131,6 +131,8 @@ enum class Msg
     RepairFailed,
     RepairIndexUnusable,
     SettingsUnreadable,
+    SettingsFileKeptAside,
+    SettingsFileLeft,
     FileNotReadable,
     SheetNotWritten,
     SheetNotPrinted,
