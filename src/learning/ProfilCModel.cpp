@@ -344,7 +344,6 @@ void ProfilCModel::BtnExitClick()
     profile.name = control(QStringLiteral("EditName")).text.trimmed();
     profile.description = control(QStringLiteral("EditDescription")).text;
     profile.substitute = spinValue(kSpin);
-    profile.enabled = control(QStringLiteral("CheckEnable")).checked;
     profile.value = control(kValue).text;
     profile.priceLine = control(kPriceLine).itemIndex;
     // The learning tolerances are bytes: the low eight bits of each row.
