@@ -1154,6 +1154,10 @@
         <source>The settings file %s could not be read. The defaults are used, with the tables in %s.</source>
         <translation>Die Einstellungsdatei %s konnte nicht gelesen werden. Es gelten die Standardwerte, mit den Tabellen in %s.</translation>
     </message>
+    <message>
+        <source>No coin profile %s is stored</source>
+        <translation>Kein Münzprofil %s gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1564,6 +1568,30 @@
     <message>
         <source>HFL amp max.</source>
         <translation>HFL Amp. max.</translation>
+    </message>
+    <message>
+        <source>Record navigator</source>
+        <translation>Datensatznavigation</translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation>Erster Datensatz</translation>
+    </message>
+    <message>
+        <source>Prior record</source>
+        <translation>Vorheriger Datensatz</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Nächster Datensatz</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Letzter Datensatz</translation>
+    </message>
+    <message>
+        <source>Delete record</source>
+        <translation>Datensatz löschen</translation>
     </message>
 </context>
 <context>

@@ -1154,6 +1154,10 @@
         <source>The settings file %s could not be read. The defaults are used, with the tables in %s.</source>
         <translation>The settings file %s could not be read. The defaults are used, with the tables in %s.</translation>
     </message>
+    <message>
+        <source>No coin profile %s is stored</source>
+        <translation>No coin profile %s is stored</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1564,6 +1568,30 @@
     <message>
         <source>HFL amp max.</source>
         <translation>HFL amp max.</translation>
+    </message>
+    <message>
+        <source>Record navigator</source>
+        <translation>Record navigator</translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation>First record</translation>
+    </message>
+    <message>
+        <source>Prior record</source>
+        <translation>Prior record</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Next record</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Last record</translation>
+    </message>
+    <message>
+        <source>Delete record</source>
+        <translation>Delete record</translation>
     </message>
 </context>
 <context>

@@ -1148,11 +1148,15 @@
     </message>
     <message>
         <source>The settings file %s could not be read; it has been kept as %s. The defaults are used, with the tables in %s.</source>
-        <translation>Le fichier de paramètres %s n'a pas pu être lu ; il a été conservé sous %s. Les valeurs par défaut sont utilisées, avec les tables dans %s.</translation>
+        <translation>Le fichier de paramètres %s n&apos;a pas pu être lu ; il a été conservé sous %s. Les valeurs par défaut sont utilisées, avec les tables dans %s.</translation>
     </message>
     <message>
         <source>The settings file %s could not be read. The defaults are used, with the tables in %s.</source>
-        <translation>Le fichier de paramètres %s n'a pas pu être lu. Les valeurs par défaut sont utilisées, avec les tables dans %s.</translation>
+        <translation>Le fichier de paramètres %s n&apos;a pas pu être lu. Les valeurs par défaut sont utilisées, avec les tables dans %s.</translation>
+    </message>
+    <message>
+        <source>No coin profile %s is stored</source>
+        <translation>Aucun profil de pièce %s n'est enregistré</translation>
     </message>
 </context>
 <context>
@@ -1564,6 +1568,30 @@
     <message>
         <source>HFL amp max.</source>
         <translation>HFL amp max.</translation>
+    </message>
+    <message>
+        <source>Record navigator</source>
+        <translation>Navigation des enregistrements</translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation>Premier enregistrement</translation>
+    </message>
+    <message>
+        <source>Prior record</source>
+        <translation>Enregistrement précédent</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Enregistrement suivant</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Dernier enregistrement</translation>
+    </message>
+    <message>
+        <source>Delete record</source>
+        <translation>Supprimer l&apos;enregistrement</translation>
     </message>
 </context>
 <context>

@@ -1154,6 +1154,10 @@
         <source>The settings file %s could not be read. The defaults are used, with the tables in %s.</source>
         <translation>Il file delle impostazioni %s non può essere letto. Si usano i valori predefiniti, con le tabelle in %s.</translation>
     </message>
+    <message>
+        <source>No coin profile %s is stored</source>
+        <translation>Nessun profilo moneta %s è salvato</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1564,6 +1568,30 @@
     <message>
         <source>HFL amp max.</source>
         <translation>HFL amp max.</translation>
+    </message>
+    <message>
+        <source>Record navigator</source>
+        <translation>Navigazione dei record</translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation>Primo record</translation>
+    </message>
+    <message>
+        <source>Prior record</source>
+        <translation>Record precedente</translation>
+    </message>
+    <message>
+        <source>Next record</source>
+        <translation>Record successivo</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Ultimo record</translation>
+    </message>
+    <message>
+        <source>Delete record</source>
+        <translation>Elimina il record</translation>
     </message>
 </context>
 <context>

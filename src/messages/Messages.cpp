@@ -134,6 +134,7 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages",
                        "%s has more than one row for channels %s: the first row of each is used.")},
     {Msg::ValueTableNotStored, QT_TRANSLATE_NOOP("Messages", "No value table %s is stored")},
+    {Msg::ProfileNotStored, QT_TRANSLATE_NOOP("Messages", "No coin profile %s is stored")},
     {Msg::DeleteRecord, QT_TRANSLATE_NOOP("Messages", "Delete record?")},
     {Msg::DeleteSavedValidator,
      QT_TRANSLATE_NOOP("Messages", "Delete %s and its channels from the tables?")},

@@ -87,6 +87,7 @@ enum class Msg
     SavedChannelsDuplicated,
     DeleteSavedValidator,
     ValueTableNotStored,
+    ProfileNotStored,
     DeleteRecord,
     // records engine
     RecordsFileMissing,
