@@ -2,6 +2,7 @@
 #include "ConsolePrompt.h"
 #include "DataDirectory.h"
 #include "DevicePortOpener.h"
+#include "DisplayCheck.h"
 #include "EffectSoundPlayer.h"
 #include "HelpKey.h"
 #include "Languages.h"
@@ -53,7 +54,13 @@ int main(int argc, char *argv[])
         }
     }
 
+    if (const QString missing = DisplayCheck::missingDisplay(); !missing.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(missing));
+        return 1;
+    }
+    DisplayCheck::begin();
     QApplication app(argc, argv);
+    DisplayCheck::end();
     QApplication::setOrganizationName(QStringLiteral("Brunfeld"));
     QApplication::setApplicationName(QStringLiteral("Tarvik"));
     QApplication::setApplicationVersion(QStringLiteral(TARVIK_VERSION));

@@ -114,6 +114,7 @@ void registerRecordCommands(CliCommandTable &table);
 void registerEditorCommands(CliCommandTable &table);
 void registerLearnCommands(CliCommandTable &table);
 void registerValueCommands(CliCommandTable &table);
+void registerProfileCommands(CliCommandTable &table);
 void registerRepairCommands(CliCommandTable &table);
 void registerDiffCommands(CliCommandTable &table);
 void registerSheetCommands(CliCommandTable &table);

@@ -99,6 +99,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerEditorCommands(table);
     registerLearnCommands(table);
     registerValueCommands(table);
+    registerProfileCommands(table);
     registerRepairCommands(table);
     registerDiffCommands(table);
     registerSheetCommands(table);

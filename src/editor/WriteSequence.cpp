@@ -262,12 +262,11 @@ WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneG
         ChannelBytes targetRef;
         if (link.ReadChannel(quint8(ref), image.longForm(), targetRef)) {
             const quint8 *imageRef = image.channels[std::size_t(ref)].data();
+            // Every channel, the reference channel too, goes as the image's record corrected
+            // by the ratio of the two reference channels, with the image's substitute.
             for (int i = 0; i < count && link.linkGood(); ++i) {
-                // The reference channel stays the target's own.
-                const ChannelBytes bytes =
-                    i == ref ? targetRef
-                             : correctedRecord(image.channels[std::size_t(i)].data(), imageRef,
-                                               targetRef.data());
+                const ChannelBytes bytes = correctedRecord(image.channels[std::size_t(i)].data(),
+                                                           imageRef, targetRef.data());
                 record.channels[std::size_t(i)] = asKept(bytes, image.longForm());
                 succeeded(link.WriteChannel(quint8(i), bytes, image.longForm()));
             }

@@ -5,13 +5,14 @@
 #include <QString>
 #include <optional>
 
-// A named set of the settings that go with a learned coin, kept in the profile table.
+// What the coin profile form hands to the coin learning form on "&Exit": name, description,
+// value with its price line, substitution channel and tolerances. The profile's enable flag is
+// kept in the table but not handed over: the learning form's own "&Enable" box stays as it is.
 struct CoinProfile
 {
     QString name;
     QString description;
     int substitute = 0;
-    bool enabled = true;
     QString value;      // the amount as typed, empty when none
     int priceLine = -1; // 0 "P1", 1 "P2", -1 none
     Tolerances tolerances;

@@ -5,6 +5,8 @@
 #include "ProfileStore.h"
 
 #include <QCoreApplication>
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -43,6 +45,12 @@ constexpr Caption kCaptions[] = {
     {"ColItems", ControlKind::Label, "GridProfiles", QT_TRANSLATE_NOOP("TFormProfilC", "Items")},
     {"ColDescription", ControlKind::Label, "GridProfiles",
      QT_TRANSLATE_NOOP("TFormProfilC", "Description")},
+    {"DBNavigator1", ControlKind::Panel, "", nullptr},
+    {"DBNavigator1First", ControlKind::Button, "DBNavigator1", nullptr},
+    {"DBNavigator1Prior", ControlKind::Button, "DBNavigator1", nullptr},
+    {"DBNavigator1Next", ControlKind::Button, "DBNavigator1", nullptr},
+    {"DBNavigator1Last", ControlKind::Button, "DBNavigator1", nullptr},
+    {"DBNavigator1Delete", ControlKind::Button, "DBNavigator1", nullptr},
     {"BtnOpen", ControlKind::Button, "", QT_TRANSLATE_NOOP("TFormProfilC", "&Open")},
     {"BtnSave", ControlKind::Button, "", QT_TRANSLATE_NOOP("TFormProfilC", "&Save")},
     {"BtnExit", ControlKind::Button, "", QT_TRANSLATE_NOOP("TFormProfilC", "&Exit")},
@@ -66,6 +74,15 @@ constexpr const char *kToleranceKeys[ProfilCModel::kToleranceRows] = {
     QT_TRANSLATE_NOOP("TFormProfilC", "HFL high max."),
     QT_TRANSLATE_NOOP("TFormProfilC", "HFL amp min."),
     QT_TRANSLATE_NOOP("TFormProfilC", "HFL amp max."),
+};
+// The navigator's buttons show pictures: their names are their hints.
+constexpr std::pair<const char *, const char *> kNavigator[] = {
+    {"DBNavigator1", QT_TRANSLATE_NOOP("TFormProfilC", "Record navigator")},
+    {"DBNavigator1First", QT_TRANSLATE_NOOP("TFormProfilC", "First record")},
+    {"DBNavigator1Prior", QT_TRANSLATE_NOOP("TFormProfilC", "Prior record")},
+    {"DBNavigator1Next", QT_TRANSLATE_NOOP("TFormProfilC", "Next record")},
+    {"DBNavigator1Last", QT_TRANSLATE_NOOP("TFormProfilC", "Last record")},
+    {"DBNavigator1Delete", QT_TRANSLATE_NOOP("TFormProfilC", "Delete record")},
 };
 constexpr const char *kPriceLines[] = {QT_TRANSLATE_NOOP("TFormProfilC", "&P1"),
                                        QT_TRANSLATE_NOOP("TFormProfilC", "P2")};
@@ -139,6 +156,11 @@ void ProfilCModel::retranslate()
     for (int row = 0; row < kToleranceRows; ++row)
         caption(toleranceKeyName(row), kToleranceKeys[row]);
     c().setItems(kPriceLine, {tr(kPriceLines[0]), tr(kPriceLines[1])});
+    for (const auto &[name, hint] : kNavigator) {
+        if (qstrcmp(name, "DBNavigator1") != 0)
+            c().setToolTip(QLatin1String(name), tr(hint));
+        c().setAccessibleName(QLatin1String(name), tr(hint));
+    }
     flush();
 }
 
@@ -259,6 +281,42 @@ void ProfilCModel::clicked(const QString &name)
         BtnExitClick();
     else if (name == QLatin1String("BtnCancel"))
         BtnCancelClick();
+    else if (name.startsWith(QLatin1String("DBNavigator1")))
+        navigate(name.mid(12));
+}
+
+void ProfilCModel::navigate(const QString &button)
+{
+    const int count = int(m_profiles.size());
+    const int row = control(kProfiles).itemIndex;
+    if (count == 0)
+        return;
+    if (button == QLatin1String("First"))
+        c().setItemIndex(kProfiles, 0);
+    else if (button == QLatin1String("Prior"))
+        c().setItemIndex(kProfiles, std::max(row - 1, 0));
+    else if (button == QLatin1String("Next"))
+        c().setItemIndex(kProfiles, std::min(row + 1, count - 1));
+    else if (button == QLatin1String("Last"))
+        c().setItemIndex(kProfiles, count - 1);
+    else if (button == QLatin1String("Delete") && row >= 0 && row < count)
+        deleteProfile(row);
+}
+
+void ProfilCModel::deleteProfile(int row)
+{
+    if (!m_store.canChange()) {
+        tell(m_store.errorString(), UserPrompt::Kind::Error);
+        return;
+    }
+    if (ask(messageText(Msg::DeleteRecord), UserPrompt::Buttons::OkCancel) !=
+        UserPrompt::Answer::Ok)
+        return;
+    if (!m_store.remove(m_profiles.at(row).first))
+        tell(m_store.errorString(), UserPrompt::Kind::Error);
+    // The row after the deleted one takes its place, or the last row.
+    refreshProfiles();
+    c().setItemIndex(kProfiles, std::min(row, int(m_profiles.size()) - 1));
 }
 
 void ProfilCModel::picked(const QString &name, int item)
@@ -344,7 +402,6 @@ void ProfilCModel::BtnExitClick()
     profile.name = control(QStringLiteral("EditName")).text.trimmed();
     profile.description = control(QStringLiteral("EditDescription")).text;
     profile.substitute = spinValue(kSpin);
-    profile.enabled = control(QStringLiteral("CheckEnable")).checked;
     profile.value = control(kValue).text;
     profile.priceLine = control(kPriceLine).itemIndex;
     // The learning tolerances are bytes: the low eight bits of each row.

@@ -13,8 +13,9 @@ struct ConfigImage;
 // substitution channel, enable box, value with its price-line selector, the tolerance grid
 // ("GridTolerances" in the group "GroupTolerances": one edit per row, "Tolerance1" to
 // "Tolerance14", keys "ToleranceKey1" ...; leaving "GridTolerances" normalises it), the list of
-// stored profiles ("GridProfiles": one item per profile, the selected one as item index) and
-// the buttons. "&Exit" hands the settings over as a CoinProfile.
+// stored profiles ("GridProfiles": one item per profile, the selected one as item index) with
+// its navigator ("DBNavigator1": First, Prior, Next, Last, Delete) and the buttons. "&Exit" hands
+// the settings over as a CoinProfile.
 class ProfilCModel final : public FormModel
 {
 public:
@@ -56,6 +57,9 @@ protected:
 
 private:
     void build();
+    // The navigator's First, Prior, Next, Last and Delete (which asks first).
+    void navigate(const QString &button);
+    void deleteProfile(int row);
     void valueExit();
     // Rewrites rows [from, to) "%7d"; false, with the conversion error told, at the first row
     // that is not an integer (the rows before it are already rewritten).

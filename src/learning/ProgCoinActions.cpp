@@ -232,7 +232,6 @@ void ProgCoinModel::BtnSelectClick()
             QStringLiteral("Edit2"),
             FormatChannelValue(0, 6, 1, profile->priceLine == 0 ? kValuePrice1 : kValuePrice2));
     setSpinValue(QStringLiteral("SpinEdit2"), profile->substitute);
-    c().setChecked(QStringLiteral("CheckEnable"), profile->enabled);
     m_session.tolerances = profile->tolerances;
 }
 

@@ -134,6 +134,7 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages",
                        "%s has more than one row for channels %s: the first row of each is used.")},
     {Msg::ValueTableNotStored, QT_TRANSLATE_NOOP("Messages", "No value table %s is stored")},
+    {Msg::ProfileNotStored, QT_TRANSLATE_NOOP("Messages", "No coin profile %s is stored")},
     {Msg::DeleteRecord, QT_TRANSLATE_NOOP("Messages", "Delete record?")},
     {Msg::DeleteSavedValidator,
      QT_TRANSLATE_NOOP("Messages", "Delete %s and its channels from the tables?")},
@@ -222,6 +223,12 @@ constexpr Entry kTable[] = {
     {Msg::SettingsUnreadable,
      QT_TRANSLATE_NOOP("Messages", "The settings could not be read; the defaults are used until a "
                                    "setting is changed.")},
+    {Msg::SettingsFileKeptAside,
+     QT_TRANSLATE_NOOP("Messages", "The settings file %s could not be read; it has been kept as "
+                                   "%s. The defaults are used, with the tables in %s.")},
+    {Msg::SettingsFileLeft,
+     QT_TRANSLATE_NOOP("Messages", "The settings file %s could not be read. The defaults are "
+                                   "used, with the tables in %s.")},
     {Msg::FileNotReadable, QT_TRANSLATE_NOOP("Messages", "The file %s could not be read.")},
     {Msg::SheetNotWritten,
      QT_TRANSLATE_NOOP("Messages", "The sheet could not be written to %s: %s. Nothing else was "

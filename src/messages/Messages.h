@@ -87,6 +87,7 @@ enum class Msg
     SavedChannelsDuplicated,
     DeleteSavedValidator,
     ValueTableNotStored,
+    ProfileNotStored,
     DeleteRecord,
     // records engine
     RecordsFileMissing,
@@ -131,6 +132,8 @@ enum class Msg
     RepairFailed,
     RepairIndexUnusable,
     SettingsUnreadable,
+    SettingsFileKeptAside,
+    SettingsFileLeft,
     FileNotReadable,
     SheetNotWritten,
     SheetNotPrinted,

@@ -7,6 +7,7 @@ namespace {
 
 const QString kGroup = QStringLiteral("DefaultSettings");
 const QString kKey = QStringLiteral("DataDirectory");
+bool ignored = false;
 
 } // namespace
 
@@ -19,8 +20,15 @@ QString DataDirectory::defaultPath()
 #endif
 }
 
+void DataDirectory::ignoreConfigured(bool ignore)
+{
+    ignored = ignore;
+}
+
 QString DataDirectory::configured()
 {
+    if (ignored)
+        return {};
     QSettings s(QStringLiteral("Brunfeld"), QStringLiteral("Tarvik"));
     s.beginGroup(kGroup);
     return s.value(kKey).toString().trimmed();

@@ -14,6 +14,8 @@ public:
     static QString configured();
     static void setConfigured(const QString &path);
     static QString resolve(const QString &explicitPath = {});
+    // The setting is not used while its file cannot be read (the default is).
+    static void ignoreConfigured(bool ignore);
 
     static constexpr const char *kEnvironmentVariable = "TARVIK_DB";
 };

@@ -147,8 +147,10 @@ bool ProfileStore::remove(const QString &profileName)
     DbfTable &table = *m_db.DemTable();
     const int r = table.locate(QStringLiteral("NOM"), profileName.trimmed());
     m_error.clear();
-    if (r < 0)
+    if (r < 0) {
+        m_error = messageText(Msg::ProfileNotStored, {profileName.trimmed()});
         return false;
+    }
     return RowChange::remove(table, QStringLiteral("NOM"), r, m_prompt, &m_error) ==
            RowChange::Result::Done;
 }

@@ -57,7 +57,8 @@ public:
     // "%s exist! Overwrite ?". Failures are told through the prompt.
     Outcome save(const ProfileRecord &profile);
 
-    // Deletes the profile of that name; false when there is none or it cannot be deleted.
+    // Deletes the profile of that name; false, with errorString() saying why, when there is none
+    // or it cannot be deleted.
     bool remove(const QString &name);
 
     // Whether the table takes changes now; errorString() says why not.

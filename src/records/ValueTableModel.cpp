@@ -233,49 +233,54 @@ void ValueTableModel::tell(const QString &text, int kind) const
         m_prompt->tell(text, UserPrompt::Kind(kind));
 }
 
+bool ValueTableModel::refuse(const QString &box, const QString &text)
+{
+    // The entry stays as typed, and the focus goes back to it.
+    tell(messageText(Msg::NotValidInteger, {text.trimmed()}), int(UserPrompt::Kind::Error));
+    if (focusRequested)
+        focusRequested(box);
+    flush();
+    return false;
+}
+
 bool ValueTableModel::storeBases()
 {
-    auto fail = [this](const QString &text) {
-        tell(messageText(Msg::NotValidInteger, {text.trimmed()}), int(UserPrompt::Kind::Error));
-        return false;
-    };
     const QString text1 = m_controls.state(edit(1)).text;
     const auto base1 = ParseDecimalWord(text1);
     if (!base1)
-        return fail(text1);
+        return refuse(edit(1), text1);
     std::copy(base1->begin(), base1->end(), m_copy.begin() + Val::Base1);
     const QString text2 = m_controls.state(edit(2)).text;
     const auto base2 = ParseDecimalWord(text2);
     if (!base2)
-        return fail(text2);
+        return refuse(edit(2), text2);
     std::copy(base2->begin(), base2->end(), m_copy.begin() + Val::Base2);
     const Bases b = basesOf(m_copy);
     const QString text3 = m_controls.state(edit(3)).text;
     const auto ratio = ParseExponentLong(text3, b.base1.decimals, b.base2.decimals);
     if (!ratio)
-        return fail(text3);
+        return refuse(edit(3), text3);
     std::copy(ratio->begin(), ratio->end(), m_copy.begin() + Val::Conversion);
     return true;
 }
 
-void ValueTableModel::StoreCurrentCell()
+bool ValueTableModel::StoreCurrentCell()
 {
     if (!storeBases())
-        return flush();
+        return false;
     const int i = (m_column - 1) + 10 * (m_row - 1);
     if (i >= 0 && i < kChannels) {
         const Bases b = basesOf(m_copy);
         const DecimalWord &base = i >= 30 ? b.base2 : b.base1;
         const QString text = cell(m_column, m_row);
         const auto byte = ParseChannelValue(text, base.magnitude, base.decimals);
-        if (!byte) {
-            tell(messageText(Msg::NotValidInteger, {text.trimmed()}), int(UserPrompt::Kind::Error));
-            return flush();
-        }
+        if (!byte)
+            return refuse(QStringLiteral("TableauValue"), text);
         m_copy[std::size_t(Val::Channel0 + i)] = *byte;
     }
     ShowTable();
     configModified();
+    return true;
 }
 
 void ValueTableModel::configModified()
@@ -370,7 +375,8 @@ void ValueTableModel::gridKey(GridKey key)
     case GridKey::Down:
     case GridKey::PageUp:
     case GridKey::PageDown:
-        StoreCurrentCell();
+        if (!StoreCurrentCell())
+            return; // the cell keeps what was typed, and the grid stays on it
         break;
     default:
         break;
@@ -422,8 +428,8 @@ void ValueTableModel::gridKey(GridKey key)
 
 void ValueTableModel::gridClick(int column, int row)
 {
-    StoreCurrentCell();
-    moveTo(column, row);
+    if (StoreCurrentCell())
+        moveTo(column, row);
 }
 
 void ValueTableModel::recordClick(int row)
@@ -479,19 +485,21 @@ void ValueTableModel::BitBtn4Click()
         tell(messageText(Msg::FaultDuringSave), int(UserPrompt::Kind::Error));
 }
 
-void ValueTableModel::BitBtn3Click()
+bool ValueTableModel::BitBtn3Click()
 {
-    StoreCurrentCell();
+    // An entry that does not convert stops here: nothing is applied and the form stays open.
+    if (!StoreCurrentCell())
+        return false;
     if (m_editor.apply)
         m_editor.apply(m_copy);
     configModified();
     ShowTable();
+    return true;
 }
 
 void ValueTableModel::BitBtn1Click()
 {
-    BitBtn3Click();
-    if (closeRequested)
+    if (BitBtn3Click() && closeRequested)
         closeRequested();
 }
 

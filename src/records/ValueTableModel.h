@@ -91,10 +91,12 @@ public:
     void FormCreate();
     void FormActivate();
     void ShowTable();
-    void StoreCurrentCell();
+    // False when a base box or the cell does not convert: it is said, the entry stays as typed
+    // and the focus goes back to it.
+    bool StoreCurrentCell();
     void BitBtn7Click(); // Load
     void BitBtn4Click(); // Transfert
-    void BitBtn3Click(); // Apply
+    bool BitBtn3Click(); // Apply; false when an entry did not convert
     void BitBtn1Click(); // Exit
     void BitBtn6Click(); // Reset
     void BitBtn2Click(); // Save
@@ -118,6 +120,7 @@ private:
     void moveTo(int column, int row);
     // Each parse that fails says so and stops the store where it is.
     bool storeBases();
+    bool refuse(const QString &box, const QString &text);
     void configModified();
 
     Editor m_editor;

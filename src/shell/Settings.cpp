@@ -1,5 +1,7 @@
 #include "Settings.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 
 namespace {
@@ -59,7 +61,8 @@ QVariant parse(const QVariant &stored, KeyInfo::Type type)
 Settings::Settings() : Settings(QStringLiteral("Brunfeld"), QStringLiteral("Tarvik")) {}
 
 Settings::Settings(const QString &organization, const QString &application)
-    : m_store(std::make_unique<QSettings>(organization, application))
+    : m_organization(organization), m_application(application),
+      m_store(std::make_unique<QSettings>(organization, application))
 {
     for (int k = 0; k < int(Key::Count_); ++k)
         m_values[k] = defaultValue(Key(k));
@@ -99,12 +102,26 @@ QVariant Settings::value(Key key) const
 Settings::LoadState Settings::load()
 {
     m_unreadable.clear();
+    m_unreadableFile.clear();
+    m_keptAs.clear();
     for (int k = 0; k < int(Key::Count_); ++k)
         m_values[k] = defaultValue(Key(k));
     m_store->sync();
 
     if (m_store->status() != QSettings::NoError) {
+        // A file that cannot be read at all is put aside whole, and the defaults take its place,
+        // so that nothing of it (its data directory least of all) is used by half.
         m_state = LoadState::Unreadable;
+        m_unreadableFile = m_store->fileName();
+        m_keptAs = m_unreadableFile + QStringLiteral(".unreadable-") +
+                   QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+        if (!QFile::rename(m_unreadableFile, m_keptAs) &&
+            !QDir().rename(m_unreadableFile, m_keptAs)) {
+            m_keptAs.clear(); // left where it is, and not overwritten
+            return m_state;
+        }
+        m_store = std::make_unique<QSettings>(m_organization, m_application);
+        writeAll();
         return m_state;
     }
     if (!m_store->childGroups().contains(QLatin1String(kGroup))) {
@@ -143,7 +160,7 @@ Settings::LoadState Settings::load()
 void Settings::set(Key key, const QVariant &value)
 {
     m_values[int(key)] = value;
-    if (m_state == LoadState::Unreadable) {
+    if (m_state == LoadState::Unreadable && !m_unreadable.isEmpty()) {
         // The unreadable file is kept beside the new one before it is replaced.
         const QString file = m_store->fileName();
         if (QFile::exists(file)) {

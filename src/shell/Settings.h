@@ -9,8 +9,9 @@
 
 // The program's persistent settings, one typed facade over the "DefaultSettings" group of the
 // Brunfeld/Tarvik settings (the registry key \Software\Brunfeld\Tarvik\DefaultSettings on
-// Windows). The first run creates the group with the defaults. Settings that cannot be read
-// fall back to the defaults and are not written back until the user changes one.
+// Windows). The first run creates the group with the defaults. Values that cannot be read fall
+// back to the defaults and are not written back until the user changes one; a file that cannot
+// be read at all is renamed aside and the defaults are written in its place.
 class Settings final
 {
 public:
@@ -46,6 +47,10 @@ public:
     LoadState loadState() const { return m_state; }
     // The value names that could not be read at the last load.
     const QStringList &unreadable() const { return m_unreadable; }
+    // A file that could not be read at all: its name, and the name it was kept under (empty
+    // when it could not be moved aside; it is then left as it is).
+    const QString &unreadableFile() const { return m_unreadableFile; }
+    const QString &keptAs() const { return m_keptAs; }
 
     bool soundOn() const { return value(Key::Sound).toBool(); }
     bool autoAdjust() const { return value(Key::Adjust).toBool(); }
@@ -77,7 +82,11 @@ private:
     QString path(Key key) const;
     void writeAll();
 
+    QString m_organization;
+    QString m_application;
     std::unique_ptr<QSettings> m_store;
+    QString m_unreadableFile;
+    QString m_keptAs;
     QVariant m_values[int(Key::Count_)];
     LoadState m_state = LoadState::Read;
     QStringList m_unreadable;

@@ -1,5 +1,7 @@
 #include "TFormMain.h"
 
+#include "DataDirectory.h"
+
 #include "Captions.h"
 #include "Encodings.h"
 #include "Languages.h"
@@ -194,12 +196,22 @@ void TFormMain::showCaption()
 
 bool TFormMain::FormCreate()
 {
+    // The settings come first: they name the data directory.
+    Settings &settings = *m_context.settings;
+    const bool unreadable = settings.load() == Settings::LoadState::Unreadable;
+    DataDirectory::ignoreConfigured(!settings.unreadableFile().isEmpty());
     if (m_context.createDataModule)
         m_dataModule = m_context.createDataModule();
-
-    Settings &settings = *m_context.settings;
-    if (settings.load() == Settings::LoadState::Unreadable && m_context.prompt)
-        m_context.prompt->tell(messageText(Msg::SettingsUnreadable), UserPrompt::Kind::Warning);
+    if (unreadable && m_context.prompt) {
+        const QString tables = DataDirectory::resolve();
+        const QString text =
+            settings.unreadableFile().isEmpty() ? messageText(Msg::SettingsUnreadable)
+            : settings.keptAs().isEmpty()
+                ? messageText(Msg::SettingsFileLeft, {settings.unreadableFile(), tables})
+                : messageText(Msg::SettingsFileKeptAside,
+                              {settings.unreadableFile(), settings.keptAs(), tables});
+        m_context.prompt->tell(text, UserPrompt::Kind::Warning);
+    }
     setEncodingSettings(settings.encodingSettings());
     const int language = Languages::indexOf(settings.language());
 

@@ -3,6 +3,8 @@
 #include "ConfigImage.h"
 #include "DbfTable.h"
 #include "InProcessCli.h"
+#include "ProfileStore.h"
+#include "RecordingPrompt.h"
 #include "TDBModule.h"
 #include "records/TestFiles.h"
 
@@ -111,4 +113,32 @@ TEST_F(ValueCommands, NamesOutsideTheCodePageOrTooLongAreRefused)
     }
     EXPECT_EQ(runInProcess(data + QStringList{"list"}).out, QString());
     EXPECT_EQ(values(db(), {"list"}).out, QString());
+}
+
+// tarvik-cli profiles: the coin profiles the learning window saved, listed and deleted.
+TEST_F(ValueCommands, ProfilesListAndDelete)
+{
+    {
+        TDBModule module;
+        ASSERT_TRUE(module.open(db()));
+        RecordingPrompt prompt;
+        ProfileStore store(module, prompt);
+        for (const char *name : {"Token", "Euro 2"}) {
+            ProfileRecord profile;
+            profile.name = QLatin1String(name);
+            profile.description = QStringLiteral("brass");
+            ASSERT_EQ(store.save(profile), ProfileStore::Outcome::Saved);
+        }
+    }
+    auto profiles = [&](const QStringList &args) {
+        return runInProcess(QStringList{"--data-dir", db(), "profiles"} + args);
+    };
+    EXPECT_EQ(profiles({"list"}).out, QLatin1String("Token\tbrass\nEuro 2\tbrass\n"));
+    EXPECT_EQ(profiles({"delete", "token"}).code, kExitOk);
+    const InProcessRun missing = profiles({"delete", "Token"});
+    EXPECT_EQ(missing.code, kExitFailed);
+    EXPECT_TRUE(missing.err.contains(QLatin1String("No coin profile Token is stored")));
+    EXPECT_EQ(profiles({"list"}).out, QLatin1String("Euro 2\tbrass\n"));
+    EXPECT_EQ(profiles({"list", "extra"}).code, kExitUsage);
+    EXPECT_EQ(profiles({"remove", "Euro 2"}).code, kExitUsage);
 }

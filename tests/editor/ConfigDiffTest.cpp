@@ -80,6 +80,23 @@ TEST(ConfigDiff, OneFieldPerGroupGivesExactlyThatField)
     }
 }
 
+TEST(ConfigDiff, EachOfTheFifteenBytesOfAChannelRecordIsCompared)
+{
+    const ConfigImage a = sample();
+    QStringList keys;
+    for (std::size_t byte = 0; byte < 15; ++byte) {
+        ConfigImage b = a;
+        b.channels[4][byte] = quint8(b.channels[4][byte] ^ 0x01);
+        const QList<ConfigChange> changes = configDifferences(a, b);
+        ASSERT_EQ(changes.size(), 1) << "byte " << byte;
+        EXPECT_EQ(changes[0].group, ChangeGroup::Channels);
+        keys.append(changes[0].key);
+    }
+    keys.removeDuplicates();
+    EXPECT_EQ(keys.size(), 15);
+    EXPECT_TRUE(keys.contains(QStringLiteral("channel.5.substitute")));
+}
+
 TEST(ConfigDiff, TypeChangeNamesTheTypeAndBitsNoBoxShowsStillShow)
 {
     const ConfigImage a = sample();

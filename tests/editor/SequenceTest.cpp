@@ -260,16 +260,17 @@ TEST(CloneWrite, WrongFamilyIsRefused)
 TEST(CloneWrite, ReferenceChannelCorrectsEveryWindow)
 {
     // The target's sensors read higher: its reference windows are shifted.
-    const ConfigImage image = VirtualValidator::factoryImage(0x13, 1000);
+    ConfigImage image = VirtualValidator::factoryImage(0x13, 1000);
     Bench target(0x13, 1004);
     const ChannelRecord targetRef = target.device->memory().channels[59];
     ASSERT_NE(targetRef, image.channels[59]);
+    image.channels[59][Rec::Substitute] = quint8(targetRef[Rec::Substitute] == 7 ? 8 : 7);
     EXPECT_EQ(cloneWrite(*target.link, image, CloneGroups{}), WriteOutcome::Finished);
 
+    // The reference channel goes like every other: corrected, with the image's substitute.
     const ConfigImage &written = target.device->memory();
-    for (int b = 0; b < 15; ++b)
-        EXPECT_EQ(written.channels[59][b], targetRef[b]); // the reference stays the target's
-    for (int k = 0; k < 59; ++k) {
+    EXPECT_EQ(written.channels[59][Rec::Substitute], image.channels[59][Rec::Substitute]);
+    for (int k = 0; k < 60; ++k) {
         const ChannelBytes expected =
             correctedRecord(image.channels[k].data(), image.channels[59].data(), targetRef.data());
         for (int b = 0; b < 15; ++b)

@@ -171,6 +171,20 @@ TEST(Overlap, TouchingWindowsOverlapAndEveryPairIsSeenOnce)
     EXPECT_FALSE(intersect(10, 20, 21, 25));
 }
 
+TEST(Overlap, ChannelsApartInAnyOneOfTheSevenWindowsDoNotOverlap)
+{
+    // Record bytes 2w and 2w + 1 hold the maximum and minimum of window w.
+    for (std::size_t w = 0; w < 7; ++w) {
+        ConfigImage image = ConfigImage::blank();
+        setChannel(image, 0, 10, 20);
+        setChannel(image, 1, 15, 25);
+        ASSERT_EQ(overlappingPairs(image).size(), 1);
+        image.channels[1][2 * w] = 40;
+        image.channels[1][2 * w + 1] = 30;
+        EXPECT_TRUE(overlappingPairs(image).isEmpty()) << "window " << w;
+    }
+}
+
 TEST(Overlap, AnalysisWidensByTheMarginsWithinAByte)
 {
     ConfigImage image = ConfigImage::blank();

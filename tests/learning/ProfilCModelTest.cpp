@@ -137,7 +137,6 @@ TEST_F(ProfilCModelTest, ASavedProfileOpensAgainAndIsHandedOver)
     EXPECT_EQ(handed.name, QLatin1String("Token"));
     EXPECT_EQ(handed.description, QLatin1String("brass"));
     EXPECT_EQ(handed.substitute, 12);
-    EXPECT_FALSE(handed.enabled);
     EXPECT_EQ(handed.priceLine, 0);
     EXPECT_EQ(handed.value.trimmed(), QLatin1String("-P1-"));
     Tolerances expected;

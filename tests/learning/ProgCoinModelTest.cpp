@@ -485,3 +485,22 @@ TEST(ProgCoin, ReferenceCalibrationWithGoldenAndSilverTokens)
         EXPECT_GE(width, 3) << w;
     }
 }
+
+// "Se&lect..." takes the profile's name, description, value and substitute; the channel's own
+// "&Enable" box stays as the technician left it.
+TEST(ProgCoin, ASelectedProfileLeavesTheEnableBoxAlone)
+{
+    Bench b;
+    CoinProfile profile;
+    profile.name = QStringLiteral("Token");
+    profile.description = QStringLiteral("brass");
+    profile.substitute = 12;
+    b.services.profile = profile;
+    const bool enabled = b.form->control(QStringLiteral("CheckEnable")).checked;
+    ASSERT_TRUE(b.form->click(QStringLiteral("CheckEnable")));
+    ASSERT_TRUE(b.form->click(QStringLiteral("BtnSelect")));
+    EXPECT_EQ(b.text("Edit1"), QLatin1String("Token"));
+    EXPECT_EQ(b.text("Edit3"), QLatin1String("brass"));
+    EXPECT_EQ(b.text("SpinEdit2"), QLatin1String("12"));
+    EXPECT_EQ(b.form->control(QStringLiteral("CheckEnable")).checked, !enabled);
+}

@@ -590,6 +590,13 @@ TEST_F(DbfTableTest, TableIsSharedAndEveryChangeLands)
     EXPECT_FALSE(first.commit()); // a commit without the lock waits for it too
     EXPECT_EQ(readAll(path(s.fileName)), before);
     first.rollback();
+    // A reader's shared lock holds off such a commit as well.
+    elsewhere.unlock();
+    ASSERT_TRUE(elsewhere.lock(TableLock::Mode::Shared));
+    first.setValue(first.appendRecord(), QStringLiteral("IDENTI"), QStringLiteral("late"));
+    EXPECT_FALSE(first.commit());
+    EXPECT_EQ(readAll(path(s.fileName)), before);
+    first.rollback();
     elsewhere.unlock();
     TableLock::setWaitLimitMs(-1);
 }

@@ -1,3 +1,4 @@
+#include "DataDirectory.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
 #include "Languages.h"
@@ -36,6 +37,7 @@ struct Start
     int repairsShown = 0;
     QString lastFamily;
     std::weak_ptr<void> dataModule;
+    QString dataDirectory; // where the data module would open the tables
     std::unique_ptr<TFormMain> window;
 
     Start(LinkSource &source, const QString &translations = {}) : languages(translations)
@@ -47,6 +49,7 @@ struct Start
         context.prompt = &prompt;
         context.linkSource = &source;
         context.createDataModule = [this] {
+            dataDirectory = DataDirectory::resolve();
             auto module = std::make_shared<int>(1);
             dataModule = module;
             return std::shared_ptr<void>(module);
@@ -341,6 +344,34 @@ private Q_SLOTS:
         QVERIFY(start.window->FormCreate());
         QCOMPARE(start.prompt.told(), QStringList{messageText(Msg::SettingsUnreadable)});
         QVERIFY(!start.action("Son1")->isChecked());
+    }
+
+    void aSettingsFileThatCannotBeReadIsKeptAsideAndNamesNoTables()
+    {
+        QDir().mkpath(m_temp->dir.filePath(QStringLiteral("Brunfeld")));
+        const QByteArray broken("[DefaultSettings\nDataDirectory=/elsewhere\nSound=true\n");
+        QFile file(m_temp->file());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(broken);
+        file.close();
+        qunsetenv(DataDirectory::kEnvironmentVariable);
+        VirtualValidator device;
+        SimulatedLinkSource source(&device);
+        Start start(source);
+        QVERIFY(start.window->FormCreate());
+        QCOMPARE(start.dataDirectory, DataDirectory::defaultPath());
+        const QString kept = start.settings.keptAs();
+        QVERIFY(kept.startsWith(m_temp->file() + QStringLiteral(".unreadable-")));
+        QCOMPARE(start.prompt.told(),
+                 QStringList{messageText(Msg::SettingsFileKeptAside,
+                                         {m_temp->file(), kept, DataDirectory::defaultPath()})});
+        QFile aside(kept);
+        QVERIFY(aside.open(QIODevice::ReadOnly));
+        QCOMPARE(aside.readAll(), broken);
+        QSettings raw(QStringLiteral("Brunfeld"), QStringLiteral("Tarvik"));
+        QCOMPARE(raw.status(), QSettings::NoError);
+        QVERIFY(raw.contains(QStringLiteral("DefaultSettings/Sound")));
+        QVERIFY(raw.value(QStringLiteral("DefaultSettings/DataDirectory")).toString().isEmpty());
     }
 
     void thePanelDrivesTheValidatorWhileTheEditorIsOpen()

@@ -126,6 +126,20 @@ TEST(SettingsTest, UnreadableValuesFallBackAndAreNotOverwrittenUntilAChange)
     EXPECT_EQ(kept.readAll(), garbage);
 }
 
+TEST(SettingsTest, AFileThatCannotBeReadIsMovedAsideAndTheDefaultsTakeItsPlace)
+{
+    TempSettings temp;
+    QDir().mkpath(temp.file()); // a directory where the file should be: it cannot be read
+    QFile(temp.file() + QStringLiteral("/inside")).open(QIODevice::WriteOnly);
+    Settings settings;
+    EXPECT_EQ(settings.load(), Settings::LoadState::Unreadable);
+    EXPECT_EQ(settings.unreadableFile(), temp.file());
+    EXPECT_TRUE(QFile::exists(settings.keptAs() + QStringLiteral("/inside")));
+    Settings again;
+    EXPECT_EQ(again.load(), Settings::LoadState::Read);
+    EXPECT_TRUE(again.unreadableFile().isEmpty());
+}
+
 TEST(SettingsTest, EncodingCharactersOverrideTheLocale)
 {
     TempSettings temp;

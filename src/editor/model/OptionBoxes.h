@@ -30,7 +30,8 @@ constexpr quint8 optionTypes(std::initializer_list<int> list)
 }
 
 // One box per bit and output type: the validator's switches under type 0, the totalizers'
-// under the others.
+// under the others. Types 4, 6 and 7 are told apart by bits 4 and 5 of the first byte, so no
+// box for those bits shows under them: a click would change the output type.
 inline constexpr OptionBox kOptionBoxes[] = {
     {"ChkBinaire", Cap::BinaryOutput, 0, 0x01, true, kTypeValidatorOnly},
     {"ChkStandby", Cap::StandbyMode, 0, 0x01, true, optionTypes({2, 3, 5, 6, 7})},
@@ -42,9 +43,9 @@ inline constexpr OptionBox kOptionBoxes[] = {
     {"ChkInibhition", Cap::DipInhibition, 0, 0x08, true, kTypeValidatorOnly},
     {"CheckBox5", Cap::MultiPulse, 0, 0x10, true, kTypeValidatorOnly},
     {"ChkLimit1", Cap::Price1Limit, 0, 0x10, true, optionTypes({1})},
-    {"ChkCounterEX", Cap::ExtStart, 0, 0x10, true, optionTypes({2, 3, 4, 5, 6, 7})},
+    {"ChkCounterEX", Cap::ExtStart, 0, 0x10, true, optionTypes({2, 3, 5})},
     {"ChkLimit2", Cap::Price2Limit, 0, 0x20, true, optionTypes({1})},
-    {"ChkTime", Cap::TimeInMinutes, 0, 0x20, true, optionTypes({3, 6})},
+    {"ChkTime", Cap::TimeInMinutes, 0, 0x20, true, optionTypes({3})},
     {"ChkResetL8", Cap::ResetHigh, 0, 0x40, true, kTypeValidatorOnly},
     {"ChkTmpDsp", Cap::TogglingCounting, 0, 0x40, true, kTypeTotalizers},
     {"ChkDip", Cap::Dip42, 0, 0x80, true, kTypeValidatorOnly},

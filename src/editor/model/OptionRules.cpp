@@ -65,6 +65,14 @@ bool OptionsModel::separatorWithBinary() const
     return firmware.isValid() && firmware > QDate(2002, 3, 26);
 }
 
+void OptionsModel::binaryOutput(bool on)
+{
+    setBit(0, 0x01, !on);
+    // "Confida" goes with the binary output: disabled with it, and so unchecked.
+    if (!on && m_s.controls.state(QStringLiteral("ChkConfida")).visible)
+        setBit(0, 0x02, true);
+}
+
 void OptionsModel::applyType(int type)
 {
     const TypeBits &bits = kTypeBits[type];
@@ -108,7 +116,7 @@ bool OptionsModel::click(const QString &name)
         setBit(0, 0x04, !on);
         if (on) {
             if (!mayJoin && m_s.checked(QStringLiteral("ChkBinaire")))
-                setBit(0, 0x01, true);
+                binaryOutput(false);
             if (m_s.outputType() != 0)
                 setBit(1, 0x80, true); // "Display off" unchecked
             if (visibleAndChecked("ChkResetEx"))
@@ -132,9 +140,7 @@ bool OptionsModel::click(const QString &name)
         const bool binary = after("ChkBinaire");
         if (binary && !mayJoin)
             setBit(0, 0x04, true); // "Separator" unchecked
-        setBit(0, 0x01, !binary);
-        if (!binary && m_s.controls.state(QStringLiteral("ChkConfida")).visible)
-            setBit(0, 0x02, true); // "Confida" unchecked with its box disabled
+        binaryOutput(binary);
     } else if (name == QLatin1String("ChkConfida")) {
         setBit(0, 0x02, !after("ChkConfida"));
     } else if (name == QLatin1String("ChkInibhition")) {

@@ -36,6 +36,7 @@ private:
     void flip(int byte, quint8 mask);
     bool visibleAndChecked(const char *name) const;
     void multiPulse(bool checked);
+    void binaryOutput(bool on);
     void displayBits();
     void displayOutletItems();
 

@@ -19,7 +19,9 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QStyle>
 #include <QTableWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -169,6 +171,23 @@ void TFormProfilC::build()
             [this] { m_model.GridTolerancesClick(); });
     (new QVBoxLayout(group))->addWidget(m_tolerances);
 
+    auto *navigator = add(new QWidget(this), QStringLiteral("DBNavigator1"));
+    auto *navLayout = new QHBoxLayout(navigator);
+    navLayout->setContentsMargins(0, 0, 0, 0);
+    const std::pair<const char *, QStyle::StandardPixmap> arrows[] = {
+        {"DBNavigator1First", QStyle::SP_MediaSkipBackward},
+        {"DBNavigator1Prior", QStyle::SP_MediaSeekBackward},
+        {"DBNavigator1Next", QStyle::SP_MediaSeekForward},
+        {"DBNavigator1Last", QStyle::SP_MediaSkipForward},
+        {"DBNavigator1Delete", QStyle::SP_TrashIcon}};
+    for (const auto &[name, pixmap] : arrows) {
+        auto *b = static_cast<QToolButton *>(add(new QToolButton(navigator), QLatin1String(name)));
+        b->setIcon(style()->standardIcon(pixmap));
+        connect(b, &QToolButton::clicked, this, [this, b] { m_model.click(b->objectName()); });
+        navLayout->addWidget(b);
+    }
+    navLayout->addStretch();
+
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     for (const char *name : {"BtnOpen", "BtnSave", "BtnExit", "BtnCancel"})
@@ -177,6 +196,7 @@ void TFormProfilC::build()
     auto *left = new QVBoxLayout;
     left->addLayout(fields);
     left->addWidget(m_profiles, 1);
+    left->addWidget(navigator);
     auto *columns = new QHBoxLayout;
     columns->addLayout(left, 3);
     columns->addWidget(group, 2);
@@ -211,6 +231,9 @@ void TFormProfilC::showControls(const QStringList &names)
         const QSignalBlocker blocker(widget);
         widget->setVisible(control->state.visible);
         widget->setEnabled(control->state.enabled);
+        if (!control->state.accessibleName.isEmpty())
+            widget->setAccessibleName(control->state.accessibleName);
+        widget->setToolTip(control->state.toolTip);
         if (auto *label = qobject_cast<QLabel *>(widget)) {
             label->setText(control->state.text);
         } else if (auto *edit = qobject_cast<QLineEdit *>(widget)) {

@@ -106,6 +106,53 @@ private Q_SLOTS:
         QVERIFY(modified);
     }
 
+    // A base or a cell that does not convert stops Apply and Exit there: nothing reaches the
+    // editor, the entry stays as typed and the form stays open.
+    void theValueTableFormKeepsAnEntryThatDoesNotConvert()
+    {
+        RecordingPrompt prompt;
+        const ValueBlock factory = VirtualValidator::factoryImage(0x13, 1001).values;
+        ValueBlock editorBlock = factory;
+        bool modified = false;
+        ValueTableModel model(editorBlock, &modified, false, nullptr, &prompt, nullptr, false);
+        TFormValue form(model);
+        form.show();
+        auto *base = form.findChild<QLineEdit *>(QStringLiteral("LabeledEdit1"));
+        auto *grid = form.findChild<QTableWidget *>(QStringLiteral("TableauValue"));
+        auto *exit = form.findChild<QPushButton *>(QStringLiteral("BitBtn1"));
+        auto *apply = form.findChild<QPushButton *>(QStringLiteral("BitBtn3"));
+
+        base->setFocus();
+        base->selectAll();
+        QTest::keyClicks(base, QStringLiteral("0.0x"));
+        QTest::mouseClick(exit, Qt::LeftButton);
+        QVERIFY(form.isVisible());
+        QCOMPARE(editorBlock, factory);
+        QCOMPARE(base->text(), QStringLiteral("0.0x"));
+        QVERIFY(prompt.told().contains(messageText(Msg::NotValidInteger, {"0.0x"})));
+
+        QTest::keyClick(base, Qt::Key_Backspace);
+        QTest::keyClicks(base, QStringLiteral("5"));
+        prompt.clear();
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
+                          grid->visualRect(grid->model()->index(1, 3)).center());
+        QTest::keyClicks(grid, QStringLiteral("1.2.3"));
+        QTest::mouseClick(apply, Qt::LeftButton);
+        QCOMPARE(editorBlock, factory);
+        QCOMPARE(grid->item(1, 3)->text().trimmed(), QStringLiteral("1.2.3"));
+        QCOMPARE(prompt.told(), QStringList{messageText(Msg::NotValidInteger, {"1.2.3"})});
+        QTest::keyClick(grid, Qt::Key_Down); // the grid stays on the cell
+        QCOMPARE(grid->currentRow(), 1);
+
+        QTest::keyClick(grid, Qt::Key_Backspace);
+        QTest::keyClick(grid, Qt::Key_Backspace); // "1.2"
+        QTest::mouseClick(exit, Qt::LeftButton);
+        QVERIFY(!form.isVisible());
+        QCOMPARE(grid->item(1, 3)->text().trimmed(), QStringLiteral("1.20"));
+        QCOMPARE(editorBlock, model.workingCopy());
+        QVERIFY(editorBlock != factory);
+    }
+
     // Without scroll bars, the grid shows all its 11 x 7 cells at the size the form opens with.
     void theValueTableGridShowsEveryCell()
     {

@@ -3,12 +3,17 @@
 // through the form's own timer; a bound typed by hand is corrected when left; OK stores the
 // channel. The tolerance grid reads back what is typed into it.
 #include "TFormProgCoin.h"
+#include "ConfigImage.h"
 #include "FormBinder.h"
 #include "GuiEditorServices.h"
+#include "ProfilCModel.h"
+#include "ProfileStore.h"
 #include "ProgCoinModel.h"
 #include "RecordingPrompt.h"
 #include "SelectionSlider.h"
 #include "SimTransport.h"
+#include "TDBModule.h"
+#include "TFormProfilC.h"
 #include "TTarvikTolerance.h"
 #include "ToleranceModel.h"
 #include "VirtualValidator.h"
@@ -22,6 +27,7 @@
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QtTest>
 
 class TFormProgCoinTest : public QObject
@@ -124,6 +130,50 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         QVERIFY(model.readBack(tolerances));
         QCOMPARE(int(tolerances.values[6]), 9);
+    }
+
+    // The profile list's navigator moves the selection and deletes the selected profile from
+    // the table after asking; Exit hands the selected profile over once opened.
+    void theProfileNavigatorMovesAndDeletes()
+    {
+        QTemporaryDir dir;
+        TDBModule db;
+        QVERIFY(db.open(dir.path()));
+        RecordingPrompt prompt(UserPrompt::Answer::Ok);
+        ProfileStore store(db, prompt);
+        for (const char *name : {"Alpha", "Beta", "Gamma"}) {
+            ProfileRecord p;
+            p.name = QLatin1String(name);
+            QCOMPARE(store.save(p), ProfileStore::Outcome::Saved);
+        }
+        ProfilCModel model(store, &prompt, 1, ConfigImage::blank());
+        TFormProfilC form(model);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        auto *list = form.findChild<QTableWidget *>(QStringLiteral("GridProfiles"));
+        auto press = [&](const char *name) {
+            auto *button = form.findChild<QToolButton *>(QLatin1String(name));
+            QVERIFY2(button && !button->accessibleName().isEmpty(), name);
+            QTest::mouseClick(button, Qt::LeftButton);
+        };
+        press("DBNavigator1Last");
+        QCOMPARE(list->currentRow(), 2);
+        press("DBNavigator1Prior");
+        QCOMPARE(list->currentRow(), 1);
+        prompt.setNextAnswers({UserPrompt::Answer::Cancel});
+        press("DBNavigator1Delete");
+        QCOMPARE(list->rowCount(), 3);
+        press("DBNavigator1Delete");
+        QCOMPARE(prompt.asked().size(), 2);
+        QCOMPARE(list->rowCount(), 2);
+        QCOMPARE(list->item(list->currentRow(), 0)->text(), QStringLiteral("Gamma"));
+        QCOMPARE(store.list().size(), 2);
+        QVERIFY(!store.load(QStringLiteral("Beta")));
+        press("DBNavigator1First");
+        QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("BtnOpen")), Qt::LeftButton);
+        QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("BtnExit")), Qt::LeftButton);
+        QVERIFY(model.result());
+        QCOMPARE(model.result()->name, QStringLiteral("Alpha"));
     }
 
     void theEditorsButtonsOpenTheLearningWindows()
