@@ -592,7 +592,7 @@
         <translation>gesperrt</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
+        <source>Option &apos;%s&apos;</source>
         <translation>Option „%s“</translation>
     </message>
     <message>
@@ -691,7 +691,7 @@
         <translation>Lesefehler vom Münzprüfer</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>Der Kommunikationsanschluss COM%d ist nicht frei oder falsch eingestellt.</translation>
     </message>
     <message>
@@ -759,8 +759,8 @@
         <translation>Wert unter dem Minimum, er wird korrigiert.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' ist kein gültiger Ganzzahlwert</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; ist kein gültiger Ganzzahlwert</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -891,7 +891,7 @@
         <translation>Aktualisierung... Bitte warten !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
+        <source>Don&apos;t Stop or disconnect !!!</source>
         <translation>Nicht abbrechen oder trennen !!!</translation>
     </message>
     <message>
@@ -995,7 +995,7 @@
         <translation>Schlüssel %s fehlt oder passt nicht zu seinem Feld</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
+        <source>its language driver differs from the table&apos;s</source>
         <translation>sein Sprachtreiber weicht von dem der Tabelle ab</translation>
     </message>
     <message>
@@ -1171,11 +1171,11 @@
         <translation>Der Datenträger meldete einen Fehler (%s): es wurde nichts geschrieben</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>„%s“ kann nicht in %s gespeichert werden: seine Codepage kennt %s nicht. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>„%s“ ist zu lang für %s: es fasst höchstens %s Zeichen. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
@@ -1186,7 +1186,7 @@
         <source>the rebuilt table could not be read back as written</source>
         <translation>die neu aufgebaute Tabelle konnte nicht so zurückgelesen werden, wie sie geschrieben wurde</translation>
     </message>
-<message>
+    <message>
         <source>The settings file %s could not be read; it has been kept as %s. The defaults are used, with the tables in %s.</source>
         <translation>Die Einstellungsdatei %s konnte nicht gelesen werden; sie wurde als %s aufbewahrt. Es gelten die Standardwerte, mit den Tabellen in %s.</translation>
     </message>
@@ -1609,7 +1609,7 @@
         <source>HFL amp max.</source>
         <translation>HFL Amp. max.</translation>
     </message>
-<message>
+    <message>
         <source>Record navigator</source>
         <translation>Datensatznavigation</translation>
     </message>

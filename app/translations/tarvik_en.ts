@@ -592,8 +592,8 @@
         <translation>disabled</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
-        <translation>Option '%s'</translation>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Option &apos;%s&apos;</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -691,8 +691,8 @@
         <translation>Reading Error fron validator</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
-        <translation>Comunication Port COM%d isn't free or Setting error.</translation>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <translation>Comunication Port COM%d isn&apos;t free or Setting error.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
@@ -759,8 +759,8 @@
         <translation>Value under the minimum, it will be correct.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' is not a valid integer value</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; is not a valid integer value</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -891,8 +891,8 @@
         <translation>Updating... Please Wait !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
-        <translation>Don't Stop or disconnect !!!</translation>
+        <source>Don&apos;t Stop or disconnect !!!</source>
+        <translation>Don&apos;t Stop or disconnect !!!</translation>
     </message>
     <message>
         <source>Please connect the mini-programer.</source>
@@ -995,8 +995,8 @@
         <translation>tag %s is missing or does not match its field</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
-        <translation>its language driver differs from the table's</translation>
+        <source>its language driver differs from the table&apos;s</source>
+        <translation>its language driver differs from the table&apos;s</translation>
     </message>
     <message>
         <source>The data directory %s has been created with empty tables</source>
@@ -1171,12 +1171,12 @@
         <translation>The disk reported an error (%s): nothing was written</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
-        <translation>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
-        <translation>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</translation>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</translation>
     </message>
     <message>
         <source>%s counts %s records in its header, but its index and its length prove %s</source>
@@ -1186,7 +1186,7 @@
         <source>the rebuilt table could not be read back as written</source>
         <translation>the rebuilt table could not be read back as written</translation>
     </message>
-<message>
+    <message>
         <source>The settings file %s could not be read; it has been kept as %s. The defaults are used, with the tables in %s.</source>
         <translation>The settings file %s could not be read; it has been kept as %s. The defaults are used, with the tables in %s.</translation>
     </message>
@@ -1609,7 +1609,7 @@
         <source>HFL amp max.</source>
         <translation>HFL amp max.</translation>
     </message>
-<message>
+    <message>
         <source>Record navigator</source>
         <translation>Record navigator</translation>
     </message>
