@@ -30,16 +30,6 @@ WriteOutcome finish(TMonnayeur &link, int gauge, const WriteSteps &steps, int ch
     return finished ? WriteOutcome::Finished : WriteOutcome::Fault;
 }
 
-// How a write step ended, from what it returned and what the link saw.
-StepEnd stepEnd(const TMonnayeur &link, bool accepted)
-{
-    if (accepted)
-        return StepEnd::Accepted;
-    if (link.linkGood())
-        return StepEnd::Refused; // a status other than 0: the exchange itself went well
-    return link.lastDataSent() ? StepEnd::Unanswered : StepEnd::Failed;
-}
-
 class Gauge
 {
 public:
@@ -80,6 +70,15 @@ SentBlocks &sentRecord(SentBlocks *sent, SentBlocks &scratch)
 }
 
 } // namespace
+
+StepEnd stepEnd(const TMonnayeur &link, bool accepted)
+{
+    if (accepted)
+        return StepEnd::Accepted;
+    if (link.linkGood())
+        return StepEnd::Refused; // a status other than 0: the exchange itself went well
+    return link.lastDataSent() ? StepEnd::Unanswered : StepEnd::Failed;
+}
 
 int writeGaugeAfterChannel(int i)
 {

@@ -48,6 +48,11 @@ struct WriteSteps
     bool anyAccepted() const;
 };
 
+// How a write step ended, from whether it was accepted and what the link saw: refused when the
+// exchange went well but the status was not 0, else unanswered or failed by whether its data
+// had left the port.
+StepEnd stepEnd(const TMonnayeur &link, bool accepted);
+
 // What the steps of a write sent, each block set only when its step ran, whether the validator
 // accepted it or not. Channel records are as they went on the line: the clone's corrected
 // records, and a short record as the validator keeps it (no amplitude window).
