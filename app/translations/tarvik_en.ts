@@ -675,6 +675,86 @@
         <source>Channel windows</source>
         <translation>Channel windows</translation>
     </message>
+    <message>
+        <source>sent</source>
+        <translation>sent</translation>
+    </message>
+    <message>
+        <source>refused by the validator</source>
+        <translation>refused by the validator</translation>
+    </message>
+    <message>
+        <source>Validator&apos;s own block</source>
+        <translation>Validator&apos;s own block</translation>
+    </message>
+    <message>
+        <source>%s (channels %s)</source>
+        <translation>%s (channels %s)</translation>
+    </message>
+    <message>
+        <source>%s (%s of %s parts)</source>
+        <translation>%s (%s of %s parts)</translation>
+    </message>
+    <message>
+        <source>the learned windows</source>
+        <translation>the learned windows</translation>
+    </message>
+    <message>
+        <source>its former windows</source>
+        <translation>its former windows</translation>
+    </message>
+    <message>
+        <source>windows that are not known</source>
+        <translation>windows that are not known</translation>
+    </message>
+    <message>
+        <source>the value %s</source>
+        <translation>the value %s</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>no value</translation>
+    </message>
+    <message>
+        <source>its former value</source>
+        <translation>its former value</translation>
+    </message>
+    <message>
+        <source>a value that is not known</source>
+        <translation>a value that is not known</translation>
+    </message>
+    <message>
+        <source>its former enable bit</source>
+        <translation>its former enable bit</translation>
+    </message>
+    <message>
+        <source>an enable bit that is not known</source>
+        <translation>an enable bit that is not known</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; empty: not set</source>
+        <translation>An amount in steps of %s, at most %s; empty: not set</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; -P1- or -P2- pays price 1 or 2; empty: no value</source>
+        <translation>An amount in steps of %s, at most %s; -P1- or -P2- pays price 1 or 2; empty: no value</translation>
+    </message>
+    <message>
+        <source>No base value is set: give the base value first</source>
+        <translation>No base value is set: give the base value first</translation>
+    </message>
+    <message>
+        <source>A number from 0 to 254; empty: not set</source>
+        <translation>A number from 0 to 254; empty: not set</translation>
+    </message>
+    <message>
+        <source>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</source>
+        <translation>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</translation>
+    </message>
+    <message>
+        <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
+        <translation>Milliseconds in steps of 10, at most 630; empty: not set</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -905,10 +985,6 @@
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
         <translation>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</translation>
-    </message>
-    <message>
-        <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
-        <translation>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</translation>
     </message>
     <message>
         <source>%s is missing</source>
@@ -1145,6 +1221,34 @@
     <message>
         <source>... and %d more.</source>
         <translation>... and %d more.</translation>
+    </message>
+    <message>
+        <source>An amount cannot be negative: %s was not stored.</source>
+        <translation>An amount cannot be negative: %s was not stored.</translation>
+    </message>
+    <message>
+        <source>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</source>
+        <translation>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the validator holds what it held before.</source>
+        <translation>Nothing was written: the validator holds what it held before.</translation>
+    </message>
+    <message>
+        <source>The validator refused: %s.</source>
+        <translation>The validator refused: %s.</translation>
+    </message>
+    <message>
+        <source>No answer came after sending %s: the validator may or may not hold it.</source>
+        <translation>No answer came after sending %s: the validator may or may not hold it.</translation>
+    </message>
+    <message>
+        <source>Channel %d was not saved into the validator.</source>
+        <translation>Channel %d was not saved into the validator.</translation>
+    </message>
+    <message>
+        <source>Channel %d of the validator now holds %s.</source>
+        <translation>Channel %d of the validator now holds %s.</translation>
     </message>
 </context>
 <context>

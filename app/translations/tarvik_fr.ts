@@ -675,6 +675,86 @@
         <source>Channel windows</source>
         <translation>Fenêtres des canaux</translation>
     </message>
+    <message>
+        <source>sent</source>
+        <translation>envoyé</translation>
+    </message>
+    <message>
+        <source>refused by the validator</source>
+        <translation>refusé par le monnayeur</translation>
+    </message>
+    <message>
+        <source>Validator&apos;s own block</source>
+        <translation>Bloc propre du monnayeur</translation>
+    </message>
+    <message>
+        <source>%s (channels %s)</source>
+        <translation>%s (canaux %s)</translation>
+    </message>
+    <message>
+        <source>%s (%s of %s parts)</source>
+        <translation>%s (%s parties sur %s)</translation>
+    </message>
+    <message>
+        <source>the learned windows</source>
+        <translation>les fenêtres apprises</translation>
+    </message>
+    <message>
+        <source>its former windows</source>
+        <translation>ses anciennes fenêtres</translation>
+    </message>
+    <message>
+        <source>windows that are not known</source>
+        <translation>des fenêtres inconnues</translation>
+    </message>
+    <message>
+        <source>the value %s</source>
+        <translation>la valeur %s</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>aucune valeur</translation>
+    </message>
+    <message>
+        <source>its former value</source>
+        <translation>son ancienne valeur</translation>
+    </message>
+    <message>
+        <source>a value that is not known</source>
+        <translation>une valeur inconnue</translation>
+    </message>
+    <message>
+        <source>its former enable bit</source>
+        <translation>son ancien bit de validation</translation>
+    </message>
+    <message>
+        <source>an enable bit that is not known</source>
+        <translation>un bit de validation inconnu</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; empty: not set</source>
+        <translation>Un montant par pas de %s, au plus %s ; vide : non défini</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; -P1- or -P2- pays price 1 or 2; empty: no value</source>
+        <translation>Un montant par pas de %s, au plus %s ; -P1- ou -P2- paie le prix 1 ou 2 ; vide : aucune valeur</translation>
+    </message>
+    <message>
+        <source>No base value is set: give the base value first</source>
+        <translation>Aucune valeur de base n&apos;est définie : donnez d&apos;abord la valeur de base</translation>
+    </message>
+    <message>
+        <source>A number from 0 to 254; empty: not set</source>
+        <translation>Un nombre de 0 à 254 ; vide : non défini</translation>
+    </message>
+    <message>
+        <source>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</source>
+        <translation>Par dizaines, de 0 à 2540 (le dernier chiffre est ignoré) ; vide : non défini</translation>
+    </message>
+    <message>
+        <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
+        <translation>Millisecondes par pas de 10, au plus 630 ; vide : non défini</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -905,10 +985,6 @@
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
         <translation>Le canal %d du monnayeur diffère de celui de cette configuration : les fenêtres pourraient ne pas convenir à ce monnayeur. Continuer ?</translation>
-    </message>
-    <message>
-        <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
-        <translation>Le monnayeur contient maintenant une configuration partiellement écrite : rien de ce qui a déjà été écrit n&apos;a été annulé. Écrivez-la de nouveau avant utilisation.</translation>
     </message>
     <message>
         <source>%s is missing</source>
@@ -1145,6 +1221,34 @@
     <message>
         <source>... and %d more.</source>
         <translation>... et %d de plus.</translation>
+    </message>
+    <message>
+        <source>An amount cannot be negative: %s was not stored.</source>
+        <translation>Un montant ne peut pas être négatif : %s n&apos;a pas été enregistré.</translation>
+    </message>
+    <message>
+        <source>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</source>
+        <translation>Le monnayeur contient maintenant une configuration partiellement écrite (écrit : %s) ; rien de ce qui a déjà été écrit n&apos;a été annulé. Écrivez-la de nouveau avant utilisation.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the validator holds what it held before.</source>
+        <translation>Rien n&apos;a été écrit : le monnayeur contient ce qu&apos;il contenait avant.</translation>
+    </message>
+    <message>
+        <source>The validator refused: %s.</source>
+        <translation>Le monnayeur a refusé : %s.</translation>
+    </message>
+    <message>
+        <source>No answer came after sending %s: the validator may or may not hold it.</source>
+        <translation>Aucune réponse après l&apos;envoi de %s : le monnayeur le contient peut-être, ou non.</translation>
+    </message>
+    <message>
+        <source>Channel %d was not saved into the validator.</source>
+        <translation>Le canal %d n&apos;a pas été enregistré dans le monnayeur.</translation>
+    </message>
+    <message>
+        <source>Channel %d of the validator now holds %s.</source>
+        <translation>Le canal %d du monnayeur contient maintenant %s.</translation>
     </message>
 </context>
 <context>

@@ -675,6 +675,86 @@
         <source>Channel windows</source>
         <translation>Finestre dei canali</translation>
     </message>
+    <message>
+        <source>sent</source>
+        <translation>inviato</translation>
+    </message>
+    <message>
+        <source>refused by the validator</source>
+        <translation>rifiutato dalla gettoniera</translation>
+    </message>
+    <message>
+        <source>Validator&apos;s own block</source>
+        <translation>Blocco proprio della gettoniera</translation>
+    </message>
+    <message>
+        <source>%s (channels %s)</source>
+        <translation>%s (canali %s)</translation>
+    </message>
+    <message>
+        <source>%s (%s of %s parts)</source>
+        <translation>%s (%s parti su %s)</translation>
+    </message>
+    <message>
+        <source>the learned windows</source>
+        <translation>le finestre apprese</translation>
+    </message>
+    <message>
+        <source>its former windows</source>
+        <translation>le sue finestre precedenti</translation>
+    </message>
+    <message>
+        <source>windows that are not known</source>
+        <translation>finestre sconosciute</translation>
+    </message>
+    <message>
+        <source>the value %s</source>
+        <translation>il valore %s</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>nessun valore</translation>
+    </message>
+    <message>
+        <source>its former value</source>
+        <translation>il suo valore precedente</translation>
+    </message>
+    <message>
+        <source>a value that is not known</source>
+        <translation>un valore sconosciuto</translation>
+    </message>
+    <message>
+        <source>its former enable bit</source>
+        <translation>il suo bit di abilitazione precedente</translation>
+    </message>
+    <message>
+        <source>an enable bit that is not known</source>
+        <translation>un bit di abilitazione sconosciuto</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; empty: not set</source>
+        <translation>Un importo a passi di %s, al massimo %s; vuoto: non impostato</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; -P1- or -P2- pays price 1 or 2; empty: no value</source>
+        <translation>Un importo a passi di %s, al massimo %s; -P1- o -P2- paga il prezzo 1 o 2; vuoto: nessun valore</translation>
+    </message>
+    <message>
+        <source>No base value is set: give the base value first</source>
+        <translation>Nessun valore base impostato: indicare prima il valore base</translation>
+    </message>
+    <message>
+        <source>A number from 0 to 254; empty: not set</source>
+        <translation>Un numero da 0 a 254; vuoto: non impostato</translation>
+    </message>
+    <message>
+        <source>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</source>
+        <translation>A decine, da 0 a 2540 (l&apos;ultima cifra viene scartata); vuoto: non impostato</translation>
+    </message>
+    <message>
+        <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
+        <translation>Millisecondi a passi di 10, al massimo 630; vuoto: non impostato</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -905,10 +985,6 @@
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
         <translation>Il canale %d della gettoniera differisce da quello di questa configurazione: le finestre potrebbero non essere adatte a questa gettoniera. Continuare?</translation>
-    </message>
-    <message>
-        <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
-        <translation>La gettoniera contiene ora una configurazione scritta in parte: nulla di quanto già scritto è stato annullato. Riscriverla prima dell&apos;uso.</translation>
     </message>
     <message>
         <source>%s is missing</source>
@@ -1145,6 +1221,34 @@
     <message>
         <source>... and %d more.</source>
         <translation>... e altre %d.</translation>
+    </message>
+    <message>
+        <source>An amount cannot be negative: %s was not stored.</source>
+        <translation>Un importo non può essere negativo: %s non è stato memorizzato.</translation>
+    </message>
+    <message>
+        <source>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</source>
+        <translation>La gettoniera contiene ora una configurazione scritta in parte (scritto: %s); nulla di quanto già scritto è stato annullato. Scriverla di nuovo prima dell&apos;uso.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the validator holds what it held before.</source>
+        <translation>Non è stato scritto nulla: la gettoniera contiene ciò che conteneva prima.</translation>
+    </message>
+    <message>
+        <source>The validator refused: %s.</source>
+        <translation>La gettoniera ha rifiutato: %s.</translation>
+    </message>
+    <message>
+        <source>No answer came after sending %s: the validator may or may not hold it.</source>
+        <translation>Nessuna risposta dopo l&apos;invio di %s: la gettoniera potrebbe contenerlo oppure no.</translation>
+    </message>
+    <message>
+        <source>Channel %d was not saved into the validator.</source>
+        <translation>Il canale %d non è stato salvato nella gettoniera.</translation>
+    </message>
+    <message>
+        <source>Channel %d of the validator now holds %s.</source>
+        <translation>Il canale %d della gettoniera contiene ora %s.</translation>
     </message>
 </context>
 <context>
