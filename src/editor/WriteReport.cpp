@@ -5,19 +5,6 @@
 #include "Messages.h"
 #include "UserPrompt.h"
 
-#include <algorithm>
-#include <array>
-
-bool WriteSteps::anyAccepted() const
-{
-    const bool channel = std::any_of(channels.begin(), channels.end(),
-                                     [](StepEnd end) { return end == StepEnd::Accepted; });
-    const std::array blocks{options, prices, enable, counters, ident, ownBlock};
-    return channel || valueParts > 0 || std::any_of(blocks.begin(), blocks.end(), [](StepEnd end) {
-               return end == StepEnd::Accepted;
-           });
-}
-
 QString channelRuns(const QList<int> &channels)
 {
     QStringList runs;

@@ -11,7 +11,7 @@ QStringList groupsWritten(const WriteSteps &steps, int channelCount);
 QStringList stepsRefused(const WriteSteps &steps);
 QStringList stepsUnanswered(const WriteSteps &steps);
 
-// The numbers 1-based and run together: "1-12, 14, 20-25".
+// Channel indexes as their numbers, run together: "1-12, 14, 20-25".
 QString channelRuns(const QList<int> &channels);
 
 // The messages that follow "Finished operation!" or "Fault during save operation !": what was

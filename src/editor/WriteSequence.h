@@ -44,8 +44,6 @@ struct WriteSteps
     StepEnd counters = StepEnd::NotRun;
     StepEnd ident = StepEnd::NotRun;
     StepEnd ownBlock = StepEnd::NotRun; // the validator's own block, command 12
-
-    bool anyAccepted() const;
 };
 
 // How a write step ended, from whether it was accepted and what the link saw: refused when the
