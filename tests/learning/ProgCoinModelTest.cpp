@@ -518,3 +518,14 @@ TEST(ProgCoin, AmountsTheBaseCannotHoldAndARefusedSaveAreSaid)
     EXPECT_EQ(bench.device.memory().valueByte(19), 252);
     EXPECT_FALSE(bench.device.memory().enableBit(19));
 }
+
+TEST(ProgCoin, APortLostWhileWaitingForCoinsIsSaidOnce)
+{
+    Bench bench;
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("20"));
+    bench.insert(CoinKind::Euro020, 2);
+    bench.port.close(); // the adapter pulled out
+    bench.insert(CoinKind::Euro020, 3);
+    EXPECT_EQ(bench.prompt.told(), QStringList{"Internal or Comunication Error"});
+    EXPECT_EQ(bench.text("LabelCoins"), QStringLiteral("2"));
+}
