@@ -3,6 +3,7 @@
 #include "ConfigImage.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
+#include "Encodings.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -110,6 +111,25 @@ bool transfert(EditorModel &model, const QString &text, QString &error)
     return true;
 }
 
+// An amount the box's base cannot hold is a mistake in the command line, not something to
+// correct quietly: the editor would hold it at the base's maximum, or refuse it when negative.
+bool amountFits(const EditorModel &model, const QString &name, const QString &text, QString &error)
+{
+    const std::optional<DecimalWord> base = model.amountBase(name);
+    if (!base)
+        return true;
+    const ChannelAmount amount = CheckChannelAmount(text, base->magnitude, base->decimals);
+    if (amount.fit == AmountFit::OverMaximum)
+        error = QStringLiteral("%1=%2: the base %3 holds at most %4")
+                    .arg(name, text, ChannelValueStep(base->magnitude, base->decimals).trimmed(),
+                         ChannelValueMaximum(base->magnitude, base->decimals).trimmed());
+    else if (amount.fit == AmountFit::Negative)
+        error = QStringLiteral("%1=%2: an amount cannot be negative").arg(name, text);
+    else
+        return true;
+    return false;
+}
+
 bool applyAction(EditorModel &model, const QString &action, QString &error)
 {
     if (action.startsWith(QLatin1String("Transfert=")))
@@ -117,7 +137,8 @@ bool applyAction(EditorModel &model, const QString &action, QString &error)
     const qsizetype eq = action.indexOf(u'=');
     if (eq > 0) {
         const QString name = action.left(eq);
-        return model.type(name, action.mid(eq + 1), &error) && model.leave(name, &error);
+        const QString text = action.mid(eq + 1);
+        return model.type(name, text, &error) && model.leave(name, &error);
     }
     const qsizetype hash = action.lastIndexOf(u'#');
     if (hash > 0) {
@@ -166,6 +187,12 @@ int editCommand(CliContext &cli, const QStringList &arguments)
     editor.model.loadImage(image, false);
     for (const QString &action : args) {
         QString error;
+        // Checked when its turn comes, against the bases and type the actions before it left.
+        const qsizetype eq = action.indexOf(u'=');
+        if (eq > 0 && !amountFits(editor.model, action.left(eq), action.mid(eq + 1), error)) {
+            cli.err() << "tarvik-cli: " << error << "; nothing more was done" << Qt::endl;
+            return kExitTrouble;
+        }
         if (!applyAction(editor.model, action, error)) {
             cli.err() << "tarvik-cli: " << error << Qt::endl;
             return kExitUsage;

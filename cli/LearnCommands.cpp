@@ -45,6 +45,19 @@ bool takeAnswer(CliContext &cli, QStringList &args)
     return true;
 }
 
+// A poll that failed because the port itself went away (the adapter pulled out, its driver gone)
+// ends the collection at once with the link's message: no coin can come any more.
+bool portLost(CliContext &cli, const TMonnayeur &link, int got, int count)
+{
+    const Transport *port = link.transport();
+    if (!port || port->isOpen())
+        return false;
+    cli.prompt().tell(link.LastLinkError(), UserPrompt::Kind::Error);
+    cli.err() << "tarvik-cli: the port was lost after " << got << " of " << count << " samples ("
+              << port->errorString() << "); nothing was written" << Qt::endl;
+    return true;
+}
+
 // Waits for count samples; each one is printed with the channel it matches. False when the
 // time ran out first.
 bool collectSamples(CliContext &cli, TMonnayeur &link, const ConfigImage &image,
@@ -59,6 +72,8 @@ bool collectSamples(CliContext &cli, TMonnayeur &link, const ConfigImage &image,
             return false;
         }
         const auto sample = session.poll(link, image.longForm());
+        if (!sample && portLost(cli, link, session.coinCount(), count))
+            return false;
         if (!sample)
             continue;
         const LearningSession::Coin coin = session.addSample(*sample, image);
@@ -132,27 +147,58 @@ int learnCommand(CliContext &cli, const QStringList &arguments)
     ConfigImage image = ConfigImage::blank();
     if (!config.isEmpty() && !readImageInput(cli, config, image))
         return kExitFailed;
+    const int k = channel - 1;
+    std::optional<quint8> value;
+    // The channel and its value against the validator's base: from --config before the port is
+    // opened, else from a read of the validator, before any coin is asked for or anything
+    // written.
+    auto channelAndValue = [&]() {
+        if (channel > image.channelCount()) {
+            cli.err() << "tarvik-cli: this validator has " << image.channelCount() << " channels"
+                      << Qt::endl;
+            return false;
+        }
+        value = image.valueByte(k);
+        if (valueText.isEmpty())
+            return true;
+        const int at = k < 30 ? Val::Base1 : Val::Base2;
+        const DecimalWord base =
+            FormatDecimalWord({image.values[std::size_t(at)], image.values[std::size_t(at + 1)]});
+        const ChannelAmount amount = CheckChannelAmount(valueText, base.magnitude, base.decimals);
+        value = amount.byte;
+        switch (amount.fit) {
+        case AmountFit::Fits:
+            return true;
+        case AmountFit::NotAnAmount:
+            cli.err() << "tarvik-cli: --value " << valueText << " is not an amount" << Qt::endl;
+            break;
+        case AmountFit::Negative:
+            cli.err() << "tarvik-cli: --value " << valueText
+                      << " is negative; an amount is 0 or more" << Qt::endl;
+            break;
+        case AmountFit::OverMaximum:
+            cli.err() << "tarvik-cli: --value " << valueText << " is more than channel " << channel
+                      << " can hold: its base "
+                      << ChannelValueStep(base.magnitude, base.decimals).trimmed()
+                      << " holds at most "
+                      << ChannelValueMaximum(base.magnitude, base.decimals).trimmed()
+                      << "; nothing was written" << Qt::endl;
+            break;
+        }
+        return false;
+    };
+    // A channel or an amount the validator cannot hold is the command line's trouble: exit 2,
+    // without the usage line.
+    if (!config.isEmpty() && !channelAndValue())
+        return kExitTrouble;
     TMonnayeur *link = cli.openLink();
     if (!link)
         return kExitFailed;
-    if (config.isEmpty() && readValidator(*link, image, false) != ReadOutcome::Done)
-        return kExitFailed;
-    if (channel > image.channelCount()) {
-        cli.err() << "tarvik-cli: this validator has " << image.channelCount() << " channels"
-                  << Qt::endl;
-        return kExitUsage;
-    }
-
-    const int k = channel - 1;
-    const DecimalWord base =
-        FormatDecimalWord({image.values[std::size_t(k < 30 ? Val::Base1 : Val::Base2)],
-                           image.values[std::size_t(k < 30 ? Val::Base1 + 1 : Val::Base2 + 1)]});
-    std::optional<quint8> value = image.valueByte(k);
-    if (!valueText.isEmpty())
-        value = ParseChannelValue(valueText, base.magnitude, base.decimals);
-    if (!value) {
-        cli.err() << "tarvik-cli: --value " << valueText << " is not an amount" << Qt::endl;
-        return kExitUsage;
+    if (config.isEmpty()) {
+        if (readValidator(*link, image, false) != ReadOutcome::Done)
+            return kExitFailed;
+        if (!channelAndValue())
+            return kExitTrouble;
     }
 
     cli.err() << "Insert " << samples << " sample coins for channel " << channel << Qt::endl;

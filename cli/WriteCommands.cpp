@@ -2,6 +2,7 @@
 #include "Commands.h"
 #include "FirmwareTransfer.h"
 #include "Messages.h"
+#include "WriteReport.h"
 #include "WriteSequence.h"
 #include "WriteVerification.h"
 
@@ -30,13 +31,16 @@ int verifyCommandWrite(CliContext &cli, TMonnayeur &link, const SentBlocks &sent
     return result.outcome == VerifyOutcome::Verified ? kExitOk : kExitFailed;
 }
 
-// The write's exit code, with its verification unless --no-verify.
+// The write's exit code, with its verification unless --no-verify. A write that finished with a
+// step refused (the write has said which) did not give the validator everything: exit 1, with or
+// without the read-back.
 int afterWrite(CliContext &cli, TMonnayeur &link, WriteOutcome outcome, bool verify,
                const SentBlocks &sent)
 {
     if (outcome != WriteOutcome::Finished)
         return kExitFailed;
-    return verify ? verifyCommandWrite(cli, link, sent) : kExitOk;
+    const int verified = verify ? verifyCommandWrite(cli, link, sent) : kExitOk;
+    return stepsRefused(sent.steps).isEmpty() ? verified : kExitFailed;
 }
 
 QString familyName(quint8 familyByte)

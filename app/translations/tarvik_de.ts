@@ -592,7 +592,7 @@
         <translation>gesperrt</translation>
     </message>
     <message>
-        <source>Option &apos;%s&apos;</source>
+        <source>Option '%s'</source>
         <translation>Option „%s“</translation>
     </message>
     <message>
@@ -675,6 +675,86 @@
         <source>Channel windows</source>
         <translation>Fenster der Kanäle</translation>
     </message>
+<message>
+        <source>sent</source>
+        <translation>gesendet</translation>
+    </message>
+    <message>
+        <source>refused by the validator</source>
+        <translation>vom Münzprüfer abgelehnt</translation>
+    </message>
+    <message>
+        <source>Validator's own block</source>
+        <translation>Eigener Block des Münzprüfers</translation>
+    </message>
+    <message>
+        <source>%s (channels %s)</source>
+        <translation>%s (Kanäle %s)</translation>
+    </message>
+    <message>
+        <source>%s (%s of %s parts)</source>
+        <translation>%s (%s von %s Teilen)</translation>
+    </message>
+    <message>
+        <source>the learned windows</source>
+        <translation>die gelernten Fenster</translation>
+    </message>
+    <message>
+        <source>its former windows</source>
+        <translation>seine bisherigen Fenster</translation>
+    </message>
+    <message>
+        <source>windows that are not known</source>
+        <translation>unbekannte Fenster</translation>
+    </message>
+    <message>
+        <source>the value %s</source>
+        <translation>den Wert %s</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>keinen Wert</translation>
+    </message>
+    <message>
+        <source>its former value</source>
+        <translation>seinen bisherigen Wert</translation>
+    </message>
+    <message>
+        <source>a value that is not known</source>
+        <translation>einen unbekannten Wert</translation>
+    </message>
+    <message>
+        <source>its former enable bit</source>
+        <translation>sein bisheriges Freigabebit</translation>
+    </message>
+    <message>
+        <source>an enable bit that is not known</source>
+        <translation>ein unbekanntes Freigabebit</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; empty: not set</source>
+        <translation>Ein Betrag in Schritten von %s, höchstens %s; leer: nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; -P1- or -P2- pays price 1 or 2; empty: no value</source>
+        <translation>Ein Betrag in Schritten von %s, höchstens %s; -P1- oder -P2- zahlt Preis 1 oder 2; leer: kein Wert</translation>
+    </message>
+    <message>
+        <source>No base value is set: give the base value first</source>
+        <translation>Kein Basiswert gesetzt: zuerst den Basiswert angeben</translation>
+    </message>
+    <message>
+        <source>A number from 0 to 254; empty: not set</source>
+        <translation>Eine Zahl von 0 bis 254; leer: nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</source>
+        <translation>In Zehnern, von 0 bis 2540 (eine letzte Ziffer entfällt); leer: nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
+        <translation>Millisekunden in Schritten von 10, höchstens 630; leer: nicht gesetzt</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -691,7 +771,7 @@
         <translation>Lesefehler vom Münzprüfer</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <source>Comunication Port COM%d isn't free or Setting error.</source>
         <translation>Der Kommunikationsanschluss COM%d ist nicht frei oder falsch eingestellt.</translation>
     </message>
     <message>
@@ -759,8 +839,8 @@
         <translation>Wert unter dem Minimum, er wird korrigiert.</translation>
     </message>
     <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; ist kein gültiger Ganzzahlwert</translation>
+        <source>'%s' is not a valid integer value</source>
+        <translation>'%s' ist kein gültiger Ganzzahlwert</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -891,7 +971,7 @@
         <translation>Aktualisierung... Bitte warten !</translation>
     </message>
     <message>
-        <source>Don&apos;t Stop or disconnect !!!</source>
+        <source>Don't Stop or disconnect !!!</source>
         <translation>Nicht abbrechen oder trennen !!!</translation>
     </message>
     <message>
@@ -995,7 +1075,7 @@
         <translation>Schlüssel %s fehlt oder passt nicht zu seinem Feld</translation>
     </message>
     <message>
-        <source>its language driver differs from the table&apos;s</source>
+        <source>its language driver differs from the table's</source>
         <translation>sein Sprachtreiber weicht von dem der Tabelle ab</translation>
     </message>
     <message>
@@ -1171,11 +1251,11 @@
         <translation>Der Datenträger meldete einen Fehler (%s): es wurde nichts geschrieben</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>„%s“ kann nicht in %s gespeichert werden: seine Codepage kennt %s nicht. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>„%s“ ist zu lang für %s: es fasst höchstens %s Zeichen. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
@@ -1197,6 +1277,34 @@
     <message>
         <source>No coin profile %s is stored</source>
         <translation>Kein Münzprofil %s gespeichert</translation>
+    </message>
+<message>
+        <source>An amount cannot be negative: %s was not stored.</source>
+        <translation>Ein Betrag kann nicht negativ sein: %s wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</source>
+        <translation>Der Münzprüfer enthält jetzt eine teilweise geschriebene Konfiguration (geschrieben: %s); nichts bereits Geschriebenes wurde rückgängig gemacht. Vor dem Einsatz erneut schreiben.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the validator holds what it held before.</source>
+        <translation>Es wurde nichts geschrieben: der Münzprüfer enthält, was er vorher enthielt.</translation>
+    </message>
+    <message>
+        <source>The validator refused: %s.</source>
+        <translation>Der Münzprüfer hat abgelehnt: %s.</translation>
+    </message>
+    <message>
+        <source>No answer came after sending %s: the validator may or may not hold it.</source>
+        <translation>Keine Antwort nach dem Senden von %s: der Münzprüfer enthält es vielleicht, vielleicht auch nicht.</translation>
+    </message>
+    <message>
+        <source>Channel %d was not saved into the validator.</source>
+        <translation>Kanal %d wurde nicht im Münzprüfer gespeichert.</translation>
+    </message>
+    <message>
+        <source>Channel %d of the validator now holds %s.</source>
+        <translation>Kanal %d des Münzprüfers enthält jetzt %s.</translation>
     </message>
 </context>
 <context>

@@ -592,8 +592,8 @@
         <translation>disabled</translation>
     </message>
     <message>
-        <source>Option &apos;%s&apos;</source>
-        <translation>Option &apos;%s&apos;</translation>
+        <source>Option '%s'</source>
+        <translation>Option '%s'</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -675,6 +675,86 @@
         <source>Channel windows</source>
         <translation>Channel windows</translation>
     </message>
+<message>
+        <source>sent</source>
+        <translation>sent</translation>
+    </message>
+    <message>
+        <source>refused by the validator</source>
+        <translation>refused by the validator</translation>
+    </message>
+    <message>
+        <source>Validator's own block</source>
+        <translation>Validator's own block</translation>
+    </message>
+    <message>
+        <source>%s (channels %s)</source>
+        <translation>%s (channels %s)</translation>
+    </message>
+    <message>
+        <source>%s (%s of %s parts)</source>
+        <translation>%s (%s of %s parts)</translation>
+    </message>
+    <message>
+        <source>the learned windows</source>
+        <translation>the learned windows</translation>
+    </message>
+    <message>
+        <source>its former windows</source>
+        <translation>its former windows</translation>
+    </message>
+    <message>
+        <source>windows that are not known</source>
+        <translation>windows that are not known</translation>
+    </message>
+    <message>
+        <source>the value %s</source>
+        <translation>the value %s</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>no value</translation>
+    </message>
+    <message>
+        <source>its former value</source>
+        <translation>its former value</translation>
+    </message>
+    <message>
+        <source>a value that is not known</source>
+        <translation>a value that is not known</translation>
+    </message>
+    <message>
+        <source>its former enable bit</source>
+        <translation>its former enable bit</translation>
+    </message>
+    <message>
+        <source>an enable bit that is not known</source>
+        <translation>an enable bit that is not known</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; empty: not set</source>
+        <translation>An amount in steps of %s, at most %s; empty: not set</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; -P1- or -P2- pays price 1 or 2; empty: no value</source>
+        <translation>An amount in steps of %s, at most %s; -P1- or -P2- pays price 1 or 2; empty: no value</translation>
+    </message>
+    <message>
+        <source>No base value is set: give the base value first</source>
+        <translation>No base value is set: give the base value first</translation>
+    </message>
+    <message>
+        <source>A number from 0 to 254; empty: not set</source>
+        <translation>A number from 0 to 254; empty: not set</translation>
+    </message>
+    <message>
+        <source>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</source>
+        <translation>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</translation>
+    </message>
+    <message>
+        <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
+        <translation>Milliseconds in steps of 10, at most 630; empty: not set</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -691,8 +771,8 @@
         <translation>Reading Error fron validator</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
-        <translation>Comunication Port COM%d isn&apos;t free or Setting error.</translation>
+        <source>Comunication Port COM%d isn't free or Setting error.</source>
+        <translation>Comunication Port COM%d isn't free or Setting error.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
@@ -759,8 +839,8 @@
         <translation>Value under the minimum, it will be correct.</translation>
     </message>
     <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; is not a valid integer value</translation>
+        <source>'%s' is not a valid integer value</source>
+        <translation>'%s' is not a valid integer value</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -891,8 +971,8 @@
         <translation>Updating... Please Wait !</translation>
     </message>
     <message>
-        <source>Don&apos;t Stop or disconnect !!!</source>
-        <translation>Don&apos;t Stop or disconnect !!!</translation>
+        <source>Don't Stop or disconnect !!!</source>
+        <translation>Don't Stop or disconnect !!!</translation>
     </message>
     <message>
         <source>Please connect the mini-programer.</source>
@@ -995,8 +1075,8 @@
         <translation>tag %s is missing or does not match its field</translation>
     </message>
     <message>
-        <source>its language driver differs from the table&apos;s</source>
-        <translation>its language driver differs from the table&apos;s</translation>
+        <source>its language driver differs from the table's</source>
+        <translation>its language driver differs from the table's</translation>
     </message>
     <message>
         <source>The data directory %s has been created with empty tables</source>
@@ -1171,12 +1251,12 @@
         <translation>The disk reported an error (%s): nothing was written</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
-        <translation>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
+        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
-        <translation>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</translation>
+        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</translation>
     </message>
     <message>
         <source>%s counts %s records in its header, but its index and its length prove %s</source>
@@ -1197,6 +1277,34 @@
     <message>
         <source>No coin profile %s is stored</source>
         <translation>No coin profile %s is stored</translation>
+    </message>
+<message>
+        <source>An amount cannot be negative: %s was not stored.</source>
+        <translation>An amount cannot be negative: %s was not stored.</translation>
+    </message>
+    <message>
+        <source>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</source>
+        <translation>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the validator holds what it held before.</source>
+        <translation>Nothing was written: the validator holds what it held before.</translation>
+    </message>
+    <message>
+        <source>The validator refused: %s.</source>
+        <translation>The validator refused: %s.</translation>
+    </message>
+    <message>
+        <source>No answer came after sending %s: the validator may or may not hold it.</source>
+        <translation>No answer came after sending %s: the validator may or may not hold it.</translation>
+    </message>
+    <message>
+        <source>Channel %d was not saved into the validator.</source>
+        <translation>Channel %d was not saved into the validator.</translation>
+    </message>
+    <message>
+        <source>Channel %d of the validator now holds %s.</source>
+        <translation>Channel %d of the validator now holds %s.</translation>
     </message>
 </context>
 <context>

@@ -592,8 +592,8 @@
         <translation>disabilitato</translation>
     </message>
     <message>
-        <source>Option &apos;%s&apos;</source>
-        <translation>Opzione &apos;%s&apos;</translation>
+        <source>Option '%s'</source>
+        <translation>Opzione '%s'</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -669,11 +669,91 @@
     </message>
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
+        <translation>Nessuna modifica dall'ultima lettura, apertura o scrittura della configurazione.</translation>
     </message>
     <message>
         <source>Channel windows</source>
         <translation>Finestre dei canali</translation>
+    </message>
+<message>
+        <source>sent</source>
+        <translation>inviato</translation>
+    </message>
+    <message>
+        <source>refused by the validator</source>
+        <translation>rifiutato dalla gettoniera</translation>
+    </message>
+    <message>
+        <source>Validator's own block</source>
+        <translation>Blocco proprio della gettoniera</translation>
+    </message>
+    <message>
+        <source>%s (channels %s)</source>
+        <translation>%s (canali %s)</translation>
+    </message>
+    <message>
+        <source>%s (%s of %s parts)</source>
+        <translation>%s (%s parti su %s)</translation>
+    </message>
+    <message>
+        <source>the learned windows</source>
+        <translation>le finestre apprese</translation>
+    </message>
+    <message>
+        <source>its former windows</source>
+        <translation>le sue finestre precedenti</translation>
+    </message>
+    <message>
+        <source>windows that are not known</source>
+        <translation>finestre sconosciute</translation>
+    </message>
+    <message>
+        <source>the value %s</source>
+        <translation>il valore %s</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>nessun valore</translation>
+    </message>
+    <message>
+        <source>its former value</source>
+        <translation>il suo valore precedente</translation>
+    </message>
+    <message>
+        <source>a value that is not known</source>
+        <translation>un valore sconosciuto</translation>
+    </message>
+    <message>
+        <source>its former enable bit</source>
+        <translation>il suo bit di abilitazione precedente</translation>
+    </message>
+    <message>
+        <source>an enable bit that is not known</source>
+        <translation>un bit di abilitazione sconosciuto</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; empty: not set</source>
+        <translation>Un importo a passi di %s, al massimo %s; vuoto: non impostato</translation>
+    </message>
+    <message>
+        <source>An amount in steps of %s, at most %s; -P1- or -P2- pays price 1 or 2; empty: no value</source>
+        <translation>Un importo a passi di %s, al massimo %s; -P1- o -P2- paga il prezzo 1 o 2; vuoto: nessun valore</translation>
+    </message>
+    <message>
+        <source>No base value is set: give the base value first</source>
+        <translation>Nessun valore base impostato: indicare prima il valore base</translation>
+    </message>
+    <message>
+        <source>A number from 0 to 254; empty: not set</source>
+        <translation>Un numero da 0 a 254; vuoto: non impostato</translation>
+    </message>
+    <message>
+        <source>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</source>
+        <translation>A decine, da 0 a 2540 (l'ultima cifra viene scartata); vuoto: non impostato</translation>
+    </message>
+    <message>
+        <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
+        <translation>Millisecondi a passi di 10, al massimo 630; vuoto: non impostato</translation>
     </message>
 </context>
 <context>
@@ -691,12 +771,12 @@
         <translation>Errore di lettura dalla gettoniera</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <source>Comunication Port COM%d isn't free or Setting error.</source>
         <translation>La porta di comunicazione COM%d non è libera o è impostata in modo errato.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
-        <translation>Questo utente non ha il permesso di aprire la porta seriale. Aggiungere l&apos;utente al gruppo dialout (sudo usermod -aG dialout $USER), poi chiudere la sessione e accedere di nuovo.</translation>
+        <translation>Questo utente non ha il permesso di aprire la porta seriale. Aggiungere l'utente al gruppo dialout (sudo usermod -aG dialout $USER), poi chiudere la sessione e accedere di nuovo.</translation>
     </message>
     <message>
         <source>Select port !!!</source>
@@ -759,8 +839,8 @@
         <translation>Valore inferiore al minimo, sarà corretto.</translation>
     </message>
     <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; non è un valore intero valido</translation>
+        <source>'%s' is not a valid integer value</source>
+        <translation>'%s' non è un valore intero valido</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -884,14 +964,14 @@
     </message>
     <message>
         <source>Operation cancelled by operator</source>
-        <translation>Operazione annullata dall&apos;operatore</translation>
+        <translation>Operazione annullata dall'operatore</translation>
     </message>
     <message>
         <source>Updating... Please Wait !</source>
         <translation>Aggiornamento in corso... Attendere !</translation>
     </message>
     <message>
-        <source>Don&apos;t Stop or disconnect !!!</source>
+        <source>Don't Stop or disconnect !!!</source>
         <translation>Non interrompere né scollegare !!!</translation>
     </message>
     <message>
@@ -900,7 +980,7 @@
     </message>
     <message>
         <source>The user guide %s is not installed.</source>
-        <translation>La guida dell&apos;utente %s non è installata.</translation>
+        <translation>La guida dell'utente %s non è installata.</translation>
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
@@ -908,7 +988,7 @@
     </message>
     <message>
         <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
-        <translation>La gettoniera contiene ora una configurazione scritta in parte: nulla di quanto già scritto è stato annullato. Riscriverla prima dell&apos;uso.</translation>
+        <translation>La gettoniera contiene ora una configurazione scritta in parte: nulla di quanto già scritto è stato annullato. Riscriverla prima dell'uso.</translation>
     </message>
     <message>
         <source>%s is missing</source>
@@ -928,11 +1008,11 @@
     </message>
     <message>
         <source>%s has a damaged header: its header length, record length and field widths do not add up</source>
-        <translation>%s ha un&apos;intestazione danneggiata: lunghezza dell&apos;intestazione, lunghezza del record e larghezze dei campi non corrispondono</translation>
+        <translation>%s ha un'intestazione danneggiata: lunghezza dell'intestazione, lunghezza del record e larghezze dei campi non corrispondono</translation>
     </message>
     <message>
         <source>%s has a damaged header: field %s is not valid</source>
-        <translation>%s ha un&apos;intestazione danneggiata: il campo %s non è valido</translation>
+        <translation>%s ha un'intestazione danneggiata: il campo %s non è valido</translation>
     </message>
     <message>
         <source>%s is truncated: it holds %s of its %s records</source>
@@ -964,11 +1044,11 @@
     </message>
     <message>
         <source>The index %s was not usable (%s) and has been rebuilt from %s</source>
-        <translation>L&apos;indice %s non era utilizzabile (%s) ed è stato ricostruito da %s</translation>
+        <translation>L'indice %s non era utilizzabile (%s) ed è stato ricostruito da %s</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s) and cannot be rebuilt now</source>
-        <translation>L&apos;indice %s non è utilizzabile (%s) e non può essere ricostruito ora</translation>
+        <translation>L'indice %s non è utilizzabile (%s) e non può essere ricostruito ora</translation>
     </message>
     <message>
         <source>it is missing</source>
@@ -995,7 +1075,7 @@
         <translation>il tag %s manca o non corrisponde al suo campo</translation>
     </message>
     <message>
-        <source>its language driver differs from the table&apos;s</source>
+        <source>its language driver differs from the table's</source>
         <translation>il suo driver di lingua differisce da quello della tabella</translation>
     </message>
     <message>
@@ -1012,7 +1092,7 @@
     </message>
     <message>
         <source>The settings could not be read; the defaults are used until a setting is changed.</source>
-        <translation>Non è stato possibile leggere le impostazioni; si usano i valori predefiniti finché non si modifica un&apos;impostazione.</translation>
+        <translation>Non è stato possibile leggere le impostazioni; si usano i valori predefiniti finché non si modifica un'impostazione.</translation>
     </message>
     <message>
         <source>The file %s could not be read.</source>
@@ -1020,7 +1100,7 @@
     </message>
     <message>
         <source>The sheet could not be written to %s: %s. Nothing else was changed.</source>
-        <translation>Non è stato possibile scrivere la scheda in %s: %s. Nient&apos;altro è stato modificato.</translation>
+        <translation>Non è stato possibile scrivere la scheda in %s: %s. Nient'altro è stato modificato.</translation>
     </message>
     <message>
         <source>The sheet could not be printed.</source>
@@ -1100,7 +1180,7 @@
     </message>
     <message>
         <source>%s. Nothing of it can be read; the file is left as it is.</source>
-        <translation>%s. Non se ne può leggere nulla; il file viene lasciato com&apos;è.</translation>
+        <translation>%s. Non se ne può leggere nulla; il file viene lasciato com'è.</translation>
     </message>
     <message>
         <source>%s is not open: nothing can be read from it or stored in it</source>
@@ -1124,7 +1204,7 @@
     </message>
     <message>
         <source>The index %s is not usable (%s)</source>
-        <translation>L&apos;indice %s non è utilizzabile (%s)</translation>
+        <translation>L'indice %s non è utilizzabile (%s)</translation>
     </message>
     <message>
         <source>Verifying...</source>
@@ -1171,11 +1251,11 @@
         <translation>Il disco ha segnalato un errore (%s): non è stato scritto nulla</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>«%s» non può essere memorizzato in %s: la sua tabella codici non ha %s. Non è stato scritto nulla.</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>«%s» è troppo lungo per %s: contiene al massimo %s caratteri. Non è stato scritto nulla.</translation>
     </message>
     <message>
@@ -1197,6 +1277,34 @@
     <message>
         <source>No coin profile %s is stored</source>
         <translation>Nessun profilo moneta %s è salvato</translation>
+    </message>
+<message>
+        <source>An amount cannot be negative: %s was not stored.</source>
+        <translation>Un importo non può essere negativo: %s non è stato memorizzato.</translation>
+    </message>
+    <message>
+        <source>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</source>
+        <translation>La gettoniera contiene ora una configurazione scritta in parte (scritto: %s); nulla di quanto già scritto è stato annullato. Scriverla di nuovo prima dell'uso.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the validator holds what it held before.</source>
+        <translation>Non è stato scritto nulla: la gettoniera contiene ciò che conteneva prima.</translation>
+    </message>
+    <message>
+        <source>The validator refused: %s.</source>
+        <translation>La gettoniera ha rifiutato: %s.</translation>
+    </message>
+    <message>
+        <source>No answer came after sending %s: the validator may or may not hold it.</source>
+        <translation>Nessuna risposta dopo l'invio di %s: la gettoniera potrebbe contenerlo oppure no.</translation>
+    </message>
+    <message>
+        <source>Channel %d was not saved into the validator.</source>
+        <translation>Il canale %d non è stato salvato nella gettoniera.</translation>
+    </message>
+    <message>
+        <source>Channel %d of the validator now holds %s.</source>
+        <translation>Il canale %d della gettoniera contiene ora %s.</translation>
     </message>
 </context>
 <context>
@@ -1279,7 +1387,7 @@
     </message>
     <message>
         <source>Adapter bursts every (ms) :</source>
-        <translation>Pacchetti dell&apos;adattatore ogni (ms) :</translation>
+        <translation>Pacchetti dell'adattatore ogni (ms) :</translation>
     </message>
     <message>
         <source>Pause in replies after byte, for (ms) :</source>

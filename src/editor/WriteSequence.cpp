@@ -5,6 +5,7 @@
 #include "Messages.h"
 #include "ReadSequence.h"
 #include "UserPrompt.h"
+#include "WriteReport.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,16 +18,16 @@ void tell(TMonnayeur &link, Msg id, UserPrompt::Kind kind = UserPrompt::Kind::In
         link.prompt()->tell(messageText(id), kind);
 }
 
-WriteOutcome finish(TMonnayeur &link, int gauge)
+WriteOutcome finish(TMonnayeur &link, int gauge, const WriteSteps &steps, int channelCount)
 {
-    if (gauge == 100) {
+    const bool finished = gauge == 100;
+    if (finished)
         tell(link, Msg::FinishedOperation);
-        return WriteOutcome::Finished;
-    }
-    tell(link, Msg::FaultDuringSave, UserPrompt::Kind::Error);
-    // Nothing already written is rolled back: say so plainly.
-    tell(link, Msg::WriteIncomplete, UserPrompt::Kind::Warning);
-    return WriteOutcome::Fault;
+    else
+        tell(link, Msg::FaultDuringSave, UserPrompt::Kind::Error);
+    // A finished write may have had a few steps refused; a fault leaves what it had written.
+    tellWriteAftermath(link.prompt(), steps, channelCount, finished);
+    return finished ? WriteOutcome::Finished : WriteOutcome::Fault;
 }
 
 class Gauge
@@ -69,6 +70,15 @@ SentBlocks &sentRecord(SentBlocks *sent, SentBlocks &scratch)
 }
 
 } // namespace
+
+StepEnd stepEnd(const TMonnayeur &link, bool accepted)
+{
+    if (accepted)
+        return StepEnd::Accepted;
+    if (link.linkGood())
+        return StepEnd::Refused; // a status other than 0: the exchange itself went well
+    return link.lastDataSent() ? StepEnd::Unanswered : StepEnd::Failed;
+}
 
 int writeGaugeAfterChannel(int i)
 {
@@ -119,7 +129,9 @@ WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &o
     for (int i = 0; i < count && link.linkGood(); ++i) {
         const ChannelBytes bytes = recordBytes(image.channels[std::size_t(i)]);
         record.channels[std::size_t(i)] = asKept(bytes, image.longForm());
-        if (link.WriteChannel(quint8(i), bytes, image.longForm()))
+        const bool ok = link.WriteChannel(quint8(i), bytes, image.longForm());
+        record.steps.channels[std::size_t(i)] = stepEnd(link, ok);
+        if (ok)
             gauge.set(writeGaugeAfterChannel(i));
     }
     // 25 x 1.55 rounds to 39, and 39 + 54 = 93, where 60 channels end.
@@ -133,7 +145,8 @@ WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &o
     // Each step is skipped once the link has failed; the figure is what it adds on success.
     Block6 ownBlock{};
     bool ownBlockRead = false;
-    auto ran = [&](bool ok, int units) {
+    auto ran = [&](StepEnd &end, bool ok, int units) {
+        end = stepEnd(link, ok);
         if (ok)
             gauge.add(units);
     };
@@ -141,27 +154,28 @@ WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &o
         ownBlockRead = link.ReadBlock(Cmd::ReadBlock2, ownBlock.data());
     if (link.linkGood()) {
         record.options = image.options;
-        ran(link.WriteBlock(Cmd::WriteOptions, image.options.data()), 1);
+        ran(record.steps.options, link.WriteBlock(Cmd::WriteOptions, image.options.data()), 1);
     }
     if (link.linkGood()) {
         ValueTableBytes values;
         std::copy(image.values.begin(), image.values.end(), values.begin());
         record.values = image.values;
-        ran(link.WriteValueTable(values), 1);
+        ran(record.steps.values, link.WriteValueTable(values, &record.steps.valueParts), 1);
     }
     if (link.linkGood()) {
         record.prices = image.prices;
-        ran(link.WriteBlock(Cmd::WritePrices, image.prices.data()), 1);
+        ran(record.steps.prices, link.WriteBlock(Cmd::WritePrices, image.prices.data()), 1);
     }
     if (link.linkGood()) {
         record.enable = image.enable;
-        ran(link.WriteBlock(Cmd::WriteEnable, image.enable.data()), 1);
+        ran(record.steps.enable, link.WriteBlock(Cmd::WriteEnable, image.enable.data()), 1);
     }
     if (link.linkGood()) {
         // The counters only travel when the option word says so; the step counts either way.
         if (image.options[1] & 0x20) {
             record.counters = image.counters;
-            ran(link.WriteBlock(Cmd::WriteCounters, image.counters.data()), 1);
+            ran(record.steps.counters, link.WriteBlock(Cmd::WriteCounters, image.counters.data()),
+                1);
         } else
             gauge.add(1);
     }
@@ -179,12 +193,12 @@ WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &o
     }
     if (link.linkGood()) {
         record.ident = image.ident;
-        ran(link.WriteBlock(Cmd::WriteIdent, image.ident.data()), 1);
+        ran(record.steps.ident, link.WriteBlock(Cmd::WriteIdent, image.ident.data()), 1);
     }
     if (link.linkGood() && ownBlockRead)
-        ran(link.WriteBlock(Cmd::WriteBlock13, ownBlock.data()), 1);
+        ran(record.steps.ownBlock, link.WriteBlock(Cmd::WriteBlock13, ownBlock.data()), 1);
 
-    return finish(link, gauge.value());
+    return finish(link, gauge.value(), record.steps, image.channelCount());
 }
 
 ChannelBytes correctedRecord(const quint8 *record, const quint8 *imageReference,
@@ -233,7 +247,7 @@ WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneG
     VersionBlock targetVersion{};
     if (!link.ReadBlock(Cmd::ReadIdent, targetIdent.data()) ||
         !link.ReadBlock(Cmd::ReadVersion, targetVersion.data()))
-        return finish(link, 0);
+        return finish(link, 0, record.steps, image.channelCount());
     if (targetVersion[0] != image.version[0] || targetVersion[1] != image.version[1]) {
         tell(link, Msg::IncorrectVersion, UserPrompt::Kind::Error);
         return WriteOutcome::IncorrectVersion;
@@ -250,7 +264,8 @@ WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneG
     int done = 0;
     Gauge gauge(observer);
     gauge.set(0);
-    auto succeeded = [&](bool ok) {
+    auto succeeded = [&](StepEnd &end, bool ok) {
+        end = stepEnd(link, ok);
         if (!ok)
             return;
         ++done;
@@ -268,7 +283,8 @@ WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneG
                 const ChannelBytes bytes = correctedRecord(image.channels[std::size_t(i)].data(),
                                                            imageRef, targetRef.data());
                 record.channels[std::size_t(i)] = asKept(bytes, image.longForm());
-                succeeded(link.WriteChannel(quint8(i), bytes, image.longForm()));
+                succeeded(record.steps.channels[std::size_t(i)],
+                          link.WriteChannel(quint8(i), bytes, image.longForm()));
             }
         }
     }
@@ -276,7 +292,7 @@ WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneG
     if (link.linkGood()) {
         Block6 own{};
         if (link.ReadBlock(Cmd::ReadBlock2, own.data()) && link.linkGood())
-            succeeded(link.WriteBlock(Cmd::WriteBlock13, own.data()));
+            succeeded(record.steps.ownBlock, link.WriteBlock(Cmd::WriteBlock13, own.data()));
     }
     if (groups.config && link.linkGood()) {
         // Bits 4, 5 and 6 of the second byte are the target's own (outlet, erasable, counting).
@@ -285,23 +301,23 @@ WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneG
             OptionWord word = image.options;
             word[1] = quint8((word[1] & ~0x70) | (theirs[1] & 0x70));
             record.options = word;
-            succeeded(link.WriteBlock(Cmd::WriteOptions, word.data()));
+            succeeded(record.steps.options, link.WriteBlock(Cmd::WriteOptions, word.data()));
         }
     }
     if (groups.values && link.linkGood()) {
         ValueTableBytes values;
         std::copy(image.values.begin(), image.values.end(), values.begin());
         record.values = image.values;
-        succeeded(link.WriteValueTable(values));
+        succeeded(record.steps.values, link.WriteValueTable(values, &record.steps.valueParts));
     }
     if (groups.prices && link.linkGood()) {
         record.prices = image.prices;
-        succeeded(link.WriteBlock(Cmd::WritePrices, image.prices.data()));
+        succeeded(record.steps.prices, link.WriteBlock(Cmd::WritePrices, image.prices.data()));
     }
     if (groups.enable && link.linkGood()) {
         record.enable = image.enable;
-        succeeded(link.WriteBlock(Cmd::WriteEnable, image.enable.data()));
+        succeeded(record.steps.enable, link.WriteBlock(Cmd::WriteEnable, image.enable.data()));
     }
 
-    return finish(link, gauge.value());
+    return finish(link, gauge.value(), record.steps, image.channelCount());
 }

@@ -22,6 +22,35 @@ struct WriteObserver
     std::function<void(int gauge)> progress;
 };
 
+// How one write step ended.
+enum class StepEnd
+{
+    NotRun,     // skipped, or not part of this write
+    Accepted,   // the validator answered status 0: stored
+    Refused,    // it answered another status: not stored, and the link stays good
+    Unanswered, // the data went out but no status came back: it may have been stored
+    Failed      // the exchange broke before the data went out: not stored
+};
+
+// How each write step ended, so that the write can say what the validator now holds.
+struct WriteSteps
+{
+    std::array<StepEnd, kChannels> channels{};
+    StepEnd options = StepEnd::NotRun;
+    StepEnd values = StepEnd::NotRun;
+    int valueParts = 0; // of the value table's five slices, those accepted
+    StepEnd prices = StepEnd::NotRun;
+    StepEnd enable = StepEnd::NotRun;
+    StepEnd counters = StepEnd::NotRun;
+    StepEnd ident = StepEnd::NotRun;
+    StepEnd ownBlock = StepEnd::NotRun; // the validator's own block, command 12
+};
+
+// How a write step ended, from whether it was accepted and what the link saw: refused when the
+// exchange went well but the status was not 0, else unanswered or failed by whether its data
+// had left the port.
+StepEnd stepEnd(const TMonnayeur &link, bool accepted);
+
 // What the steps of a write sent, each block set only when its step ran, whether the validator
 // accepted it or not. Channel records are as they went on the line: the clone's corrected
 // records, and a short record as the validator keeps it (no amplitude window).
@@ -34,6 +63,7 @@ struct SentBlocks
     std::optional<EnableBitmap> enable;
     std::optional<CounterBlock> counters; // only when the option word lets them travel
     std::optional<IdentRecord> ident;
+    WriteSteps steps;
 };
 
 struct FullWriteOptions

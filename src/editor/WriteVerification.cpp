@@ -1,6 +1,65 @@
 #include "WriteVerification.h"
 
+#include "Captions.h"
 #include "Messages.h"
+#include "WriteReport.h"
+
+#include <algorithm>
+
+namespace {
+
+// A refused step the comparison cannot see (the validator's own block and the programming date
+// are not compared, and a refused block may already have held what was sent) still left the
+// validator without what the write meant to give it: it is a mismatch of its own.
+void addRefusedSteps(const WriteSteps &steps, QList<ConfigChange> &mismatches)
+{
+    auto shown = [&](ChangeGroup group, int channel) {
+        return std::any_of(mismatches.begin(), mismatches.end(), [&](const ConfigChange &c) {
+            return c.group == group && (channel < 0 || c.channel == channel);
+        });
+    };
+    auto add = [&](ChangeGroup group, int channel, const QString &key, const QString &where,
+                   const QString &field) {
+        ConfigChange change;
+        change.group = group;
+        change.channel = channel;
+        change.key = QStringLiteral("refused.") + key;
+        change.where = where;
+        change.field = field;
+        change.before = captionText(Cap::DiffSent);
+        change.after = captionText(Cap::DiffRefused);
+        mismatches.append(change);
+    };
+    for (int k = 0; k < kChannels; ++k) {
+        if (steps.channels[std::size_t(k)] == StepEnd::Refused && !shown(ChangeGroup::Channels, k))
+            add(ChangeGroup::Channels, k, QStringLiteral("channel.%1").arg(k + 1),
+                captionText(Cap::ChannelNumber, {QString::number(k + 1)}).trimmed(), {});
+    }
+    const struct
+    {
+        StepEnd end;
+        ChangeGroup group;
+        const char *key;
+        QString name;
+    } blocks[] = {
+        {steps.values, ChangeGroup::Values, "values", changeGroupName(ChangeGroup::Values)},
+        {steps.options, ChangeGroup::Config, "config", changeGroupName(ChangeGroup::Config)},
+        {steps.prices, ChangeGroup::Prices, "prices", changeGroupName(ChangeGroup::Prices)},
+        {steps.enable, ChangeGroup::Enable, "enable", changeGroupName(ChangeGroup::Enable)},
+        {steps.counters, ChangeGroup::Counters, "counters", changeGroupName(ChangeGroup::Counters)},
+        {steps.ident, ChangeGroup::Identification, "identification",
+         changeGroupName(ChangeGroup::Identification)},
+        {steps.ownBlock, ChangeGroup::Identification, "own_block", captionText(Cap::OwnBlock)},
+    };
+    for (const auto &block : blocks) {
+        // The validator's own block is never compared: its refusal always shows.
+        const bool own = qstrcmp(block.key, "own_block") == 0;
+        if (block.end == StepEnd::Refused && (own || !shown(block.group, -1)))
+            add(block.group, -1, QLatin1String(block.key), {}, block.name);
+    }
+}
+
+} // namespace
 
 ConfigImage expectedAfterWrite(const ConfigImage &readBack, const SentBlocks &sent)
 {
@@ -34,6 +93,7 @@ VerifyResult compareWithReadBack(const ConfigImage &readBack, const SentBlocks &
     VerifyResult result;
     result.readBack = readBack;
     result.mismatches = configDifferences(expectedAfterWrite(readBack, sent), readBack);
+    addRefusedSteps(sent.steps, result.mismatches);
     result.outcome =
         result.mismatches.isEmpty() ? VerifyOutcome::Verified : VerifyOutcome::Mismatches;
     return result;

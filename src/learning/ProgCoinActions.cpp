@@ -2,6 +2,7 @@
 // clearing or loading, the files of a learned channel, the profiles, the analysis, and the
 // settings of the calibration and the channel control.
 #include "CoinProfile.h"
+#include "EditorState.h"
 #include "Encodings.h"
 #include "LearnedChannelFile.h"
 #include "Messages.h"
@@ -33,8 +34,22 @@ std::optional<quint8> ProgCoinModel::valueByte(int channel)
         return kValuePrice2;
     default: {
         const DecimalWord base = channelBase(m_image, channel);
-        return ParseChannelValue(c().state(QStringLiteral("Edit2")).text, base.magnitude,
-                                 base.decimals);
+        const QString text = c().state(QStringLiteral("Edit2")).text;
+        const ChannelAmount amount = CheckChannelAmount(text, base.magnitude, base.decimals);
+        if (amount.fit == AmountFit::Negative) {
+            tell(messageText(Msg::AmountNegative, {text.trimmed()}), UserPrompt::Kind::Warning);
+            return std::nullopt;
+        }
+        if (amount.fit == AmountFit::OverMaximum) {
+            // Held at what the base can show, and shown so.
+            tell(messageText(Msg::ValueOverMaximum), UserPrompt::Kind::Warning);
+            showValueByte(channel, amount.byte);
+        }
+        if (amount.fit == AmountFit::NotAnAmount) {
+            tell(messageText(Msg::ValueBetween0And255), UserPrompt::Kind::Warning);
+            return std::nullopt;
+        }
+        return amount.byte;
     }
     }
 }
@@ -44,6 +59,7 @@ void ProgCoinModel::showValueByte(int channel, quint8 byte)
     const DecimalWord base = channelBase(m_image, channel);
     c().setText(QStringLiteral("Edit2"),
                 FormatChannelValue(base.decimals, 6, base.magnitude, byte).trimmed());
+    c().setToolTip(QStringLiteral("Edit2"), EditorState::amountTip(base, true));
     c().setItemIndex(QStringLiteral("RadioGroup3"),
                      byte == kValuePrice1 ? 0 : (byte == kValuePrice2 ? 1 : -1));
 }
@@ -62,9 +78,9 @@ void ProgCoinModel::BtnOKClick(bool save)
         requestFocus(QStringLiteral("SpinEdit1"));
         return;
     }
+    // An amount that is not one, or negative, was said and keeps the form open there.
     const std::optional<quint8> value = valueByte(channel);
     if (!value) {
-        tell(messageText(Msg::ValueBetween0And255), UserPrompt::Kind::Warning);
         requestFocus(QStringLiteral("Edit2"));
         return;
     }

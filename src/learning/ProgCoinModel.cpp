@@ -3,6 +3,7 @@
 #include "CoinProfile.h"
 #include "Encodings.h"
 #include "Messages.h"
+#include "Transport.h"
 
 #include <QCoreApplication>
 
@@ -252,11 +253,18 @@ void ProgCoinModel::FormActivate()
 
 void ProgCoinModel::tick()
 {
-    if (acting() || closed() || !m_link || m_link->betweenExchangesRunning())
+    if (acting() || closed() || !m_link || m_link->betweenExchangesRunning() || m_portLost)
         return;
     const std::optional<SampleBytes> sample = m_session.poll(*m_link, m_image.longForm());
-    if (sample)
+    if (sample) {
         addCoin(*sample);
+        return;
+    }
+    // No coin can come through a port that is gone: say so once instead of polling on.
+    if (const Transport *port = m_link->transport(); port && !port->isOpen()) {
+        m_portLost = true;
+        tell(m_link->LastLinkError(), UserPrompt::Kind::Error);
+    }
 }
 
 void ProgCoinModel::syncWindowsFromEdits()

@@ -122,6 +122,8 @@ private:
     ChannelBytes m_result{};
     WindowsChartModel m_chart;
     bool m_imageChanged = false;
+    // The port went away while coins were awaited: said once, and polling stops.
+    bool m_portLost = false;
     int m_lastMatched = 0;
     bool m_boundChanged = false;
     const char *m_channelLabel;

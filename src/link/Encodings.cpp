@@ -152,17 +152,17 @@ QString FormatChannelValue(quint8 decimals, int width, quint16 baseValue, quint8
     return formatFixed(double(valueByte) * baseValue / double(pow10(decimals)), width, decimals);
 }
 
-std::optional<quint8> ParseChannelValue(const QString &input, quint16 baseValue, quint8 decimals)
+ChannelAmount CheckChannelAmount(const QString &input, quint16 baseValue, quint8 decimals)
 {
     QString text = input.trimmed();
     if (text.isEmpty())
-        return kNotSet;
+        return {AmountFit::Fits, kNotSet};
     QString squeezed = text;
     squeezed.remove(u' ');
     if (squeezed.compare(QLatin1String("-P1-"), Qt::CaseInsensitive) == 0)
-        return kValuePrice1;
+        return {AmountFit::Fits, kValuePrice1};
     if (squeezed.compare(QLatin1String("-P2-"), Qt::CaseInsensitive) == 0)
-        return kValuePrice2;
+        return {AmountFit::Fits, kValuePrice2};
 
     // Read the amount exactly as mantissa / 10^fraction.
     int fraction = 0;
@@ -172,14 +172,14 @@ std::optional<quint8> ParseChannelValue(const QString &input, quint16 baseValue,
         fraction = int(text.size() - pos);
     }
     if (text.isEmpty() || text.size() > 15 || fraction > 9)
-        return std::nullopt;
+        return {AmountFit::NotAnAmount, kNotSet};
     const auto mantissa = toInteger(text);
     if (!mantissa)
-        return std::nullopt;
+        return {AmountFit::NotAnAmount, kNotSet};
     if (baseValue == 0 || baseValue == 255)
-        return kNotSet;
-    if (*mantissa <= 0)
-        return 0;
+        return {AmountFit::Fits, kNotSet};
+    if (*mantissa < 0)
+        return {AmountFit::Negative, 0};
     // byte = amount x 10^decimals / base, to the nearest byte, a tie going to the lower one.
     const __int128 num = __int128(*mantissa) * pow10(decimals);
     const __int128 den = __int128(pow10(fraction)) * baseValue;
@@ -187,7 +187,27 @@ std::optional<quint8> ParseChannelValue(const QString &input, quint16 baseValue,
     const __int128 r = num % den;
     if (2 * r > den)
         ++q;
-    return quint8(q > 252 ? 252 : q);
+    if (q > kValueMaximum)
+        return {AmountFit::OverMaximum, kValueMaximum};
+    return {AmountFit::Fits, quint8(q)};
+}
+
+std::optional<quint8> ParseChannelValue(const QString &input, quint16 baseValue, quint8 decimals)
+{
+    const ChannelAmount amount = CheckChannelAmount(input, baseValue, decimals);
+    if (amount.fit == AmountFit::NotAnAmount)
+        return std::nullopt;
+    return amount.byte;
+}
+
+QString ChannelValueStep(quint16 baseValue, quint8 decimals)
+{
+    return FormatChannelValue(decimals, 0, baseValue, 1);
+}
+
+QString ChannelValueMaximum(quint16 baseValue, quint8 decimals)
+{
+    return FormatChannelValue(decimals, 0, baseValue, kValueMaximum);
 }
 
 QString FormatScaled(quint8 decimals, int width, double multiplier, quint64 value)

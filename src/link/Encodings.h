@@ -52,6 +52,29 @@ QString FormatChannelValue(quint8 decimals, int width, quint16 baseValue, quint8
 // 253/254 for "-P1-"/"-P2-" with or without blanks; nothing when the text is not a number.
 std::optional<quint8> ParseChannelValue(const QString &text, quint16 baseValue, quint8 decimals);
 
+// The largest multiple of a base a channel value byte holds.
+inline constexpr quint8 kValueMaximum = 252;
+// How an amount typed for a channel value or a price fits its base.
+enum class AmountFit
+{
+    Fits,        // the byte is the amount's (or 255, 253, 254)
+    OverMaximum, // more than 252 steps of the base: the byte is held at 252
+    Negative,    // below zero: no byte holds it
+    NotAnAmount  // not a number
+};
+struct ChannelAmount
+{
+    AmountFit fit = AmountFit::Fits;
+    quint8 byte = kNotSet;
+};
+// ParseChannelValue's byte, with what it had to make of the amount. Without a base every
+// amount gives 255, as the box then shows nothing.
+ChannelAmount CheckChannelAmount(const QString &text, quint16 baseValue, quint8 decimals);
+// One step of the base and the largest amount it can show, as the boxes show them; empty
+// without a base.
+QString ChannelValueStep(quint16 baseValue, quint8 decimals);
+QString ChannelValueMaximum(quint16 baseValue, quint8 decimals);
+
 // Scaled integer: amount = value x multiplier / 10^decimals.
 QString FormatScaled(quint8 decimals, int width, double multiplier, quint64 value);
 

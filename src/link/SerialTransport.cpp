@@ -46,15 +46,16 @@ qint64 SerialTransport::write(const QByteArray &bytes)
         return -1;
     const qint64 n = m_port->write(bytes);
     if (n < 0) {
-        noteError();
+        lose();
         return -1;
     }
     // Blocking semantics, as the program has always had: the bytes have left the port before
     // we go on, so that a reply window starts when the line is free.
     while (m_port->bytesToWrite() > 0) {
         if (!m_port->waitForBytesWritten(1000)) {
-            noteError();
-            return m_port->error() == QSerialPort::ResourceError ? -1 : n;
+            const bool gone = m_port->error() == QSerialPort::ResourceError;
+            lose();
+            return gone ? -1 : n;
         }
     }
 #ifdef Q_OS_UNIX
@@ -72,8 +73,7 @@ QByteArray SerialTransport::read(int count, int firstByteWaitMs)
         if (m_port->waitForReadyRead(ms) || m_port->bytesAvailable() > 0)
             return true;
         if (m_port->error() == QSerialPort::ResourceError) {
-            noteError();
-            m_port->close();
+            lose();
             return false;
         }
         return true; // a time-out: the caller looks at its clock
@@ -90,6 +90,16 @@ void SerialTransport::purge()
 void SerialTransport::close()
 {
     if (m_port && m_port->isOpen())
+        m_port->close();
+}
+
+void SerialTransport::lose()
+{
+    // A port that is gone stays closed, so that the caller sees it is lost and not merely
+    // silent.
+    const bool gone = m_port->error() == QSerialPort::ResourceError;
+    noteError();
+    if (gone)
         m_port->close();
 }
 

@@ -31,6 +31,8 @@ public:
 
 private:
     void noteError();
+    // Notes the error, and closes the port when it is gone.
+    void lose();
 
     std::unique_ptr<QSerialPort> m_port;
     int m_readTimeout = kDefaultReadTimeoutMs;

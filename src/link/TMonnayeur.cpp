@@ -71,6 +71,7 @@ bool TMonnayeur::SendCommand(const quint8 *data, quint8 command, quint8 replyLen
                              quint8 dataLength, quint8 *reply, bool awaitReply, bool showMessage)
 {
     bool ok = false;
+    m_dataSent = false;
     if (m_transport)
         m_transport->beginExchange(command);
 
@@ -101,6 +102,8 @@ bool TMonnayeur::SendCommand(const quint8 *data, quint8 command, quint8 replyLen
             if (m_transport->write(block) != dataLength) {
                 fail(messageText(Msg::CommunicationError));
                 ok = false;
+            } else {
+                m_dataSent = true;
             }
         }
         if (ok && awaitReply)
@@ -229,15 +232,19 @@ bool TMonnayeur::ReadValueTable(ValueTableBytes &table)
     return all;
 }
 
-bool TMonnayeur::WriteValueTable(const ValueTableBytes &table)
+bool TMonnayeur::WriteValueTable(const ValueTableBytes &table, int *slicesAccepted)
 {
     for (quint8 slice = 0; slice < kValueSlices; ++slice) {
+        if (slicesAccepted)
+            *slicesAccepted = slice;
         quint8 data[16];
         data[0] = slice;
         std::memcpy(data + 1, table.data() + slice * kValueSlice, kValueSlice);
         if (!writeAccepted(Cmd::WriteValues, data, 16))
             return false;
     }
+    if (slicesAccepted)
+        *slicesAccepted = kValueSlices;
     return true;
 }
 

@@ -41,7 +41,9 @@ public:
     // Writes a fixed-size block (commands 6, 12, 14, 18, 20, 22); true when accepted.
     bool WriteBlock(quint8 command, const quint8 *data);
     bool ReadValueTable(ValueTableBytes &table);
-    bool WriteValueTable(const ValueTableBytes &table);
+    // Writes the five slices in turn, stopping at the first that fails; slicesAccepted, when
+    // given, receives how many the validator accepted.
+    bool WriteValueTable(const ValueTableBytes &table, int *slicesAccepted = nullptr);
     bool ExecuteCommand(quint8 command);
 
     // Short and long channel records.
@@ -54,6 +56,9 @@ public:
     void setLinkGood(bool good) { m_linkGood = good; }
     // The status byte of the last write (0 = accepted).
     quint8 lastStatus() const { return m_lastStatus; }
+    // Whether the data block of the last exchange left the port: a write that failed after it
+    // may have been stored by the validator, one that failed before it was not.
+    bool lastDataSent() const { return m_dataSent; }
 
     Transport *transport() const { return m_transport; }
     UserPrompt *prompt() const { return m_prompt; }
@@ -80,6 +85,7 @@ private:
     QString m_lastLinkError;
     bool m_linkGood = true;
     quint8 m_lastStatus = 0;
+    bool m_dataSent = false;
     std::function<void()> m_betweenExchanges;
     bool m_inBetween = false;
 };

@@ -38,6 +38,8 @@ constexpr Entry kTable[] = {
     {Msg::ValueBetween0And255, QT_TRANSLATE_NOOP("Messages", "Value must be between 0 and 255")},
     {Msg::ValueOverMaximum,
      QT_TRANSLATE_NOOP("Messages", "Value over the maximum, it will be correct")},
+    {Msg::AmountNegative,
+     QT_TRANSLATE_NOOP("Messages", "An amount cannot be negative: %s was not stored.")},
     {Msg::ValueUnderMinimum,
      QT_TRANSLATE_NOOP("Messages", "Value under the minimum, it will be correct.")},
     {Msg::NotValidInteger, QT_TRANSLATE_NOOP("Messages", "'%s' is not a valid integer value")},
@@ -110,8 +112,19 @@ constexpr Entry kTable[] = {
                        "the windows may not suit this validator. Continue?")},
     {Msg::WriteIncomplete,
      QT_TRANSLATE_NOOP("Messages",
-                       "The validator now holds a partly written configuration: nothing already "
-                       "written was undone. Write it again before use.")},
+                       "The validator now holds a partly written configuration (written: %s); "
+                       "nothing already written was undone. Write it again before use.")},
+    {Msg::WriteNothing,
+     QT_TRANSLATE_NOOP("Messages", "Nothing was written: the validator holds what it held "
+                                   "before.")},
+    {Msg::WriteRefused, QT_TRANSLATE_NOOP("Messages", "The validator refused: %s.")},
+    {Msg::WriteUnanswered,
+     QT_TRANSLATE_NOOP("Messages", "No answer came after sending %s: the validator may or may "
+                                   "not hold it.")},
+    {Msg::LearnNotSaved,
+     QT_TRANSLATE_NOOP("Messages", "Channel %d was not saved into the validator.")},
+    {Msg::LearnChannelHolds,
+     QT_TRANSLATE_NOOP("Messages", "Channel %d of the validator now holds %s.")},
     {Msg::Verifying, QT_TRANSLATE_NOOP("Messages", "Verifying...")},
     {Msg::Verified,
      QT_TRANSLATE_NOOP("Messages", "Verified: the validator holds the configuration.")},

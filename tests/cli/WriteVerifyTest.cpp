@@ -39,10 +39,11 @@ TEST(WriteVerify, ExitsOneWhenTheValidatorDoesNotHoldTheWriteAndDiffShowsOnlyIts
         EXPECT_TRUE(write.out.startsWith(heading + QString::fromUtf8(line)) &&
                     write.out.count('\n') == 2)
             << qPrintable(write.out);
-        // Without the read-back the write's own result stands.
+        // Without the read-back the write still says what was refused, and exits 1.
         const CliRun unchecked =
             runTarvikCli({"--device", sim.path(), "write", file, "--no-verify"});
-        EXPECT_EQ(unchecked.exitCode, 0);
+        EXPECT_EQ(unchecked.exitCode, 1);
+        EXPECT_TRUE(unchecked.err.contains("The validator refused: ")) << qPrintable(unchecked.err);
         EXPECT_TRUE(unchecked.out.isEmpty()) << qPrintable(unchecked.out);
     }
 

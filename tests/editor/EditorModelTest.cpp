@@ -371,8 +371,9 @@ TEST(EditorWriting, AReadBackThatDiffersKeepsTheImageAndTheModifiedFlag)
     };
     e.model->SpeedButton8Click();
     EXPECT_TRUE(labels.contains(QStringLiteral("Verifying...")));
-    ASSERT_EQ(e.prompt.told().size(), 2);
+    ASSERT_EQ(e.prompt.told().size(), 3);
     EXPECT_EQ(e.prompt.told().first(), QStringLiteral("Finished operation!"));
+    EXPECT_EQ(e.prompt.told().at(1), QStringLiteral("The validator refused: Enable table."));
     EXPECT_EQ(e.prompt.told().last(), QStringLiteral("The validator does not hold what was "
                                                      "written:\nChannel 1: disabled → enabled"));
     // The editor keeps what it shows, and closing offers to write it again.

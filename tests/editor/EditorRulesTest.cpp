@@ -391,3 +391,44 @@ TEST(ChannelCopy, CopiesMovesAndRefusesTheSameChannel)
     light.model.channelCopy().open();
     EXPECT_EQ(light.model.channelCopy().maximum(), 24);
 }
+
+TEST(Amounts, AboveWhatTheBaseShowsIsCorrectedAndNegativeIsRefused)
+{
+    Rules r; // base 1 is 0.05: a value byte holds at most 252 steps, 12.60
+    const QString over = QStringLiteral("Value over the maximum, it will be correct");
+    EXPECT_EQ(r.model.control("Value2").toolTip,
+              "An amount in steps of 0.05, at most 12.60; -P1- or -P2- pays price 1 or 2; "
+              "empty: no value");
+    EXPECT_EQ(r.model.control("Eprix1").toolTip,
+              "An amount in steps of 0.05, at most 12.60; empty: not set");
+    EXPECT_EQ(r.model.control("Eprix6").toolTip,
+              "Milliseconds in steps of 10, at most 630; empty: not set");
+    EXPECT_EQ(r.model.control("EPrix5").toolTip, "A number from 0 to 254; empty: not set");
+
+    // Leaving the box, and a box left unfinished that the general exit stores.
+    for (const auto &[box, leave] : {std::pair{"Value2", "Value2"}, std::pair{"Eprix1", "Eprix1"},
+                                     std::pair{"Value4", "EHFUBMIN0"}}) {
+        r.prompt.clear();
+        ASSERT_TRUE(r.model.type(box, "50"));
+        ASSERT_TRUE(r.model.leave(leave));
+        EXPECT_EQ(r.prompt.told(), QStringList{over}) << box;
+        EXPECT_EQ(r.text(box).trimmed(), "12.60") << box;
+    }
+    EXPECT_EQ(r.image().valueByte(2), 252);
+    EXPECT_EQ(r.image().valueByte(4), 252);
+    EXPECT_EQ(r.image().prices[0], 252);
+
+    const ConfigImage before = r.image();
+    for (const auto &[box, leave] : {std::pair{"Value3", "Value3"}, std::pair{"Eprix2", "Eprix2"},
+                                     std::pair{"Value5", "EHFUBMIN0"}}) {
+        r.prompt.clear();
+        const QString shown = r.text(box);
+        ASSERT_TRUE(r.model.type(box, "-1"));
+        ASSERT_TRUE(r.model.leave(leave));
+        EXPECT_EQ(r.prompt.told(), QStringList{"An amount cannot be negative: -1 was not stored."})
+            << box;
+        EXPECT_EQ(r.text(box), shown) << box;
+    }
+    EXPECT_EQ(r.image().values, before.values);
+    EXPECT_EQ(r.image().prices, before.prices);
+}

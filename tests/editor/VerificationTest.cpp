@@ -19,6 +19,7 @@ TEST(WriteVerification, RefusedBlockFinishesButTheReadBackShowsIt)
 {
     for (const auto &[command, group] :
          {std::pair{22, ChangeGroup::Enable}, std::pair{16, ChangeGroup::Values}}) {
+        const QString refused = group == ChangeGroup::Enable ? "Enable table" : "Values table";
         SimBench b;
         ConfigImage image = b.device.memory(); // channel 1 switched off and valued otherwise
         image.enable[7] ^= 0x01;
@@ -27,7 +28,8 @@ TEST(WriteVerification, RefusedBlockFinishesButTheReadBackShowsIt)
         FullWriteOptions options;
         SentBlocks sent;
         ASSERT_EQ(fullWrite(b.link, image, options, {}, &sent), WriteOutcome::Finished);
-        EXPECT_EQ(b.prompt.told(), QStringList{"Finished operation!"});
+        EXPECT_EQ(b.prompt.told(),
+                  (QStringList{"Finished operation!", "The validator refused: " + refused + '.'}));
         const VerifyResult result = verifyWrite(b.link, sent);
         ASSERT_EQ(result.outcome, VerifyOutcome::Mismatches) << command;
         ASSERT_EQ(result.mismatches.size(), 1);

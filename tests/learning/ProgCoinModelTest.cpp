@@ -504,3 +504,47 @@ TEST(ProgCoin, ASelectedProfileLeavesTheEnableBoxAlone)
     EXPECT_EQ(b.text("SpinEdit2"), QLatin1String("12"));
     EXPECT_EQ(b.form->control(QStringLiteral("CheckEnable")).checked, !enabled);
 }
+
+TEST(ProgCoin, AmountsTheBaseCannotHoldAndARefusedSaveAreSaid)
+{
+    Bench bench; // channels 1 to 30 in steps of 0.05: at most 12.60
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("20"));
+    bench.insert(CoinKind::Euro020, 10);
+    // A negative value keeps the form open on the value box; nothing is stored.
+    bench.form->type(QStringLiteral("Edit2"), QStringLiteral("-1"));
+    bench.form->click(QStringLiteral("BtnOK"));
+    EXPECT_EQ(bench.prompt.told(), QStringList{"An amount cannot be negative: -1 was not stored."});
+    EXPECT_FALSE(bench.form->closed());
+    EXPECT_EQ(bench.image.valueByte(19), VirtualValidator::factoryImage(0x13, 1001).valueByte(19));
+
+    // Above the maximum: corrected and shown so, then saved; the validator refuses the enable
+    // mask, and the form says what the channel holds, read back.
+    bench.prompt.clear();
+    bench.device.setRefusal(22);
+    bench.form->type(QStringLiteral("Edit2"), QStringLiteral("50"));
+    bench.form->click(QStringLiteral("BtnSave"));
+    EXPECT_EQ(bench.text("Edit2"), QStringLiteral("12.60"));
+    EXPECT_EQ(bench.form->control(QStringLiteral("Edit2")).toolTip,
+              "An amount in steps of 0.05, at most 12.60; -P1- or -P2- pays price 1 or 2; empty: "
+              "no value");
+    EXPECT_EQ(bench.image.valueByte(19), 252);
+    EXPECT_EQ(bench.prompt.told(),
+              (QStringList{"Value over the maximum, it will be correct",
+                           "Channel 20 was not saved into the validator.",
+                           "The validator refused: Enable table.",
+                           "Channel 20 of the validator now holds the learned windows, the value "
+                           "12.60, disabled."}));
+    EXPECT_EQ(bench.device.memory().valueByte(19), 252);
+    EXPECT_FALSE(bench.device.memory().enableBit(19));
+}
+
+TEST(ProgCoin, APortLostWhileWaitingForCoinsIsSaidOnce)
+{
+    Bench bench;
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("20"));
+    bench.insert(CoinKind::Euro020, 2);
+    bench.port.close(); // the adapter pulled out
+    bench.insert(CoinKind::Euro020, 3);
+    EXPECT_EQ(bench.prompt.told(), QStringList{"Internal or Comunication Error"});
+    EXPECT_EQ(bench.text("LabelCoins"), QStringLiteral("2"));
+}

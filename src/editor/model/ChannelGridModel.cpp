@@ -127,12 +127,14 @@ void ChannelGridModel::display()
         c.setText(channelControl("Value", k),
                   FormatChannelValue(base.decimals, EditorState::kValueWidth, base.magnitude,
                                      record[Rec::Value]));
+        c.setToolTip(channelControl("Value", k), EditorState::amountTip(base, true));
         record[Rec::Enabled] = image.enableBit(k) ? 1 : 0;
         c.setChecked(channelControl("Enable", k), record[Rec::Enabled] != 0);
     }
 }
 
-QStringList ChannelGridModel::store(const DecimalWord &base1, const DecimalWord &base2)
+QStringList ChannelGridModel::store(const DecimalWord &base1, const DecimalWord &base2,
+                                    AmountTrouble *trouble)
 {
     ConfigImage &image = m_s.image;
     QStringList notNumbers;
@@ -151,10 +153,16 @@ QStringList ChannelGridModel::store(const DecimalWord &base1, const DecimalWord 
         }
         const QString valueBox = channelControl("Value", k);
         const DecimalWord &base = k < 30 ? base1 : base2;
-        const auto value = ParseChannelValue(m_s.text(valueBox), base.magnitude, base.decimals);
-        if (!value)
+        const QString text = m_s.text(valueBox);
+        const ChannelAmount amount = CheckChannelAmount(text, base.magnitude, base.decimals);
+        if (amount.fit == AmountFit::NotAnAmount)
             notNumbers.append(valueBox);
-        image.values[std::size_t(Val::Channel0 + k)] = value.value_or(kNotSet);
+        if (amount.fit == AmountFit::OverMaximum)
+            trouble->overMaximum = true;
+        if (amount.fit == AmountFit::Negative)
+            trouble->negative.append(text.trimmed());
+        else
+            image.values[std::size_t(Val::Channel0 + k)] = amount.byte;
         // The hidden boxes of a Light validator may still be checked from an earlier image.
         record[Rec::Enabled] = k < image.channelCount() && m_s.checked(channelControl("Enable", k));
     }

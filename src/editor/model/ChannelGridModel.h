@@ -32,7 +32,14 @@ public:
     // The form into the image: every window and substitute box, value and enable of all 60
     // channels, then the enable bitmap rebuilt. Returns the names of boxes whose text was not a
     // number. The value boxes are read with the bases they were shown with.
-    QStringList store(const DecimalWord &base1, const DecimalWord &base2);
+    // Value boxes whose amount the base cannot hold: above its maximum (held there) and
+    // negative (refused: the texts, and the value stays as stored).
+    struct AmountTrouble
+    {
+        bool overMaximum = false;
+        QStringList negative;
+    };
+    QStringList store(const DecimalWord &base1, const DecimalWord &base2, AmountTrouble *trouble);
 
     // True for the boxes that the general exit handler stores.
     static bool isChannelBox(const QString &name);

@@ -6,6 +6,7 @@
 #include "Messages.h"
 #include "TMonnayeur.h"
 #include "UserPrompt.h"
+#include "WriteReport.h"
 #include "WriteSequence.h"
 #include "WriteVerification.h"
 
@@ -42,8 +43,11 @@ void EditorModel::SpeedButton8Click()
             // closing offers to write it again, and Changes counts from what it holds.
             const std::optional<VerifyResult> verified = verifyAfterWrite(sent);
             const bool differs = verified && verified->outcome == VerifyOutcome::Mismatches;
-            m_s.flags.configModified = differs;
-            m_s.baseline = differs ? verified->readBack : m_s.image;
+            // Without the read-back, a refused step still leaves something to write again.
+            const bool refused = !verified && !stepsRefused(sent.steps).isEmpty();
+            m_s.flags.configModified = differs || refused;
+            if (!refused)
+                m_s.baseline = differs ? verified->readBack : m_s.image;
         }
         display();
     });

@@ -325,13 +325,31 @@ void EditorModel::EHFUBMIN0Exit()
     const DecimalWord base2 = m_s.base(30);
     m_identity.store();
     QStringList notNumbers = m_money.store();
-    notNumbers += m_grid.store(base1, base2);
+    ChannelGridModel::AmountTrouble amounts;
+    notNumbers += m_grid.store(base1, base2, &amounts);
     // Cleared after the copy, so that a later exit without a change leaves the image alone.
     m_s.flags.editChanged = false;
     if (!notNumbers.isEmpty() && m_s.prompt)
         m_s.prompt->tell(messageText(Msg::ValueBetween0And255), UserPrompt::Kind::Error);
+    // Amounts the base cannot hold: corrected to its maximum, or refused when negative.
+    if (amounts.overMaximum)
+        m_s.tell(messageText(Msg::ValueOverMaximum));
+    if (!amounts.negative.isEmpty())
+        m_s.tell(messageText(Msg::AmountNegative, {amounts.negative.join(QStringLiteral(", "))}));
     display();
     flush();
+}
+
+std::optional<DecimalWord> EditorModel::amountBase(const QString &name) const
+{
+    if (const int k = ChannelGridModel::channelIndex(name, "Value"); k >= 0)
+        return m_s.base(k);
+    const int slot = MoneyModel::priceSlot(name);
+    if (slot >= 0 &&
+        MoneyModel::slotForm(slot, m_s.outputType(), m_s.checked(QStringLiteral("ChkResetEx"))) ==
+            MoneyModel::SlotForm::Price)
+        return m_s.base(0);
+    return std::nullopt;
 }
 
 const Control *EditorModel::lookup(const QString &name, QString *error) const

@@ -32,6 +32,10 @@ public:
     // The controls.
     const ControlSet &controls() const { return m_s.controls; }
     bool has(const QString &name) const { return m_s.controls.contains(name); }
+    // The base an amount typed into the box is read against, when the box takes an amount: a
+    // channel value (its channel's base), or a price slot that holds one under the output type
+    // (base 1). Nothing for every other box.
+    std::optional<DecimalWord> amountBase(const QString &name) const;
     const ControlState &control(const QString &name) const { return m_s.controls.state(name); }
     QStringList controlNames() const { return m_s.controls.names(); }
 

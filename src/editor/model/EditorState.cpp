@@ -1,5 +1,6 @@
 #include "EditorState.h"
 
+#include "Captions.h"
 #include "Messages.h"
 #include "UserPrompt.h"
 
@@ -74,4 +75,33 @@ void EditorState::tellMultiPulse(int channel, int substitute) const
     tell(messageText(
         Msg::MultiPulseIncompatible,
         {QString::number(channel), QString::number(substitute), QString::number(kMaxPulses)}));
+}
+
+std::optional<quint8> EditorState::takeAmount(const QString &text, const DecimalWord &base,
+                                              bool *notNumber) const
+{
+    const ChannelAmount amount = CheckChannelAmount(text, base.magnitude, base.decimals);
+    *notNumber = amount.fit == AmountFit::NotAnAmount;
+    switch (amount.fit) {
+    case AmountFit::Fits:
+        return amount.byte;
+    case AmountFit::OverMaximum:
+        tell(messageText(Msg::ValueOverMaximum));
+        return amount.byte;
+    case AmountFit::Negative:
+        tell(messageText(Msg::AmountNegative, {text.trimmed()}));
+        return std::nullopt;
+    case AmountFit::NotAnAmount:
+        break;
+    }
+    return std::nullopt;
+}
+
+QString EditorState::amountTip(const DecimalWord &base, bool channelValue)
+{
+    const QString step = ChannelValueStep(base.magnitude, base.decimals).trimmed();
+    if (step.isEmpty())
+        return captionText(Cap::TipNoBase);
+    return captionText(channelValue ? Cap::TipChannelValue : Cap::TipAmount,
+                       {step, ChannelValueMaximum(base.magnitude, base.decimals).trimmed()});
 }

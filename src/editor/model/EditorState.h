@@ -52,6 +52,15 @@ struct EditorState
     // "The value of channels %d and %d is incompatible for the function multi-pulse ..."
     void tellMultiPulse(int channel, int substitute) const;
 
+    // An amount typed into a value or price box, against its base: above what the base can show
+    // it is held at the maximum with "Value over the maximum, it will be correct"; a negative
+    // one is refused with its own message and gives nothing. Text that is not a number gives
+    // nothing and sets *notNumber, without a message (the caller has its own).
+    std::optional<quint8> takeAmount(const QString &text, const DecimalWord &base,
+                                     bool *notNumber) const;
+    // What an amount box takes, for its tool tip: the base's step and maximum.
+    static QString amountTip(const DecimalWord &base, bool channelValue);
+
     // The output type, the low three bits of the option word's second byte as the radio
     // group's item.
     int outputType() const;

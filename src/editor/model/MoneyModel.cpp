@@ -172,19 +172,25 @@ void MoneyModel::display()
 
     for (int slot = 0; slot < 6; ++slot) {
         const quint8 byte = image.prices[std::size_t(slot)];
-        QString text;
+        QString text, tip;
         switch (slotForm(slot, type, m_s.checked(QStringLiteral("ChkResetEx")))) {
         case SlotForm::Price:
             text = FormatChannelValue(base1.decimals, 6, base1.magnitude, byte);
+            tip = EditorState::amountTip(base1, false);
             break;
         case SlotForm::Plain:
             text = ByteToText(6, byte);
+            tip = captionText(Cap::TipNumber);
             break;
         case SlotForm::Tenths:
             text = ByteToText(6, byte, true);
+            // Under the validator output the last slot is the pulse length.
+            tip = captionText(slot == 5 && type == 0 ? Cap::TipPulse : Cap::TipTens);
             break;
         }
         c.setText(QLatin1String(kPriceBoxes[slot]), text);
+        // The unit and the largest value the slot takes.
+        c.setToolTip(QLatin1String(kPriceBoxes[slot]), tip);
         c.setText(priceLabel(slot), captionText(Cap(int(Cap::ValueP1) + slot)));
     }
     // Captions that follow the type and the options.

@@ -34,8 +34,14 @@ void MoneyModel::priceExit(int slot)
     std::optional<quint8> byte;
     switch (slotForm(slot, type, m_s.checked(QStringLiteral("ChkResetEx")))) {
     case SlotForm::Price: {
-        const DecimalWord base1 = m_s.base(0);
-        byte = ParseChannelValue(text, base1.magnitude, base1.decimals);
+        bool notNumber = false;
+        byte = m_s.takeAmount(text, m_s.base(0), &notNumber);
+        if (!byte && !notNumber) {
+            // A negative price is refused: the slot keeps what it held.
+            m_s.flags.editChanged = false;
+            display();
+            return;
+        }
         break;
     }
     case SlotForm::Plain:
@@ -200,23 +206,25 @@ void MoneyModel::Value0Exit(int k)
         return;
     m_s.flags.editChanged = false;
     const QString box = QStringLiteral("Value%1").arg(k);
-    const DecimalWord base = m_s.base(k);
-    auto parsed = ParseChannelValue(m_s.text(box), base.magnitude, base.decimals);
-    if (!parsed) {
+    bool notNumber = false;
+    auto parsed = m_s.takeAmount(m_s.text(box), m_s.base(k), &notNumber);
+    if (notNumber) {
         m_s.tell(messageText(Msg::ValueBetween0And255));
         parsed = kNotSet;
     }
     ChannelRecord &record = m_s.image.channels[std::size_t(k)];
     const int substitute = record[Rec::Substitute];
-    // From the value side only a coin worth more than five of its substitute is refused.
-    bool refused = false;
-    if (multiPulseActive() && substitute >= 1 && substitute <= 254 && substitute != k + 1) {
+    // From the value side only a coin worth more than five of its substitute is refused; a
+    // negative amount is refused before.
+    bool refused = !parsed;
+    if (parsed && multiPulseActive() && substitute >= 1 && substitute <= 254 &&
+        substitute != k + 1) {
         const quint8 theirs = m_s.substituteValue(substitute);
         refused = theirs == 0 || *parsed / theirs > EditorState::kMaxPulses;
     }
-    if (refused)
+    if (refused && parsed)
         m_s.tellMultiPulse(k + 1, substitute);
-    else
+    else if (!refused)
         m_s.image.values[std::size_t(Val::Channel0 + k)] = record[Rec::Value] = *parsed;
     // Shown against base 1 whatever the channel, as the validator's tools always have.
     const DecimalWord base1 = m_s.base(0);
