@@ -53,8 +53,14 @@ qint64 SerialTransport::write(const QByteArray &bytes)
     // we go on, so that a reply window starts when the line is free.
     while (m_port->bytesToWrite() > 0) {
         if (!m_port->waitForBytesWritten(1000)) {
+            // A time-out leaves the bytes on their way; any other error (the adapter pulled,
+            // the other end of the line gone) means they never leave.
+            const bool gone = portGone();
             noteError();
-            return m_port->error() == QSerialPort::ResourceError ? -1 : n;
+            if (!gone)
+                return n;
+            m_port->close();
+            return -1;
         }
     }
 #ifdef Q_OS_UNIX
@@ -71,7 +77,7 @@ QByteArray SerialTransport::read(int count, int firstByteWaitMs)
     const auto wait = [this](int ms) {
         if (m_port->waitForReadyRead(ms) || m_port->bytesAvailable() > 0)
             return true;
-        if (m_port->error() == QSerialPort::ResourceError) {
+        if (portGone()) {
             noteError();
             m_port->close();
             return false;
@@ -93,9 +99,15 @@ void SerialTransport::close()
         m_port->close();
 }
 
+bool SerialTransport::portGone() const
+{
+    const QSerialPort::SerialPortError error = m_port->error();
+    return error != QSerialPort::NoError && error != QSerialPort::TimeoutError;
+}
+
 void SerialTransport::noteError()
 {
-    if (m_port->error() == QSerialPort::ResourceError)
+    if (portGone())
         m_error = QStringLiteral("device gone: ") + m_port->errorString();
     else
         m_error = m_port->errorString();

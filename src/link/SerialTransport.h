@@ -31,6 +31,7 @@ public:
 
 private:
     void noteError();
+    bool portGone() const;
 
     std::unique_ptr<QSerialPort> m_port;
     int m_readTimeout = kDefaultReadTimeoutMs;

@@ -283,11 +283,32 @@ private Q_SLOTS:
         QCOMPARE(m_boxes.told(),
                  QStringList{messageText(Msg::FileNotReadable, {"/nonexistent/new.S19"})});
 
+        // Not S-record text: refused with its first bad line, nothing sent, nothing asked.
         QTemporaryFile file(QDir::tempPath() + QStringLiteral("/XXXXXX.S19"));
         QVERIFY(file.open());
+        file.write("S00600004844521B\r\n\x01\x02\x03");
+        file.flush();
+        m_boxes.clear();
+        FileDialog::setNextFileName(file.fileName());
+        TMajFirmware::chooseAndRun(nullptr, &port, m_boxes);
+        QCOMPARE(m_boxes.told().size(), 1);
+        QVERIFY(m_boxes.told().first().contains(QStringLiteral("line 2 does not begin with S0")));
+        QVERIFY(m_boxes.asked().isEmpty());
+        QVERIFY(programmer.firmwareBytes().isEmpty());
+
+        // S-record text: nothing is sent while the user says the mini-programmer is not ready.
+        file.resize(0);
         file.write("S00600004844521B\r\nS9030000FC\r\n");
         file.close();
+        m_boxes.clear();
         FileDialog::setNextFileName(file.fileName());
+        m_boxes.setNextAnswers({UserPrompt::Answer::Cancel});
+        TMajFirmware::chooseAndRun(nullptr, &port, m_boxes);
+        QCOMPARE(m_boxes.asked(),
+                 QStringList{messageText(Msg::FirmwareUpgradeMode, {QFileInfo(file).fileName()})});
+        QVERIFY(programmer.firmwareBytes().isEmpty());
+        FileDialog::setNextFileName(file.fileName());
+        m_boxes.setNextAnswers({UserPrompt::Answer::Ok});
         QTimer::singleShot(0, [] {
             auto *timer = new QTimer;
             QObject::connect(timer, &QTimer::timeout, [timer] {
