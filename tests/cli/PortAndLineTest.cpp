@@ -154,7 +154,8 @@ TEST_F(PortAndLine, FirmwareSaysUpgradeModeProgressAndAPortLostOnTheWay)
     SimProcess mini({"--mini-programmer", "--silent-ack"});
     QProcess cli;
     cli.setReadChannel(QProcess::StandardError);
-    cli.start(QStringLiteral(TARVIK_CLI_PATH), {"--device", mini.path(), "firmware", file});
+    cli.start(QStringLiteral(TARVIK_CLI_PATH),
+              {"--device", mini.path(), "--port-timeout", "100", "firmware", file});
     QByteArray err;
     while (err.count(" bytes sent\n") < 2 && cli.waitForReadyRead(30000))
         err += cli.readAllStandardError();
