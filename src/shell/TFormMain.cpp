@@ -315,17 +315,21 @@ void TFormMain::Fran1Click(QAction *item)
 
 void TFormMain::Porttimeout1Click()
 {
-    bool ok = false;
-    const int ms = QInputDialog::getInt(
-        this, tr("Port time-out"),
+    QInputDialog dialog(this);
+    dialog.setObjectName(QStringLiteral("PortTimeoutDialog"));
+    dialog.setAccessibleName(tr("Port time-out"));
+    dialog.setWindowTitle(tr("Port time-out"));
+    dialog.setInputMode(QInputDialog::IntInput);
+    dialog.setLabelText(
         tr("Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):")
-            .arg(Transport::kDefaultReadTimeoutMs),
-        m_context.settings->portTimeoutMs(), Transport::kMinReadTimeoutMs,
-        Transport::kMaxReadTimeoutMs, 10, &ok);
-    if (!ok)
+            .arg(Transport::kDefaultReadTimeoutMs));
+    dialog.setIntRange(Transport::kMinReadTimeoutMs, Transport::kMaxReadTimeoutMs);
+    dialog.setIntStep(10);
+    dialog.setIntValue(m_context.settings->portTimeoutMs());
+    if (dialog.exec() != QDialog::Accepted)
         return;
-    m_context.settings->setPortTimeoutMs(ms);
-    m_link.setPortTimeout(ms);
+    m_context.settings->setPortTimeoutMs(dialog.intValue());
+    m_link.setPortTimeout(dialog.intValue());
 }
 
 void TFormMain::Repairtables1Click()
