@@ -1,5 +1,7 @@
 #include "AppOptions.h"
 
+#include "PortChoice.h"
+
 AppOptions AppOptions::parse(const QStringList &arguments)
 {
     AppOptions options;
@@ -53,9 +55,8 @@ bool AppOptions::useVirtualValidator() const
     if (simulate || !screenshot.isEmpty() || !screenshots.isEmpty())
         return true;
     // An unattended start without a port never probes: it would wait on the port dialog.
-    const bool portNamed =
-        !device.isEmpty() ||
-        portArguments.filter(QStringLiteral("COM"), Qt::CaseInsensitive).size() > 0;
+    int port = 0;
+    const bool portNamed = !device.isEmpty() || !PortFromCommandLine(portArguments, port);
     return smoke && !portNamed;
 }
 

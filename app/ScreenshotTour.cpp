@@ -247,7 +247,12 @@ void ScreenshotTour::buildSteps()
          [this] {
              m_device->setMiniProgrammer(true);
              FileDialog::setNextFileName(m_firmwareFile);
+             // The mini-programmer is in its upgrade mode: the question is answered OK.
+             RecordingPrompt upgradeMode(UserPrompt::Answer::Ok);
+             UserPrompt *before = MessageBoxPrompt::divertedTo();
+             MessageBoxPrompt::divertTo(&upgradeMode);
              m_main->Firmware1Click();
+             MessageBoxPrompt::divertTo(before);
              m_device->setMiniProgrammer(false);
          },
          [](QWidget *window) {

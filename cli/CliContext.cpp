@@ -63,11 +63,9 @@ std::unique_ptr<Transport> CliContext::openTransport(int &comPortNumber)
         return serial;
     }
     SerialPortOpener opener;
+    opener.setReadTimeout(m_options.portTimeoutMs);
     if (!m_options.port.isEmpty()) {
-        if (PortFromCommandLine({m_options.port}, comPortNumber)) {
-            m_err << "tarvik-cli: --port takes COM and one digit, such as COM4" << Qt::endl;
-            return nullptr;
-        }
+        comPortNumber = m_options.portNumber;
     } else {
         const ProbeResult probe = FindValidatorPort(opener);
         if (!probe.answered) {
@@ -98,6 +96,7 @@ TMonnayeur *CliContext::openLink()
     m_transport = openTransport(comPortNumber);
     if (!m_transport)
         return nullptr;
+    m_transport->setReadTimeout(m_options.portTimeoutMs);
     Transport *wire = m_transport.get();
     if (!m_options.trace.isEmpty()) {
         m_traceFile = std::make_unique<QFile>(m_options.trace);

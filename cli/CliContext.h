@@ -39,7 +39,10 @@ private:
 struct GlobalOptions
 {
     QString device;
-    QString port; // COMn
+    QString port;       // COMn, as given
+    int portNumber = 0; // n of COMn
+    // The wait for a count echo or a reply's first byte (--port-timeout).
+    int portTimeoutMs = Transport::kDefaultReadTimeoutMs;
     bool simulate = false;
     int simFamily = 0x13;
     // How rough the virtual validator's line is (--sim-line): a bench's by default.

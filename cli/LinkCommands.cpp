@@ -17,10 +17,11 @@ int probeCommand(CliContext &cli, const QStringList &args)
             cli.err() << "No validator answered." << Qt::endl;
             return kExitFailed;
         }
-        cli.out() << (o.port.isEmpty() ? QStringLiteral("COM1") : o.port.toUpper()) << Qt::endl;
+        cli.out() << "COM" << (o.port.isEmpty() ? 1 : o.portNumber) << Qt::endl;
         return kExitOk;
     }
     SerialPortOpener opener;
+    opener.setReadTimeout(o.portTimeoutMs);
     const ProbeResult probe = FindValidatorPort(opener);
     if (!probe.answered) {
         cli.err() << "No validator answered on COM1 to COM9." << Qt::endl;

@@ -1,5 +1,7 @@
 #include "CliContext.h"
 
+#include "PortChoice.h"
+
 namespace {
 
 // Splits the global options off the front and back of the command line.
@@ -22,6 +24,30 @@ bool parseGlobal(QStringList &args, GlobalOptions &o, QString &error)
         } else if (a == QLatin1String("--port")) {
             if (!value(o.port))
                 return false;
+            const std::optional<int> number = ComPortFromName(o.port);
+            if (!number) {
+                error = QStringLiteral("--port takes COM and a port number from 1 to %1, such as "
+                                       "COM4 or COM12, not \"%2\"")
+                            .arg(kHighestComPort)
+                            .arg(o.port);
+                return false;
+            }
+            o.portNumber = *number;
+        } else if (a == QLatin1String("--port-timeout")) {
+            QString text;
+            if (!value(text))
+                return false;
+            bool ok = false;
+            o.portTimeoutMs = text.toInt(&ok);
+            if (!ok || o.portTimeoutMs < Transport::kMinReadTimeoutMs ||
+                o.portTimeoutMs > Transport::kMaxReadTimeoutMs) {
+                error = QStringLiteral("--port-timeout takes milliseconds from %1 to %2, not "
+                                       "\"%3\"")
+                            .arg(Transport::kMinReadTimeoutMs)
+                            .arg(Transport::kMaxReadTimeoutMs)
+                            .arg(text);
+                return false;
+            }
         } else if (a == QLatin1String("--data-dir")) {
             if (!value(o.dataDir))
                 return false;
@@ -81,7 +107,8 @@ QString cliUsage(const CliCommandTable &table)
     QString text =
         QStringLiteral("usage: tarvik-cli [--device PATH | --port COMn |\n"
                        "                   --simulate [--sim-family BYTE] [--sim-line LINE]]\n"
-                       "                  [--data-dir DIR] [--trace FILE] COMMAND [ARGS]\n"
+                       "                  [--port-timeout MS] [--data-dir DIR] [--trace FILE]\n"
+                       "                  COMMAND [ARGS]\n"
                        "       tarvik-cli --help | --version\n\ncommands:\n");
     for (auto it = table.cbegin(); it != table.cend(); ++it)
         text += QStringLiteral("  %1\n      %2\n").arg(it->usage, it->help);

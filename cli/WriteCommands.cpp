@@ -1,5 +1,6 @@
 #include "CliContext.h"
 #include "Commands.h"
+#include "FirmwareFile.h"
 #include "FirmwareTransfer.h"
 #include "Messages.h"
 #include "WriteReport.h"
@@ -169,36 +170,68 @@ int cloneCommand(CliContext &cli, const QStringList &args)
 
 int firmwareCommand(CliContext &cli, const QStringList &args)
 {
-    if (args.size() != 1 || args.first().startsWith(u'-'))
+    QStringList rest = args;
+    const bool yes = rest.removeAll(QStringLiteral("--yes")) > 0;
+    if (rest.size() != 1 || rest.first().startsWith(u'-'))
         return kExitUsage;
-    // The whole file is read before anything is sent.
-    QFile file(args.first());
+    const QString path = rest.first();
+    // The whole file is read and checked before anything is sent.
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        cli.err() << args.first() << ": " << file.errorString() << Qt::endl;
+        cli.err() << path << ": " << file.errorString() << Qt::endl;
         return kExitFailed;
     }
     const QByteArray firmware = file.readAll();
     if (file.error() != QFileDevice::NoError) {
-        cli.err() << args.first() << ": " << file.errorString() << Qt::endl;
+        cli.err() << path << ": " << file.errorString() << Qt::endl;
         return kExitFailed;
     }
+    const FirmwareFileCheck check = checkFirmwareFile(firmware);
+    if (!check.ok) {
+        cli.err() << check.message(path) << Qt::endl;
+        return kExitFailed;
+    }
+    if (firmware.size() > kLargeFirmwareBytes && !yes) {
+        cli.err() << "tarvik-cli: " << path << " holds " << firmware.size()
+                  << " bytes, more than 1 MB: sent byte by byte at 9600 baud it takes hours. "
+                     "Add --yes to send it all the same."
+                  << Qt::endl;
+        return kExitTrouble;
+    }
+    cli.err() << "The mini-programmer must be in its upgrade mode: sending " << path << " ("
+              << firmware.size() << " bytes) now." << Qt::endl;
     // The mini-programmer is waiting for the file: no connect command goes first.
     if (!cli.openLink())
         return kExitFailed;
     FirmwareTransfer transfer(cli.transport());
-    transfer.progress = [&cli](qint64 sent, qint64 total) {
-        if (sent % FirmwareTransfer::kBlockSize == 0 || sent == total)
-            cli.showProgress(QStringLiteral("%1 / %2 bytes").arg(sent).arg(total),
-                             int(sent * 100 / std::max<qint64>(total, 1)));
+    qint64 nextLine = 0;
+    transfer.progress = [&](qint64 sent, qint64 total) {
+        if (cli.progressToTerminal()) {
+            if (sent % FirmwareTransfer::kBlockSize == 0 || sent == total)
+                cli.showProgress(QStringLiteral("%1 / %2 bytes").arg(sent).arg(total),
+                                 int(sent * 100 / std::max<qint64>(total, 1)));
+            return;
+        }
+        // Not a terminal: a line at every tenth of the file.
+        if (sent < nextLine && sent != total)
+            return;
+        cli.err() << sent << " of " << total << " bytes sent" << Qt::endl;
+        nextLine = sent + std::max<qint64>(total / 10, 1);
     };
     const auto result = transfer.FormTransfert(firmware);
     cli.endProgress();
-    if (result == FirmwareTransfer::Result::UpgradeOver) {
-        cli.out() << messageText(Msg::UpgradeOver) << Qt::endl;
-        return kExitOk;
+    if (result != FirmwareTransfer::Result::UpgradeOver) {
+        cli.err() << messageText(Msg::OperationCancelledByOperator) << Qt::endl;
+        return kExitFailed;
     }
-    cli.err() << messageText(Msg::OperationCancelledByOperator) << Qt::endl;
-    return kExitFailed;
+    cli.out() << messageText(Msg::UpgradeOver) << Qt::endl;
+    if (transfer.portLost()) {
+        cli.err() << messageText(Msg::FirmwarePortLost, {QString::number(transfer.bytesWritten()),
+                                                         QString::number(firmware.size())})
+                  << Qt::endl;
+        return kExitFailed;
+    }
+    return kExitOk;
 }
 
 } // namespace
@@ -220,7 +253,9 @@ void registerWriteCommands(CliCommandTable &table)
                                  "hold of what was sent (exit 1) unless --no-verify"),
                   cloneCommand});
     table.insert(QStringLiteral("firmware"),
-                 {QStringLiteral("firmware FILE"),
-                  QStringLiteral("streams an S-record firmware file to the mini-programmer"),
+                 {QStringLiteral("firmware FILE [--yes]"),
+                  QStringLiteral("streams an S-record firmware file, as stored, to the "
+                                 "mini-programmer in its upgrade mode; a file that is not "
+                                 "S-record text is refused, one over 1 MB needs --yes"),
                   firmwareCommand});
 }

@@ -1306,6 +1306,42 @@
         <source>Channel %d of the validator now holds %s.</source>
         <translation>Kanal %d des Münzprüfers enthält jetzt %s.</translation>
     </message>
+<message>
+        <source>%s is empty: it is not a firmware file. Nothing was sent.</source>
+        <translation>%s ist leer: Es ist keine Firmware-Datei. Es wurde nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>%s is not a Motorola S-record firmware file: line %d %s. Nothing was sent.</source>
+        <translation>%s ist keine Motorola-S-Record-Firmware-Datei: Zeile %d %s. Es wurde nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>does not begin with S0 to S9</source>
+        <translation>beginnt nicht mit S0 bis S9</translation>
+    </message>
+    <message>
+        <source>holds a character that is not a hexadecimal digit</source>
+        <translation>enthält ein Zeichen, das keine Hexadezimalziffer ist</translation>
+    </message>
+    <message>
+        <source>has a byte count that does not match its length</source>
+        <translation>hat eine Byteanzahl, die nicht zu ihrer Länge passt</translation>
+    </message>
+    <message>
+        <source>has a wrong checksum</source>
+        <translation>hat eine falsche Prüfsumme</translation>
+    </message>
+    <message>
+        <source>The mini-programmer must be in its upgrade mode before the file is sent. Send %s now?</source>
+        <translation>Der Mini-Programmer muss im Aktualisierungsmodus sein, bevor die Datei gesendet wird. %s jetzt senden?</translation>
+    </message>
+    <message>
+        <source>%s holds %d bytes: sent byte by byte at 9600 baud, it takes hours. Send it all the same?</source>
+        <translation>%s enthält %d Bytes: Byte für Byte mit 9600 Baud gesendet dauert das Stunden. Trotzdem senden?</translation>
+    </message>
+    <message>
+        <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
+        <translation>Der Port ging während der Übertragung verloren: %d von %d Bytes haben den Port verlassen: Die Aktualisierung ist nicht vollständig.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1593,6 +1629,22 @@
     <message>
         <source>Reads the validator back after each write and lists what it does not hold</source>
         <translation>Liest den Münzprüfer nach jedem Schreiben zurück und listet auf, was er nicht enthält</translation>
+    </message>
+<message>
+        <source>Port &amp;time-out...</source>
+        <translation>Port-&amp;Zeitlimit...</translation>
+    </message>
+    <message>
+        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <translation>Wie lange auf das erste Byte des Prüfers gewartet wird: für Bluetooth- oder Funk-Seriell-Adapter erhöhen</translation>
+    </message>
+    <message>
+        <source>Port time-out</source>
+        <translation>Port-Zeitlimit</translation>
+    </message>
+    <message>
+        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
+        <translation>Wartezeit auf das Echo der Anzahl oder das erste Byte einer Antwort, in Millisekunden (Vorgabe %1):</translation>
     </message>
 </context>
 <context>

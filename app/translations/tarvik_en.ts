@@ -1306,6 +1306,42 @@
         <source>Channel %d of the validator now holds %s.</source>
         <translation>Channel %d of the validator now holds %s.</translation>
     </message>
+<message>
+        <source>%s is empty: it is not a firmware file. Nothing was sent.</source>
+        <translation>%s is empty: it is not a firmware file. Nothing was sent.</translation>
+    </message>
+    <message>
+        <source>%s is not a Motorola S-record firmware file: line %d %s. Nothing was sent.</source>
+        <translation>%s is not a Motorola S-record firmware file: line %d %s. Nothing was sent.</translation>
+    </message>
+    <message>
+        <source>does not begin with S0 to S9</source>
+        <translation>does not begin with S0 to S9</translation>
+    </message>
+    <message>
+        <source>holds a character that is not a hexadecimal digit</source>
+        <translation>holds a character that is not a hexadecimal digit</translation>
+    </message>
+    <message>
+        <source>has a byte count that does not match its length</source>
+        <translation>has a byte count that does not match its length</translation>
+    </message>
+    <message>
+        <source>has a wrong checksum</source>
+        <translation>has a wrong checksum</translation>
+    </message>
+    <message>
+        <source>The mini-programmer must be in its upgrade mode before the file is sent. Send %s now?</source>
+        <translation>The mini-programmer must be in its upgrade mode before the file is sent. Send %s now?</translation>
+    </message>
+    <message>
+        <source>%s holds %d bytes: sent byte by byte at 9600 baud, it takes hours. Send it all the same?</source>
+        <translation>%s holds %d bytes: sent byte by byte at 9600 baud, it takes hours. Send it all the same?</translation>
+    </message>
+    <message>
+        <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
+        <translation>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1593,6 +1629,22 @@
     <message>
         <source>Reads the validator back after each write and lists what it does not hold</source>
         <translation>Reads the validator back after each write and lists what it does not hold</translation>
+    </message>
+<message>
+        <source>Port &amp;time-out...</source>
+        <translation>Port &amp;time-out...</translation>
+    </message>
+    <message>
+        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <translation>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</translation>
+    </message>
+    <message>
+        <source>Port time-out</source>
+        <translation>Port time-out</translation>
+    </message>
+    <message>
+        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
+        <translation>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</translation>
     </message>
 </context>
 <context>

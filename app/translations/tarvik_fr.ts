@@ -1306,6 +1306,42 @@
         <source>Channel %d of the validator now holds %s.</source>
         <translation>Le canal %d du monnayeur contient maintenant %s.</translation>
     </message>
+<message>
+        <source>%s is empty: it is not a firmware file. Nothing was sent.</source>
+        <translation>%s est vide : ce n'est pas un fichier firmware. Rien n'a été envoyé.</translation>
+    </message>
+    <message>
+        <source>%s is not a Motorola S-record firmware file: line %d %s. Nothing was sent.</source>
+        <translation>%s n'est pas un fichier firmware Motorola S-record : la ligne %d %s. Rien n'a été envoyé.</translation>
+    </message>
+    <message>
+        <source>does not begin with S0 to S9</source>
+        <translation>ne commence pas par S0 à S9</translation>
+    </message>
+    <message>
+        <source>holds a character that is not a hexadecimal digit</source>
+        <translation>contient un caractère qui n'est pas un chiffre hexadécimal</translation>
+    </message>
+    <message>
+        <source>has a byte count that does not match its length</source>
+        <translation>a un nombre d'octets qui ne correspond pas à sa longueur</translation>
+    </message>
+    <message>
+        <source>has a wrong checksum</source>
+        <translation>a une somme de contrôle fausse</translation>
+    </message>
+    <message>
+        <source>The mini-programmer must be in its upgrade mode before the file is sent. Send %s now?</source>
+        <translation>Le mini-programmateur doit être en mode mise à jour avant l'envoi du fichier. Envoyer %s maintenant ?</translation>
+    </message>
+    <message>
+        <source>%s holds %d bytes: sent byte by byte at 9600 baud, it takes hours. Send it all the same?</source>
+        <translation>%s contient %d octets : envoyé octet par octet à 9600 bauds, cela prend des heures. L'envoyer quand même ?</translation>
+    </message>
+    <message>
+        <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
+        <translation>Le port a été perdu pendant le transfert : %d octets sur %d ont quitté le port : la mise à jour n'est pas complète.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1593,6 +1629,22 @@
     <message>
         <source>Reads the validator back after each write and lists what it does not hold</source>
         <translation>Relit le monnayeur après chaque écriture et liste ce qu'il ne contient pas</translation>
+    </message>
+<message>
+        <source>Port &amp;time-out...</source>
+        <translation>&amp;Délai du port...</translation>
+    </message>
+    <message>
+        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <translation>Combien de temps attendre le premier octet du monnayeur : augmentez-le pour les adaptateurs série Bluetooth ou radio</translation>
+    </message>
+    <message>
+        <source>Port time-out</source>
+        <translation>Délai du port</translation>
+    </message>
+    <message>
+        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
+        <translation>Attente de l'écho du nombre ou du premier octet d'une réponse, en millisecondes (%1 par défaut) :</translation>
     </message>
 </context>
 <context>

@@ -1306,6 +1306,42 @@
         <source>Channel %d of the validator now holds %s.</source>
         <translation>Il canale %d della gettoniera contiene ora %s.</translation>
     </message>
+<message>
+        <source>%s is empty: it is not a firmware file. Nothing was sent.</source>
+        <translation>%s è vuoto: non è un file firmware. Non è stato inviato nulla.</translation>
+    </message>
+    <message>
+        <source>%s is not a Motorola S-record firmware file: line %d %s. Nothing was sent.</source>
+        <translation>%s non è un file firmware Motorola S-record: la riga %d %s. Non è stato inviato nulla.</translation>
+    </message>
+    <message>
+        <source>does not begin with S0 to S9</source>
+        <translation>non inizia con S0..S9</translation>
+    </message>
+    <message>
+        <source>holds a character that is not a hexadecimal digit</source>
+        <translation>contiene un carattere che non è una cifra esadecimale</translation>
+    </message>
+    <message>
+        <source>has a byte count that does not match its length</source>
+        <translation>ha un conteggio di byte che non corrisponde alla sua lunghezza</translation>
+    </message>
+    <message>
+        <source>has a wrong checksum</source>
+        <translation>ha un checksum errato</translation>
+    </message>
+    <message>
+        <source>The mini-programmer must be in its upgrade mode before the file is sent. Send %s now?</source>
+        <translation>Il mini-programmatore deve essere in modalità aggiornamento prima dell'invio del file. Inviare %s ora?</translation>
+    </message>
+    <message>
+        <source>%s holds %d bytes: sent byte by byte at 9600 baud, it takes hours. Send it all the same?</source>
+        <translation>%s contiene %d byte: inviato byte per byte a 9600 baud, richiede ore. Inviarlo comunque?</translation>
+    </message>
+    <message>
+        <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
+        <translation>La porta è stata persa durante il trasferimento: %d byte su %d hanno lasciato la porta: l'aggiornamento non è completo.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1593,6 +1629,22 @@
     <message>
         <source>Reads the validator back after each write and lists what it does not hold</source>
         <translation>Rilegge la gettoniera dopo ogni scrittura ed elenca ciò che non contiene</translation>
+    </message>
+<message>
+        <source>Port &amp;time-out...</source>
+        <translation>&amp;Timeout della porta...</translation>
+    </message>
+    <message>
+        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <translation>Quanto attendere il primo byte della gettoniera: aumentarlo per adattatori seriali Bluetooth o radio</translation>
+    </message>
+    <message>
+        <source>Port time-out</source>
+        <translation>Timeout della porta</translation>
+    </message>
+    <message>
+        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
+        <translation>Attesa dell'eco del conteggio o del primo byte di una risposta, in millisecondi (%1 predefinito):</translation>
     </message>
 </context>
 <context>

@@ -48,6 +48,7 @@ ReadOutcome readValidator(TMonnayeur &link, ConfigImage &target, bool promptFlag
         return ReadOutcome::Cancelled;
 
     link.setLinkGood(true);
+    link.strayBytesAfterReplies(); // what came before the read is not the read's
     setGauge(0);
 
     ConfigImage image = target;
@@ -95,6 +96,13 @@ ReadOutcome readValidator(TMonnayeur &link, ConfigImage &target, bool promptFlag
 
     if (!link.linkGood())
         return ReadOutcome::Failed;
+    // A byte found behind a reply that was taken whole: some block may be shifted by it.
+    if (link.strayBytesAfterReplies()) {
+        if (UserPrompt *prompt = link.prompt())
+            prompt->tell(messageText(Msg::ReadingErrorFromValidator), UserPrompt::Kind::Error);
+        link.setLinkGood(false);
+        return ReadOutcome::Failed;
+    }
     image.refreshRecordCopies();
     target = image;
     return ReadOutcome::Done;

@@ -35,6 +35,7 @@ std::unique_ptr<Transport> SerialPortOpener::ComInit(int n)
         m_denied = transport->permissionDenied();
         return nullptr;
     }
+    transport->setReadTimeout(readTimeoutMs());
     return transport;
 }
 
@@ -69,18 +70,36 @@ ProbeResult FindValidatorPort(PortOpener &opener)
 bool PortFromCommandLine(const QStringList &arguments, int &comPortNumber)
 {
     for (const QString &argument : arguments) {
-        const QString upper = argument.toUpper();
-        const qsizetype at = upper.indexOf(QLatin1String("COM"));
-        if (at < 0)
+        QString word = argument.toUpper();
+        while (word.startsWith(u'/') || word.startsWith(u'-'))
+            word.remove(0, 1);
+        if (word.size() != 4 || !word.startsWith(QLatin1String("COM")))
             continue;
-        // Only the one character right after COM is read.
-        const QChar digit = at + 3 < upper.size() ? upper.at(at + 3) : QChar();
-        if (!digit.isDigit())
-            return true;
+        const QChar digit = word.at(3);
+        if (digit < u'1' || digit > u'9')
+            continue;
         comPortNumber = digit.digitValue();
         return false;
     }
     return true;
+}
+
+std::optional<int> ComPortFromName(const QString &name)
+{
+    if (name.size() < 4 || !name.startsWith(QLatin1String("COM"), Qt::CaseInsensitive))
+        return std::nullopt;
+    int number = 0;
+    for (qsizetype i = 3; i < name.size(); ++i) {
+        const QChar c = name.at(i);
+        if (c < u'0' || c > u'9')
+            return std::nullopt;
+        number = number * 10 + (c.unicode() - u'0');
+        if (number > kHighestComPort)
+            return std::nullopt;
+    }
+    if (number < 1)
+        return std::nullopt;
+    return number;
 }
 
 std::optional<OpenedLink> OpenValidatorLink(PortOpener &opener, const QStringList &arguments,

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "Transport.h"
+
 #include <QStringList>
 #include <memory>
 #include <optional>
 
-class Transport;
 class UserPrompt;
 
 // Opens ports by number; the serial implementation goes through the port map, tests use
@@ -19,6 +20,12 @@ public:
     virtual std::unique_ptr<Transport> ComInit(int n) = 0;
     // The last PortComFree or ComInit failed because the system refused this user the port.
     virtual bool lastOpenDenied() const { return false; }
+    // The wait for a count echo or a reply's first byte on the ports opened from now on.
+    void setReadTimeout(int ms) { m_readTimeoutMs = ms; }
+    int readTimeoutMs() const { return m_readTimeoutMs; }
+
+private:
+    int m_readTimeoutMs = Transport::kDefaultReadTimeoutMs;
 };
 
 // Opens COMn at the system port that systemPort names (the port map by default).
@@ -59,9 +66,16 @@ struct ProbeResult
 // Probes COM1 to COM9 with the connect command, stopping at the first port that answers.
 ProbeResult FindValidatorPort(PortOpener &opener);
 
-// True when no parameter names a port; otherwise sets comPortNumber from the single character
-// after "COM" in the first parameter containing it (COM2 and /com2 give 2, COM12 gives 1).
+// True when no parameter names a port; otherwise sets comPortNumber from the first parameter
+// that is COM and one digit, in any case, possibly after a switch character (COM2, /com2 and
+// -COM2 give 2). Other words, COM12, COM1X and xCOM1 among them, are ignored, never read as
+// the port of their first digit.
 bool PortFromCommandLine(const QStringList &arguments, int &comPortNumber);
+
+// The number of a port named COM followed by a number of any length (COM4, com12, COM0012),
+// 1 to kHighestComPort; nothing for any other text (COM, COM0, COM1X, xCOM1, COM 4).
+inline constexpr int kHighestComPort = 255;
+std::optional<int> ComPortFromName(const QString &name);
 
 struct OpenedLink
 {

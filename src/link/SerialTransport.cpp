@@ -46,16 +46,21 @@ qint64 SerialTransport::write(const QByteArray &bytes)
         return -1;
     const qint64 n = m_port->write(bytes);
     if (n < 0) {
-        lose();
+        noteError();
         return -1;
     }
     // Blocking semantics, as the program has always had: the bytes have left the port before
     // we go on, so that a reply window starts when the line is free.
     while (m_port->bytesToWrite() > 0) {
         if (!m_port->waitForBytesWritten(1000)) {
-            const bool gone = m_port->error() == QSerialPort::ResourceError;
-            lose();
-            return gone ? -1 : n;
+            // A time-out leaves the bytes on their way; any other error (the adapter pulled,
+            // the other end of the line gone) means they never leave.
+            const bool gone = portGone();
+            noteError();
+            if (!gone)
+                return n;
+            m_port->close();
+            return -1;
         }
     }
 #ifdef Q_OS_UNIX
@@ -72,8 +77,9 @@ QByteArray SerialTransport::read(int count, int firstByteWaitMs)
     const auto wait = [this](int ms) {
         if (m_port->waitForReadyRead(ms) || m_port->bytesAvailable() > 0)
             return true;
-        if (m_port->error() == QSerialPort::ResourceError) {
-            lose();
+        if (portGone()) {
+            noteError();
+            m_port->close();
             return false;
         }
         return true; // a time-out: the caller looks at its clock
@@ -93,19 +99,15 @@ void SerialTransport::close()
         m_port->close();
 }
 
-void SerialTransport::lose()
+bool SerialTransport::portGone() const
 {
-    // A port that is gone stays closed, so that the caller sees it is lost and not merely
-    // silent.
-    const bool gone = m_port->error() == QSerialPort::ResourceError;
-    noteError();
-    if (gone)
-        m_port->close();
+    const QSerialPort::SerialPortError error = m_port->error();
+    return error != QSerialPort::NoError && error != QSerialPort::TimeoutError;
 }
 
 void SerialTransport::noteError()
 {
-    if (m_port->error() == QSerialPort::ResourceError)
+    if (portGone())
         m_error = QStringLiteral("device gone: ") + m_port->errorString();
     else
         m_error = m_port->errorString();

@@ -31,8 +31,7 @@ public:
 
 private:
     void noteError();
-    // Notes the error, and closes the port when it is gone.
-    void lose();
+    bool portGone() const;
 
     std::unique_ptr<QSerialPort> m_port;
     int m_readTimeout = kDefaultReadTimeoutMs;

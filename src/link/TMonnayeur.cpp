@@ -53,6 +53,17 @@ bool TMonnayeur::readReply(int count, quint8 *buffer)
     }
 }
 
+bool TMonnayeur::strayBytesAfterReplies()
+{
+    if (m_replyEnded && m_transport && m_transport->isOpen() &&
+        !m_transport->read(1, Transport::kIntervalTimeoutMs).isEmpty())
+        m_strayBytes = true;
+    m_replyEnded = false;
+    const bool seen = m_strayBytes;
+    m_strayBytes = false;
+    return seen;
+}
+
 void TMonnayeur::betweenExchanges()
 {
     if (!m_betweenExchanges || m_inBetween)
@@ -76,9 +87,14 @@ bool TMonnayeur::SendCommand(const quint8 *data, quint8 command, quint8 replyLen
         m_transport->beginExchange(command);
 
     // The line is half-duplex: whatever waits in the receive buffer before a command is a late
-    // reply or noise, and would be taken for the count echo.
-    if (m_transport && m_transport->isOpen())
+    // reply or noise, and would be taken for the count echo. Bytes behind a whole reply are
+    // noted: that reply may have been shifted by a byte that came in with it.
+    if (m_transport && m_transport->isOpen()) {
+        if (m_replyEnded && !m_transport->read(1, 0).isEmpty())
+            m_strayBytes = true;
         m_transport->purge();
+    }
+    m_replyEnded = false;
 
     // Preamble, command byte, count echo; any failure here is an internal or communication
     // error.
@@ -106,8 +122,16 @@ bool TMonnayeur::SendCommand(const quint8 *data, quint8 command, quint8 replyLen
                 m_dataSent = true;
             }
         }
-        if (ok && awaitReply)
+        if (ok && awaitReply) {
             ok = readReply(replyLength, reply);
+            // A byte right behind the reply: one of the reply's bytes was not the validator's.
+            if (ok && !m_transport->read(1, kStrayByteWaitMs).isEmpty()) {
+                m_strayBytes = true;
+                fail(messageText(Msg::ReadingErrorFromValidator));
+                ok = false;
+            }
+            m_replyEnded = ok;
+        }
     }
 
     if (!ok && showMessage) {

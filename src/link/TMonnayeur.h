@@ -66,6 +66,15 @@ public:
 
     // The reply window of one exchange, in milliseconds.
     static constexpr int kReplyWindowMs = 900;
+    // How long the line must stay quiet after a whole reply: the protocol has no checksum, but
+    // a byte that came in with the reply (noise on the line) leaves the reply's last byte
+    // behind it, one byte time (1.04 ms) later. A byte within this wait fails the exchange.
+    static constexpr int kStrayByteWaitMs = 5;
+
+    // A byte was found after a whole reply since the last call of this function: a reply that
+    // was taken as good may be shifted by one byte. Waits the interval time-out once for a
+    // byte behind the last reply, so that a sequence asks it once at its end.
+    bool strayBytesAfterReplies();
 
     // Called after every exchange, so that a window can repaint between exchanges; it must not
     // deliver the user's input. Never called from inside itself.
@@ -88,4 +97,7 @@ private:
     bool m_dataSent = false;
     std::function<void()> m_betweenExchanges;
     bool m_inBetween = false;
+    // The last exchange ended with a whole reply; bytes waiting at the next command came after it.
+    bool m_replyEnded = false;
+    bool m_strayBytes = false;
 };

@@ -42,7 +42,12 @@ public:
     // validator that takes a few tens of milliseconds to answer behind an adapter that holds
     // bytes back for 16 ms, short enough that the 900 ms reply window can repeat its reads and
     // that polling a validator with no coin to report keeps the window lively.
+    // It is the "Port time-out" setting (tarvik-cli --port-timeout), for adapters that are
+    // slower to hand the first byte over (Bluetooth and radio serial links), within the range
+    // below; the reply window stays 900 ms whatever it is.
     static constexpr int kDefaultReadTimeoutMs = 100;
+    static constexpr int kMinReadTimeoutMs = 20;
+    static constexpr int kMaxReadTimeoutMs = 5000;
     // The longest gap between two bytes of one reply: a byte takes 1.04 ms at 9600 baud, and a
     // USB adapter holds bytes back for its latency timer (16 ms by default) before handing a
     // burst over; three such waits leave room for a loaded machine.

@@ -106,6 +106,26 @@ constexpr Entry kTable[] = {
     {Msg::DontStop, QT_TRANSLATE_NOOP("Messages", "Don't Stop or disconnect !!!")},
     {Msg::PleaseConnectMiniProgrammer,
      QT_TRANSLATE_NOOP("Messages", "Please connect the mini-programer.")},
+    {Msg::FirmwareEmpty,
+     QT_TRANSLATE_NOOP("Messages", "%s is empty: it is not a firmware file. Nothing was sent.")},
+    {Msg::FirmwareNotSRecord,
+     QT_TRANSLATE_NOOP("Messages", "%s is not a Motorola S-record firmware file: line %d %s. "
+                                   "Nothing was sent.")},
+    {Msg::SRecordBadStart, QT_TRANSLATE_NOOP("Messages", "does not begin with S0 to S9")},
+    {Msg::SRecordBadHex,
+     QT_TRANSLATE_NOOP("Messages", "holds a character that is not a hexadecimal digit")},
+    {Msg::SRecordBadCount,
+     QT_TRANSLATE_NOOP("Messages", "has a byte count that does not match its length")},
+    {Msg::SRecordBadChecksum, QT_TRANSLATE_NOOP("Messages", "has a wrong checksum")},
+    {Msg::FirmwareUpgradeMode,
+     QT_TRANSLATE_NOOP("Messages", "The mini-programmer must be in its upgrade mode before the "
+                                   "file is sent. Send %s now?")},
+    {Msg::FirmwareLarge,
+     QT_TRANSLATE_NOOP("Messages", "%s holds %d bytes: sent byte by byte at 9600 baud, it takes "
+                                   "hours. Send it all the same?")},
+    {Msg::FirmwarePortLost,
+     QT_TRANSLATE_NOOP("Messages", "The port was lost during the transfer: %d of %d bytes left "
+                                   "the port: the upgrade is not complete.")},
     {Msg::LastChannelDiffers,
      QT_TRANSLATE_NOOP("Messages",
                        "Channel %d of the validator differs from the one of this configuration: "

@@ -7,6 +7,7 @@
 FirmwareTransfer::Result FirmwareTransfer::FormTransfert(const QByteArray &firmware)
 {
     m_sent = 0;
+    m_written = 0;
     m_handshakeReads = 0;
     int counter = 0;
     // The flag keeps the answer of the last block boundary: a last block answered 0x55 0xAA and
@@ -16,8 +17,10 @@ FirmwareTransfer::Result FirmwareTransfer::FormTransfert(const QByteArray &firmw
     const QByteArray stopConfirmed("\x55\xA5", 2);
 
     for (qsizetype i = 0; i < firmware.size(); ++i) {
-        // Write failures are not checked during the transfer; the mini-programmer checks.
-        m_transport->write(firmware.mid(i, 1));
+        // Write failures do not stop the transfer; the mini-programmer checks what it gets. What
+        // left the port is counted, so that a lost port is said at the end.
+        if (m_transport->write(firmware.mid(i, 1)) == 1)
+            ++m_written;
         ++m_sent;
         if (progress)
             progress(m_sent, firmware.size());

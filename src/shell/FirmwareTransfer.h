@@ -5,7 +5,8 @@
 
 class Transport;
 
-// Streams a firmware file to the mini-programmer exactly as stored, byte by byte. After every
+// Streams a firmware file to the mini-programmer exactly as stored, byte by byte (the file has
+// been checked to be S-record text before: see FirmwareFile.h). After every
 // block of 64 bytes the mini-programmer may answer 0x55 0xAA and then 0x55 0xA5 to stop the
 // transfer; any other answer, or none, lets it go on.
 class FirmwareTransfer final
@@ -29,10 +30,14 @@ public:
     Result FormTransfert(const QByteArray &firmware);
 
     qint64 bytesSent() const { return m_sent; }
+    // The bytes that left the port: fewer than were sent when the port was lost on the way.
+    qint64 bytesWritten() const { return m_written; }
+    bool portLost() const { return m_written < m_sent; }
     int handshakeReads() const { return m_handshakeReads; }
 
 private:
     Transport *m_transport;
     qint64 m_sent = 0;
+    qint64 m_written = 0;
     int m_handshakeReads = 0;
 };

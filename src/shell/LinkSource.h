@@ -19,6 +19,8 @@ public:
     // Nothing when the program has to end (Exit in the port dialog, a port that cannot be
     // opened: its message has been shown).
     virtual std::optional<OpenedLink> open() = 0;
+    // The wait for a count echo or a reply's first byte on the ports it opens, the probe's too.
+    virtual void setPortTimeout(int ms) { Q_UNUSED(ms) }
 };
 
 // The probe, then the command line, then the port dialog.
@@ -28,6 +30,7 @@ public:
     ProbingLinkSource(PortOpener *opener, QStringList arguments, PortDialog *dialog,
                       UserPrompt *prompt);
     std::optional<OpenedLink> open() override;
+    void setPortTimeout(int ms) override { m_opener->setReadTimeout(ms); }
 
 private:
     PortOpener *m_opener;

@@ -1,7 +1,9 @@
 #include "Settings.h"
 
+#include "Transport.h"
 #include <QDateTime>
 #include <QDir>
+
 #include <QFile>
 
 namespace {
@@ -14,16 +16,23 @@ struct KeyInfo
         Bool,
         Text,
         Char,
-        DateOrder
+        DateOrder,
+        PortTimeout
     } type;
 };
 
 constexpr KeyInfo kKeys[int(Settings::Key::Count_)] = {
-    {"Sound", KeyInfo::Type::Bool},       {"Adjust", KeyInfo::Type::Bool},
-    {"DirectWrite", KeyInfo::Type::Bool}, {"Verify", KeyInfo::Type::Bool},
-    {"Language", KeyInfo::Type::Text},    {"DataDirectory", KeyInfo::Type::Text},
-    {"PortMap", KeyInfo::Type::Text},     {"DecimalChar", KeyInfo::Type::Char},
-    {"DateChar", KeyInfo::Type::Char},    {"DateFormat", KeyInfo::Type::DateOrder},
+    {"Sound", KeyInfo::Type::Bool},
+    {"Adjust", KeyInfo::Type::Bool},
+    {"DirectWrite", KeyInfo::Type::Bool},
+    {"Verify", KeyInfo::Type::Bool},
+    {"Language", KeyInfo::Type::Text},
+    {"DataDirectory", KeyInfo::Type::Text},
+    {"PortMap", KeyInfo::Type::Text},
+    {"DecimalChar", KeyInfo::Type::Char},
+    {"DateChar", KeyInfo::Type::Char},
+    {"DateFormat", KeyInfo::Type::DateOrder},
+    {"PortTimeout", KeyInfo::Type::PortTimeout},
 };
 
 // A stored value in its typed form, or an invalid variant when it cannot be read as one.
@@ -51,6 +60,13 @@ QVariant parse(const QVariant &stored, KeyInfo::Type type)
         bool ok = false;
         const int order = text.toInt(&ok);
         return ok && order >= 0 && order <= 2 ? QVariant(order) : QVariant();
+    }
+    case KeyInfo::Type::PortTimeout: {
+        bool ok = false;
+        const int ms = text.toInt(&ok);
+        return ok && ms >= Transport::kMinReadTimeoutMs && ms <= Transport::kMaxReadTimeoutMs
+                   ? QVariant(ms)
+                   : QVariant();
     }
     }
     return {};
@@ -84,6 +100,8 @@ QVariant Settings::defaultValue(Key key)
         return false;
     case Key::Verify:
         return true;
+    case Key::PortTimeout:
+        return Transport::kDefaultReadTimeoutMs;
     default:
         return QString();
     }

@@ -27,6 +27,7 @@ public:
         DecimalChar, // empty: from the system locale
         DateChar,    // empty: from the system locale
         DateFormat,  // 0 month/day/year, 1 day/month/year, 2 year/month/day; empty: locale
+        PortTimeout, // "PortTimeout": the wait in ms for a count echo or a reply's first byte
         Count_
     };
 
@@ -59,6 +60,7 @@ public:
     QString language() const { return value(Key::Language).toString(); }
     QString dataDirectory() const { return value(Key::DataDirectory).toString(); }
     QString portMap() const { return value(Key::PortMap).toString(); }
+    int portTimeoutMs() const { return value(Key::PortTimeout).toInt(); }
     // The separators and the date order: stored ones, the system locale's for empty values.
     EncodingSettings encodingSettings() const;
 
@@ -70,6 +72,7 @@ public:
     void setLanguage(const QString &code) { set(Key::Language, code); }
     void setDataDirectory(const QString &path) { set(Key::DataDirectory, path); }
     void setPortMap(const QString &map) { set(Key::PortMap, map); }
+    void setPortTimeoutMs(int ms) { set(Key::PortTimeout, ms); }
 
     QVariant value(Key key) const;
     void set(Key key, const QVariant &value);

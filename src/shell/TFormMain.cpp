@@ -16,6 +16,7 @@
 #include <QCloseEvent>
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLocale>
 #include <QMenuBar>
@@ -130,6 +131,9 @@ void TFormMain::buildMenu()
         connect(item, &QAction::triggered, this, [this, item] { Fran1Click(item); });
         m_languageItems.append(item);
     }
+    m_porttimeout1 = m_parameters->addAction(QString());
+    m_porttimeout1->setObjectName(QStringLiteral("Porttimeout1"));
+    connect(m_porttimeout1, &QAction::triggered, this, &TFormMain::Porttimeout1Click);
     m_parameters->addSeparator();
     m_firmware1 = m_parameters->addAction(QString());
     m_firmware1->setObjectName(QStringLiteral("Firmware1"));
@@ -154,6 +158,10 @@ void TFormMain::retranslateUi()
     m_verifyafterwrite1->setStatusTip(m_verifyafterwrite1->toolTip());
     m_langage->setTitle(tr("&Langage"));
     m_languageItems.at(Languages::kLocal)->setText(tr("&Local"));
+    m_porttimeout1->setText(tr("Port &time-out..."));
+    m_porttimeout1->setToolTip(tr("How long to wait for the validator's first byte: raise it "
+                                  "for Bluetooth or radio serial adapters"));
+    m_porttimeout1->setStatusTip(m_porttimeout1->toolTip());
     m_firmware1->setText(tr("Firmware upgrade..."));
     m_repairtables1->setText(captionText(Cap::RepairTables));
     m_bitBtn2->setText(tr("&Back"));
@@ -228,6 +236,7 @@ bool TFormMain::FormCreate()
     m_ajustementauto1->setChecked(settings.autoAdjust());
     m_ecrituredirecte1->setChecked(settings.directWrite());
     m_verifyafterwrite1->setChecked(settings.verifyAfterWrite());
+    m_link.setPortTimeout(settings.portTimeoutMs());
 
     if (settings.soundOn() && m_context.sounds)
         m_context.sounds->play(Sound::Chimes);
@@ -314,6 +323,25 @@ void TFormMain::Fran1Click(QAction *item)
         m_drapeau->setPixmap(Pictures::load(Pictures::flagFile(index)));
         m_shownLanguage = index;
     }
+}
+
+void TFormMain::Porttimeout1Click()
+{
+    QInputDialog dialog(this);
+    dialog.setObjectName(QStringLiteral("PortTimeoutDialog"));
+    dialog.setAccessibleName(tr("Port time-out"));
+    dialog.setWindowTitle(tr("Port time-out"));
+    dialog.setInputMode(QInputDialog::IntInput);
+    dialog.setLabelText(
+        tr("Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):")
+            .arg(Transport::kDefaultReadTimeoutMs));
+    dialog.setIntRange(Transport::kMinReadTimeoutMs, Transport::kMaxReadTimeoutMs);
+    dialog.setIntStep(10);
+    dialog.setIntValue(m_context.settings->portTimeoutMs());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    m_context.settings->setPortTimeoutMs(dialog.intValue());
+    m_link.setPortTimeout(dialog.intValue());
 }
 
 void TFormMain::Repairtables1Click()

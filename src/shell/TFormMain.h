@@ -33,6 +33,7 @@ public:
     void Verifyafterwrite1Click();
     void Fran1Click(QAction *item); // the five language items
     void Firmware1Click();
+    void Porttimeout1Click();
     void Repairtables1Click();
 
     ValidatorLink &link() { return m_link; }
@@ -72,6 +73,7 @@ private:
     QAction *m_ecrituredirecte1 = nullptr;
     QAction *m_verifyafterwrite1 = nullptr;
     QAction *m_firmware1 = nullptr;
+    QAction *m_porttimeout1 = nullptr;
     QAction *m_repairtables1 = nullptr;
     QList<QAction *> m_languageItems;
     QLabel *m_image1;

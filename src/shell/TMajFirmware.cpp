@@ -2,6 +2,7 @@
 
 #include "CopyAnimation.h"
 #include "FileDialog.h"
+#include "FirmwareFile.h"
 #include "Messages.h"
 #include "UserPrompt.h"
 
@@ -58,7 +59,10 @@ void TMajFirmware::chooseAndRun(QWidget *parent, Transport *transport, UserPromp
         prompt.tell(messageText(Msg::FileNotReadable, {fileName}), UserPrompt::Kind::Error);
         return;
     }
-    auto *window = new TMajFirmware(transport, file.readAll(), parent);
+    const QByteArray firmware = file.readAll();
+    if (!confirmFirmwareTransfer(prompt, fileName, firmware))
+        return;
+    auto *window = new TMajFirmware(transport, firmware, parent);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->exec();
 }
@@ -70,7 +74,10 @@ void TMajFirmware::retranslateUi()
                                                  ? Msg::UpgradeOver
                                                  : Msg::OperationCancelledByOperator)
                                : messageText(Msg::UpdatingPleaseWait));
-    m_label2->setText(messageText(Msg::DontStop));
+    m_label2->setText(m_lostAt
+                          ? messageText(Msg::FirmwarePortLost, {QString::number(m_lostAt->first),
+                                                                QString::number(m_lostAt->second)})
+                          : messageText(Msg::DontStop));
     m_bitBtn1->setText(tr("OK"));
 }
 
@@ -114,7 +121,10 @@ void TMajFirmware::FormTransfert()
     m_running = false;
     m_animate1->stop();
     m_animate1->setVisible(false);
-    m_label2->setVisible(false);
+    // A lost port is said under the result; otherwise the second label goes.
+    if (transfer.portLost())
+        m_lostAt = {transfer.bytesWritten(), qint64(m_firmware.size())};
+    m_label2->setVisible(m_lostAt.has_value());
     m_bitBtn1->setVisible(true);
     m_bitBtn1->setDefault(true);
     retranslateUi();

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QDialog>
 #include <optional>
+#include <utility>
 
 class CopyAnimation;
 class QLabel;
@@ -21,7 +22,8 @@ public:
     TMajFirmware(Transport *transport, QByteArray firmware, QWidget *parent = nullptr);
 
     // The file dialog, then the window for the chosen file. Nothing happens when no file is
-    // chosen; a file that cannot be read is reported.
+    // chosen; a file that cannot be read or is not S-record text is reported, and nothing is
+    // sent until the user has said that the mini-programmer is in its upgrade mode.
     static void chooseAndRun(QWidget *parent, Transport *transport, UserPrompt &prompt);
     static QString fileFilter();
 
@@ -41,6 +43,8 @@ private:
     QByteArray m_firmware;
     bool m_running = false;
     std::optional<FirmwareTransfer::Result> m_result;
+    // The bytes that left the port and the file's size, when the port was lost on the way.
+    std::optional<std::pair<qint64, qint64>> m_lostAt;
     QLabel *m_label1;
     QLabel *m_label2;
     CopyAnimation *m_animate1;

@@ -24,6 +24,9 @@ public:
     void close();
 
     bool isOpen() const { return m_transport != nullptr; }
+    // The "Port time-out": the wait for a count echo or a reply's first byte, on the open port
+    // and on every port opened later.
+    void setPortTimeout(int ms);
     int comPortNumber() const { return m_comPortNumber; }
     // Runs between two exchanges of every link this object opens (see
     // TMonnayeur::setBetweenExchanges).
@@ -36,5 +39,6 @@ private:
     std::unique_ptr<Transport> m_transport;
     std::unique_ptr<TMonnayeur> m_monnayeur;
     int m_comPortNumber = 0;
+    int m_portTimeoutMs = Transport::kDefaultReadTimeoutMs;
     std::function<void()> m_betweenExchanges;
 };

@@ -3,6 +3,7 @@
 #include "ConfigFile.h"
 #include "InProcessCli.h"
 #include "Messages.h"
+#include "SRecords.h"
 #include "SimProcess.h"
 #include "VirtualValidator.h"
 
@@ -473,12 +474,7 @@ TEST_F(Cli, ProbeFindsTheValidatorThroughThePortMap)
 
 TEST_F(Cli, FirmwareStreamsTheFileAsStored)
 {
-    QByteArray firmware;
-    for (int line = 0; line < 40; ++line)
-        firmware += QStringLiteral("S113%1000102030405060708090A0B0C0D0E0F7C\r\n")
-                        .arg(line * 16, 4, 16, QLatin1Char('0'))
-                        .toUpper()
-                        .toLatin1();
+    const QByteArray firmware = sRecordFirmware(40);
     const QString file = dir.filePath("fw.s19");
     QFile f(file);
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));

@@ -4,6 +4,7 @@
 
 #include "ConfigFile.h"
 #include "ConfigImage.h"
+#include "SRecords.h"
 #include "SimProcess.h"
 
 #include <QFile>
@@ -110,12 +111,7 @@ TEST_F(RoughLine, CloneLearnCalibrateAndFirmwareBehindFastAndSlowAdapters)
     }
 
     // The mini-programmer's answers split after their first byte, behind a 16 ms adapter.
-    QByteArray firmware;
-    for (int line = 0; line < 12; ++line)
-        firmware += QStringLiteral("S113%1000102030405060708090A0B0C0D0E0F7C\r\n")
-                        .arg(line * 16, 4, 16, QLatin1Char('0'))
-                        .toUpper()
-                        .toLatin1();
+    const QByteArray firmware = sRecordFirmware(12);
     QFile f(file("fw.s19"));
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write(firmware);

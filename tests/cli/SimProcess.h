@@ -1,5 +1,7 @@
 #pragma once
 
+#include "LoadedMachine.h"
+
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -49,13 +51,19 @@ struct CliRun
     QString err;
 };
 
-// Runs the built tarvik-cli as its own process, in the environment given.
+// Runs the built tarvik-cli as its own process, in the environment given. A run over a port
+// waits kTestPortTimeoutMs for the simulator's first byte unless it names its own time-out.
 inline CliRun runTarvikCliIn(const QProcessEnvironment &environment, const QStringList &arguments,
                              int timeoutMs = 60000)
 {
+    QStringList args = arguments;
+    if ((args.contains(QLatin1String("--device")) || args.contains(QLatin1String("--port"))) &&
+        !args.contains(QLatin1String("--port-timeout")))
+        args = QStringList{QStringLiteral("--port-timeout"), QString::number(kTestPortTimeoutMs)} +
+               args;
     QProcess cli;
     cli.setProcessEnvironment(environment);
-    cli.start(QStringLiteral(TARVIK_CLI_PATH), arguments);
+    cli.start(QStringLiteral(TARVIK_CLI_PATH), args);
     CliRun run;
     if (!cli.waitForFinished(timeoutMs)) {
         cli.kill();

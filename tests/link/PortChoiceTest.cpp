@@ -113,11 +113,24 @@ TEST(PortChoice, CommandLineRules)
     EXPECT_EQ(port, 2);
     EXPECT_FALSE(PortFromCommandLine({"-x", "/com7", "COM3"}, port));
     EXPECT_EQ(port, 7);
-    EXPECT_FALSE(PortFromCommandLine({"COM12"}, port));
-    EXPECT_EQ(port, 1);
+    // Words that are not COM and one digit are passed over, never read by their first digit.
     port = 0;
-    EXPECT_TRUE(PortFromCommandLine({"-x", "file"}, port));
+    EXPECT_TRUE(
+        PortFromCommandLine({"COM12", "COM1X", "xCOM1", "COM0", "COM", "/dev/ttyCOM4"}, port));
     EXPECT_EQ(port, 0);
+    EXPECT_FALSE(PortFromCommandLine({"COM12", "com5"}, port));
+    EXPECT_EQ(port, 5);
+}
+
+TEST(PortChoice, PortNamesOfAnyNumberOfDigits)
+{
+    EXPECT_EQ(ComPortFromName(QStringLiteral("COM12")), 12);
+    EXPECT_EQ(ComPortFromName(QStringLiteral("com4")), 4);
+    EXPECT_EQ(ComPortFromName(QStringLiteral("COM0012")), 12);
+    EXPECT_EQ(ComPortFromName(QStringLiteral("COM255")), 255);
+    for (const char *bad : {"COM1X", "xCOM1", "COM", "COM0", "COM256", "COM 4", "COM-1", "4",
+                            "COM99999999999", "COM\u0664"})
+        EXPECT_EQ(ComPortFromName(QString::fromUtf8(bad)), std::nullopt) << bad;
 }
 
 TEST(PortChoice, CommandLineSkipsDialogAndDialogMapsByPosition)

@@ -231,18 +231,44 @@ private Q_SLOTS:
     void firmwareWindowReportsHowTheTransferEnded_data()
     {
         QTest::addColumn<int>("stopAfterBlock");
+        QTest::addColumn<int>("lostAfter");
         QTest::addColumn<QString>("result");
-        QTest::newRow("whole file") << 0 << QStringLiteral("Upgrade over...");
-        QTest::newRow("stopped") << 2 << QStringLiteral("Operation cancelled by operator");
+        QTest::newRow("whole file") << 0 << -1 << QStringLiteral("Upgrade over...");
+        QTest::newRow("stopped") << 2 << -1 << QStringLiteral("Operation cancelled by operator");
+        QTest::newRow("port lost") << 0 << 100 << QStringLiteral("Upgrade over...");
     }
     void firmwareWindowReportsHowTheTransferEnded()
     {
         QFETCH(int, stopAfterBlock);
+        QFETCH(int, lostAfter);
         QFETCH(QString, result);
         VirtualValidator programmer;
         programmer.setMiniProgrammer(true);
         programmer.setStopAfterBlock(stopAfterBlock);
-        SimTransport port(&programmer);
+        // The cable is pulled after lostAfter bytes: every later write fails.
+        struct PulledPort final : Transport
+        {
+            explicit PulledPort(VirtualValidator *device) : inner(device) {}
+            bool isOpen() const override { return inner.isOpen(); }
+            qint64 write(const QByteArray &bytes) override
+            {
+                if (lostAfter >= 0 && written >= lostAfter)
+                    return -1;
+                written += bytes.size();
+                return inner.write(bytes);
+            }
+            using Transport::read;
+            QByteArray read(int count, int wait) override { return inner.read(count, wait); }
+            void purge() override { inner.purge(); }
+            void close() override { inner.close(); }
+            int readTimeout() const override { return inner.readTimeout(); }
+            void setReadTimeout(int ms) override { inner.setReadTimeout(ms); }
+            QString errorString() const override { return inner.errorString(); }
+            SimTransport inner;
+            int lostAfter = -1;
+            qint64 written = 0;
+        } port(&programmer);
+        port.lostAfter = lostAfter;
         QByteArray firmware;
         for (int line = 0; line < 12; ++line)
             firmware += "S1130000" + QByteArray::number(line).rightJustified(32, '0') + "\r\n";
@@ -259,6 +285,14 @@ private Q_SLOTS:
         QTRY_VERIFY(window.result().has_value());
         QCOMPARE(label1->text(), result);
         QVERIFY(ok->isVisible());
+        if (lostAfter >= 0) {
+            QVERIFY(child<QLabel>(&window, "Label2")->isVisible());
+            QCOMPARE(child<QLabel>(&window, "Label2")->text(),
+                     messageText(Msg::FirmwarePortLost,
+                                 {QString::number(lostAfter), QString::number(firmware.size())}));
+            click(&window, "BitBtn1");
+            return;
+        }
         QVERIFY(child<QLabel>(&window, "Label2")->isHidden());
         if (stopAfterBlock == 0)
             QCOMPARE(programmer.firmwareBytes(), firmware);
@@ -283,11 +317,32 @@ private Q_SLOTS:
         QCOMPARE(m_boxes.told(),
                  QStringList{messageText(Msg::FileNotReadable, {"/nonexistent/new.S19"})});
 
+        // Not S-record text: refused with its first bad line, nothing sent, nothing asked.
         QTemporaryFile file(QDir::tempPath() + QStringLiteral("/XXXXXX.S19"));
         QVERIFY(file.open());
+        file.write("S00600004844521B\r\n\x01\x02\x03");
+        file.flush();
+        m_boxes.clear();
+        FileDialog::setNextFileName(file.fileName());
+        TMajFirmware::chooseAndRun(nullptr, &port, m_boxes);
+        QCOMPARE(m_boxes.told().size(), 1);
+        QVERIFY(m_boxes.told().first().contains(QStringLiteral("line 2 does not begin with S0")));
+        QVERIFY(m_boxes.asked().isEmpty());
+        QVERIFY(programmer.firmwareBytes().isEmpty());
+
+        // S-record text: nothing is sent while the user says the mini-programmer is not ready.
+        file.resize(0);
         file.write("S00600004844521B\r\nS9030000FC\r\n");
         file.close();
+        m_boxes.clear();
         FileDialog::setNextFileName(file.fileName());
+        m_boxes.setNextAnswers({UserPrompt::Answer::Cancel});
+        TMajFirmware::chooseAndRun(nullptr, &port, m_boxes);
+        QCOMPARE(m_boxes.asked(),
+                 QStringList{messageText(Msg::FirmwareUpgradeMode, {QFileInfo(file).fileName()})});
+        QVERIFY(programmer.firmwareBytes().isEmpty());
+        FileDialog::setNextFileName(file.fileName());
+        m_boxes.setNextAnswers({UserPrompt::Answer::Ok});
         QTimer::singleShot(0, [] {
             auto *timer = new QTimer;
             QObject::connect(timer, &QTimer::timeout, [timer] {

@@ -18,6 +18,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QInputDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -258,6 +259,21 @@ private Q_SLOTS:
         Start third(source);
         QVERIFY(third.window->FormCreate());
         QVERIFY(third.sounds.played.isEmpty());
+        // The port time-out reaches the open port at once and is kept.
+        QCOMPARE(third.window->link().transport()->readTimeout(), 100);
+        whenModal("PortTimeoutDialog", [](QWidget *modal) {
+            auto *dialog = qobject_cast<QInputDialog *>(modal);
+            QCOMPARE(dialog->intMinimum(), 20);
+            QCOMPARE(dialog->intMaximum(), 5000);
+            dialog->setIntValue(650);
+            dialog->accept();
+        });
+        third.action("Porttimeout1")->trigger();
+        QCOMPARE(third.window->link().transport()->readTimeout(), 650);
+        Start fourth(source);
+        QVERIFY(fourth.window->FormCreate());
+        QCOMPARE(fourth.settings.portTimeoutMs(), 650);
+        QCOMPARE(fourth.window->link().transport()->readTimeout(), 650);
     }
 
     void languageSwitchChangesEveryOpenWindow()

@@ -1,8 +1,10 @@
 #include "Languages.h"
+#include "LinkSource.h"
 #include "Settings.h"
 #include "ShellTestSupport.h"
 #include "ValidatorInit.h"
 #include "ValidatorLink.h"
+#include "VirtualValidator.h"
 
 #include <QFile>
 #include <gtest/gtest.h>
@@ -138,6 +140,36 @@ TEST(SettingsTest, AFileThatCannotBeReadIsMovedAsideAndTheDefaultsTakeItsPlace)
     Settings again;
     EXPECT_EQ(again.load(), Settings::LoadState::Read);
     EXPECT_TRUE(again.unreadableFile().isEmpty());
+}
+
+TEST(SettingsTest, PortTimeOutIsKeptWithinItsRangeAndReachesEveryPortOpened)
+{
+    TempSettings temp;
+    {
+        Settings settings;
+        settings.load();
+        EXPECT_EQ(settings.portTimeoutMs(), 100);
+        settings.setPortTimeoutMs(650);
+    }
+    Settings again;
+    EXPECT_EQ(again.load(), Settings::LoadState::Read);
+    EXPECT_EQ(again.portTimeoutMs(), 650);
+    for (const char *bad : {"10", "5001", "slow"}) {
+        QSettings(QStringLiteral("Brunfeld"), QStringLiteral("Tarvik"))
+            .setValue(QStringLiteral("DefaultSettings/PortTimeout"), QString::fromLatin1(bad));
+        Settings unreadable;
+        EXPECT_EQ(unreadable.load(), Settings::LoadState::Unreadable) << bad;
+        EXPECT_EQ(unreadable.portTimeoutMs(), 100) << bad;
+    }
+
+    VirtualValidator device;
+    SimulatedLinkSource source(&device);
+    ValidatorLink link(nullptr);
+    link.setPortTimeout(650);
+    ASSERT_TRUE(link.open(source));
+    EXPECT_EQ(link.transport()->readTimeout(), 650);
+    link.setPortTimeout(300); // changed while the port is open
+    EXPECT_EQ(link.transport()->readTimeout(), 300);
 }
 
 TEST(SettingsTest, EncodingCharactersOverrideTheLocale)

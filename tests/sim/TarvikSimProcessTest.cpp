@@ -2,6 +2,7 @@
 
 #include "CoinGenerator.h"
 #include "ConfigFile.h"
+#include "LoadedMachine.h"
 #include "RecordingPrompt.h"
 #include "SerialTransport.h"
 #include "TMonnayeur.h"
@@ -69,6 +70,7 @@ TEST(TarvikSimProcessTest, ServesTheProtocolOverAPseudoTerminal)
     for (int round = 0; round < 2; ++round) { // the second open finds the server still there
         SerialTransport port;
         ASSERT_TRUE(port.open(path)) << qPrintable(port.errorString());
+        port.setReadTimeout(kTestPortTimeoutMs);
         TMonnayeur link(&port, &prompt);
         EXPECT_TRUE(link.CheckPresence(true));
         quint8 version[3] = {};
@@ -127,6 +129,7 @@ TEST(TarvikSimProcessTest, TokensFromTheScriptAreReadAndItsEndDoesNotStopTheDevi
     RecordingPrompt prompt;
     SerialTransport port;
     ASSERT_TRUE(port.open(path)) << qPrintable(port.errorString());
+    port.setReadTimeout(kTestPortTimeoutMs);
     TMonnayeur link(&port, &prompt);
     const SampleBytes golden =
         CoinGenerator::typical(CoinKind::GoldenToken, VirtualValidator::calibrationOffset(1004));
@@ -160,6 +163,7 @@ TEST(TarvikSimProcessTest, DoorFromTheScriptShowsInTheStatusAndMistakesAreReport
     RecordingPrompt prompt;
     SerialTransport port;
     ASSERT_TRUE(port.open(path)) << qPrintable(port.errorString());
+    port.setReadTimeout(kTestPortTimeoutMs);
     TMonnayeur link(&port, &prompt);
     EXPECT_EQ(statusHex(link), "00000001");
     sim.write("door closed\nhelp\n");
