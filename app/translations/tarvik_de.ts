@@ -592,7 +592,7 @@
         <translation>gesperrt</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
+        <source>Option &apos;%s&apos;</source>
         <translation>Option „%s“</translation>
     </message>
     <message>
@@ -675,7 +675,7 @@
         <source>Channel windows</source>
         <translation>Fenster der Kanäle</translation>
     </message>
-<message>
+    <message>
         <source>sent</source>
         <translation>gesendet</translation>
     </message>
@@ -684,7 +684,7 @@
         <translation>vom Münzprüfer abgelehnt</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
+        <source>Validator&apos;s own block</source>
         <translation>Eigener Block des Münzprüfers</translation>
     </message>
     <message>
@@ -771,7 +771,7 @@
         <translation>Lesefehler vom Münzprüfer</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>Der Kommunikationsanschluss COM%d ist nicht frei oder falsch eingestellt.</translation>
     </message>
     <message>
@@ -839,8 +839,8 @@
         <translation>Wert unter dem Minimum, er wird korrigiert.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' ist kein gültiger Ganzzahlwert</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; ist kein gültiger Ganzzahlwert</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -971,7 +971,7 @@
         <translation>Aktualisierung... Bitte warten !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
+        <source>Don&apos;t Stop or disconnect !!!</source>
         <translation>Nicht abbrechen oder trennen !!!</translation>
     </message>
     <message>
@@ -985,10 +985,6 @@
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
         <translation>Kanal %d des Münzprüfers weicht von dem dieser Konfiguration ab: Die Fenster passen möglicherweise nicht zu diesem Münzprüfer. Fortfahren?</translation>
-    </message>
-    <message>
-        <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
-        <translation>Der Münzprüfer enthält jetzt eine teilweise geschriebene Konfiguration: Bereits Geschriebenes wurde nicht rückgängig gemacht. Vor dem Einsatz erneut schreiben.</translation>
     </message>
     <message>
         <source>%s is missing</source>
@@ -1075,7 +1071,7 @@
         <translation>Schlüssel %s fehlt oder passt nicht zu seinem Feld</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
+        <source>its language driver differs from the table&apos;s</source>
         <translation>sein Sprachtreiber weicht von dem der Tabelle ab</translation>
     </message>
     <message>
@@ -1251,11 +1247,11 @@
         <translation>Der Datenträger meldete einen Fehler (%s): es wurde nichts geschrieben</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>„%s“ kann nicht in %s gespeichert werden: seine Codepage kennt %s nicht. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>„%s“ ist zu lang für %s: es fasst höchstens %s Zeichen. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
@@ -1278,7 +1274,7 @@
         <source>No coin profile %s is stored</source>
         <translation>Kein Münzprofil %s gespeichert</translation>
     </message>
-<message>
+    <message>
         <source>An amount cannot be negative: %s was not stored.</source>
         <translation>Ein Betrag kann nicht negativ sein: %s wurde nicht gespeichert.</translation>
     </message>
@@ -1306,7 +1302,7 @@
         <source>Channel %d of the validator now holds %s.</source>
         <translation>Kanal %d des Münzprüfers enthält jetzt %s.</translation>
     </message>
-<message>
+    <message>
         <source>%s is empty: it is not a firmware file. Nothing was sent.</source>
         <translation>%s ist leer: Es ist keine Firmware-Datei. Es wurde nichts gesendet.</translation>
     </message>
@@ -1630,12 +1626,12 @@
         <source>Reads the validator back after each write and lists what it does not hold</source>
         <translation>Liest den Münzprüfer nach jedem Schreiben zurück und listet auf, was er nicht enthält</translation>
     </message>
-<message>
+    <message>
         <source>Port &amp;time-out...</source>
         <translation>Port-&amp;Zeitlimit...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
         <translation>Wie lange auf das erste Byte des Prüfers gewartet wird: für Bluetooth- oder Funk-Seriell-Adapter erhöhen</translation>
     </message>
     <message>
@@ -1643,7 +1639,7 @@
         <translation>Port-Zeitlimit</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
         <translation>Wartezeit auf das Echo der Anzahl oder das erste Byte einer Antwort, in Millisekunden (Vorgabe %1):</translation>
     </message>
 </context>

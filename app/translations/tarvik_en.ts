@@ -592,8 +592,8 @@
         <translation>disabled</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
-        <translation>Option '%s'</translation>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Option &apos;%s&apos;</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -675,7 +675,7 @@
         <source>Channel windows</source>
         <translation>Channel windows</translation>
     </message>
-<message>
+    <message>
         <source>sent</source>
         <translation>sent</translation>
     </message>
@@ -684,8 +684,8 @@
         <translation>refused by the validator</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
-        <translation>Validator's own block</translation>
+        <source>Validator&apos;s own block</source>
+        <translation>Validator&apos;s own block</translation>
     </message>
     <message>
         <source>%s (channels %s)</source>
@@ -771,8 +771,8 @@
         <translation>Reading Error fron validator</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
-        <translation>Comunication Port COM%d isn't free or Setting error.</translation>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <translation>Comunication Port COM%d isn&apos;t free or Setting error.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
@@ -839,8 +839,8 @@
         <translation>Value under the minimum, it will be correct.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' is not a valid integer value</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; is not a valid integer value</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -971,8 +971,8 @@
         <translation>Updating... Please Wait !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
-        <translation>Don't Stop or disconnect !!!</translation>
+        <source>Don&apos;t Stop or disconnect !!!</source>
+        <translation>Don&apos;t Stop or disconnect !!!</translation>
     </message>
     <message>
         <source>Please connect the mini-programer.</source>
@@ -985,10 +985,6 @@
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
         <translation>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</translation>
-    </message>
-    <message>
-        <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
-        <translation>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</translation>
     </message>
     <message>
         <source>%s is missing</source>
@@ -1075,8 +1071,8 @@
         <translation>tag %s is missing or does not match its field</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
-        <translation>its language driver differs from the table's</translation>
+        <source>its language driver differs from the table&apos;s</source>
+        <translation>its language driver differs from the table&apos;s</translation>
     </message>
     <message>
         <source>The data directory %s has been created with empty tables</source>
@@ -1251,12 +1247,12 @@
         <translation>The disk reported an error (%s): nothing was written</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
-        <translation>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
-        <translation>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</translation>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</translation>
     </message>
     <message>
         <source>%s counts %s records in its header, but its index and its length prove %s</source>
@@ -1278,7 +1274,7 @@
         <source>No coin profile %s is stored</source>
         <translation>No coin profile %s is stored</translation>
     </message>
-<message>
+    <message>
         <source>An amount cannot be negative: %s was not stored.</source>
         <translation>An amount cannot be negative: %s was not stored.</translation>
     </message>
@@ -1306,7 +1302,7 @@
         <source>Channel %d of the validator now holds %s.</source>
         <translation>Channel %d of the validator now holds %s.</translation>
     </message>
-<message>
+    <message>
         <source>%s is empty: it is not a firmware file. Nothing was sent.</source>
         <translation>%s is empty: it is not a firmware file. Nothing was sent.</translation>
     </message>
@@ -1630,21 +1626,21 @@
         <source>Reads the validator back after each write and lists what it does not hold</source>
         <translation>Reads the validator back after each write and lists what it does not hold</translation>
     </message>
-<message>
+    <message>
         <source>Port &amp;time-out...</source>
         <translation>Port &amp;time-out...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
-        <translation>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</translation>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
+        <translation>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</translation>
     </message>
     <message>
         <source>Port time-out</source>
         <translation>Port time-out</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
-        <translation>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</translation>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
+        <translation>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</translation>
     </message>
 </context>
 <context>
