@@ -1,6 +1,7 @@
 #include "DbfTable.h"
 #include "DbfTableDetail.h"
 
+#include "CommitJournal.h"
 #include "DbfLayout.h"
 #include "DurableFile.h"
 #include "LanguageDriver.h"
@@ -96,7 +97,7 @@ bool DbfTable::writeIndexTemp(const std::vector<std::vector<int>> &rows, QString
     keys.reserve(rows.size());
     for (std::size_t t = 0; t < rows.size(); ++t)
         keys.push_back(tagKeys(int(t), rows[t]));
-    *tempPath = m_indexPath + kTempSuffix;
+    *tempPath = targetOf(m_indexPath) + kTempSuffix;
     QString why;
     const HookAction action = step(CommitStep::WriteIndexTemp);
     if (action == HookAction::Crash)
@@ -109,7 +110,7 @@ bool DbfTable::writeIndexTemp(const std::vector<std::vector<int>> &rows, QString
                      why.isEmpty() ? QStringLiteral("injected failure") : why});
     }
     if (QFileInfo::exists(m_indexPath))
-        QFile::setPermissions(*tempPath, QFile::permissions(m_indexPath));
+        QFile::setPermissions(*tempPath, QFile::permissions(targetOf(m_indexPath)));
     return true;
 }
 
@@ -141,17 +142,36 @@ bool DbfTable::commit()
 
 bool DbfTable::commitLocked()
 {
+    CommitJournal::Step plan;
+    std::vector<std::vector<int>> newRows;
+    if (!prepareCommit(&plan, &newRows))
+        return false;
+    QString why;
+    const CommitJournal::Applied applied = CommitJournal::apply(plan, &why);
+    return finishCommit(plan, std::move(newRows), applied, why);
+}
+
+// Writes everything the commit needs where no reader looks yet: the index temporary, then the
+// appended rows after the last counted one or the table's temporary, all flushed.
+bool DbfTable::prepareCommit(CommitJournal::Step *plan, std::vector<std::vector<int>> *newRows)
+{
     if (m_indexed && (quint8(m_header.at(28)) & 1) == 0) {
         m_header[28] = char(quint8(m_header.at(28)) | 1);
         m_headerDirty = true;
     }
     const QString name = fileName();
-    const QString dir = QFileInfo(m_path).absolutePath();
-    const std::vector<std::vector<int>> newRows = updatedTagRows();
+    const QString target = targetOf(m_path);
+    *newRows = updatedTagRows();
+    *plan = {};
+    plan->table = target;
 
     QString indexTemp;
-    if (m_indexed && !writeIndexTemp(newRows, &indexTemp))
+    if (m_indexed && !writeIndexTemp(*newRows, &indexTemp))
         return false;
+    if (m_indexed) {
+        plan->index = targetOf(m_indexPath);
+        plan->indexTemp = indexTemp;
+    }
     auto abandon = [&](const QString &why) {
         if (!indexTemp.isEmpty())
             QFile::remove(indexTemp);
@@ -171,41 +191,54 @@ bool DbfTable::commitLocked()
     if (tableChanged && appendOnly) {
         QByteArray tail = m_records.mid(qint64(m_committedCount) * m_recordLength);
         tail.append(kEndOfFile);
-        HookAction action = step(CommitStep::AppendRecords);
+        const HookAction action = step(CommitStep::AppendRecords);
         if (action == HookAction::Crash)
             return false;
-        if (action == HookAction::Fail || !DurableFile::writeAt(m_path, committedEnd, tail, &why))
+        if (action == HookAction::Fail || !DurableFile::writeAt(target, committedEnd, tail, &why))
             return abandon(why);
-        action = step(CommitStep::UpdateHeader);
-        if (action == HookAction::Crash)
-            return false;
-        if (action == HookAction::Fail ||
-            !DurableFile::writeAt(m_path, 1, m_header.mid(1, 7), &why))
-            return abandon(why);
-        DurableFile::truncate(m_path, committedEnd + tail.size(), &why);
+        plan->header = m_header.mid(1, 7);
+        plan->length = committedEnd + tail.size();
     } else if (tableChanged) {
-        const QString tableTemp = m_path + kTempSuffix;
+        const QString tableTemp = target + kTempSuffix;
         QByteArray bytes;
         bytes.reserve(m_headerLength + m_records.size() + 1);
         bytes.append(m_header).append(m_records).append(kEndOfFile);
-        HookAction action = step(CommitStep::WriteTableTemp);
+        const HookAction action = step(CommitStep::WriteTableTemp);
         if (action == HookAction::Crash)
             return false;
         if (action == HookAction::Fail || !DurableFile::write(tableTemp, bytes, &why)) {
             QFile::remove(tableTemp);
             return abandon(why);
         }
-        QFile::setPermissions(tableTemp, QFile::permissions(m_path));
-        action = step(CommitStep::ReplaceTable);
-        if (action == HookAction::Crash)
-            return false;
-        if (action == HookAction::Fail || !DurableFile::replace(tableTemp, m_path, &why)) {
-            QFile::remove(tableTemp);
-            return abandon(why);
-        }
-        DurableFile::syncDirectory(dir);
+        QFile::setPermissions(tableTemp, QFile::permissions(target));
+        plan->tableTemp = tableTemp;
+        plan->length = bytes.size();
     }
+    return true;
+}
 
+// Drops what a prepared commit wrote: the temporaries (rows after the count are ignored).
+void DbfTable::abandonCommit(const CommitJournal::Step &plan)
+{
+    if (!plan.tableTemp.isEmpty())
+        QFile::remove(plan.tableTemp);
+    if (!plan.indexTemp.isEmpty())
+        QFile::remove(plan.indexTemp);
+    rememberDiskState();
+}
+
+// Takes the commit's outcome into the table's state.
+bool DbfTable::finishCommit(const CommitJournal::Step &plan, std::vector<std::vector<int>> newRows,
+                            CommitJournal::Applied applied, const QString &why)
+{
+    const bool tableChanged = plan.length >= 0;
+    if (applied == CommitJournal::Applied::Crashed)
+        return false;
+    if (applied == CommitJournal::Applied::Failed) {
+        abandonCommit(plan);
+        return fail(Msg::RecordsCannotWrite,
+                    {fileName(), why.isEmpty() ? QStringLiteral("injected failure") : why});
+    }
     // From here on the table holds the change; the index follows it.
     rememberDiskState();
     m_committedHeader = m_header;
@@ -214,14 +247,9 @@ bool DbfTable::commitLocked()
     m_originals.clear();
     m_dirtyMark.clear();
     m_dirtyRows.clear();
-    m_tagRows = newRows;
-
+    m_tagRows = std::move(newRows);
     if (m_indexed) {
-        const HookAction action = step(CommitStep::ReplaceIndex);
-        if (action == HookAction::Crash)
-            return false;
-        if (action == HookAction::Fail || !DurableFile::replace(indexTemp, m_indexPath, &why)) {
-            QFile::remove(indexTemp);
+        if (applied == CommitJournal::Applied::TableOnly) {
             m_indexNeedsWrite = true;
             m_indexProblem = {Msg::IndexReasonEntries, {}};
             fail(Msg::RecordsCannotWrite,
@@ -231,15 +259,89 @@ bool DbfTable::commitLocked()
             if (!tableChanged)
                 return false;
         } else {
-            // No directory flush here: should a power cut undo this rename, the next open
-            // finds the old index stale and rebuilds it from the table.
             m_indexNeedsWrite = false;
             m_indexProblem = {};
         }
-        rememberDiskState();
     }
     if (tableChanged)
         Q_EMIT changed();
+    return true;
+}
+
+bool DbfTable::commitTogether(std::initializer_list<DbfTable *> tables, QString *error)
+{
+    std::vector<DbfTable *> changing;
+    for (DbfTable *t : tables) {
+        if (!t->m_open) {
+            *error = messageText(Msg::RecordsFileMissing, {t->m_path});
+            return false;
+        }
+        if (!t->hasPendingChanges() && !t->m_indexNeedsWrite)
+            continue;
+        if (t->m_readOnly || t->m_memoryOnly || !t->m_changeLock) {
+            *error = t->m_readOnly || t->m_memoryOnly
+                         ? t->m_readOnlyReason
+                         : messageText(Msg::RecordsChangedElsewhere, {t->fileName()});
+            return false;
+        }
+        changing.push_back(t);
+    }
+    if (changing.size() < 2) {
+        if (!changing.empty() && !changing.front()->commit()) {
+            *error = changing.front()->errorString();
+            return false;
+        }
+        return true;
+    }
+
+    // Everything written where no reader looks yet, then the journal decides.
+    std::vector<CommitJournal::Step> plans(changing.size());
+    std::vector<std::vector<std::vector<int>>> rows(changing.size());
+    for (std::size_t i = 0; i < changing.size(); ++i) {
+        if (!changing[i]->prepareCommit(&plans[i], &rows[i])) {
+            *error = changing[i]->errorString();
+            for (std::size_t j = 0; j < i; ++j)
+                changing[j]->abandonCommit(plans[j]);
+            return false;
+        }
+    }
+    QString why;
+    const HookAction action = step(CommitStep::WriteJournal);
+    if (action == HookAction::Crash)
+        return false;
+    const QString journal =
+        action == HookAction::Fail ? QString() : CommitJournal::write(plans, &why);
+    if (journal.isEmpty()) {
+        for (std::size_t i = 0; i < changing.size(); ++i)
+            changing[i]->abandonCommit(plans[i]);
+        *error = messageText(Msg::RecordsCannotWrite,
+                             {changing.front()->fileName(),
+                              why.isEmpty() ? QStringLiteral("injected failure") : why});
+        return false;
+    }
+
+    // Decided: every table takes its part, and the journal goes last.
+    bool ok = true;
+    for (std::size_t i = 0; i < changing.size(); ++i) {
+        why.clear();
+        const CommitJournal::Applied applied = CommitJournal::apply(plans[i], &why);
+        if (applied == CommitJournal::Applied::Crashed)
+            return false;
+        if (applied == CommitJournal::Applied::Failed) {
+            // The journal stays: the next program to take these tables completes the change.
+            *error = messageText(Msg::RecordsCannotWrite, {changing[i]->fileName(), why});
+            changing[i]->rememberDiskState();
+            ok = false;
+            continue;
+        }
+        changing[i]->finishCommit(plans[i], std::move(rows[i]), applied, why);
+    }
+    if (!ok)
+        return false;
+    if (step(CommitStep::RemoveJournal) == HookAction::Crash)
+        return false;
+    QFile::remove(journal);
+    DurableFile::syncDirectory(QFileInfo(journal).absolutePath());
     return true;
 }
 

@@ -1,0 +1,197 @@
+#include "CommitJournal.h"
+
+#include "DbfTableDetail.h"
+#include "DurableFile.h"
+#include "TableLock.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+#include <memory>
+
+using namespace dbf_detail;
+
+namespace CommitJournal {
+
+namespace {
+
+const QString kSuffix = QStringLiteral(".tarvik-journal");
+constexpr int kVersion = 1;
+
+} // namespace
+
+QString suffix()
+{
+    return kSuffix;
+}
+
+QString write(const std::vector<Step> &steps, QString *error)
+{
+    QJsonArray tables;
+    QStringList names;
+    for (const Step &s : steps) {
+        names.append(s.table);
+        tables.append(QJsonObject{{QStringLiteral("table"), s.table},
+                                  {QStringLiteral("tableTemp"), s.tableTemp},
+                                  {QStringLiteral("header"), QString::fromLatin1(s.header.toHex())},
+                                  {QStringLiteral("length"), double(s.length)},
+                                  {QStringLiteral("index"), s.index},
+                                  {QStringLiteral("indexTemp"), s.indexTemp}});
+    }
+    std::sort(names.begin(), names.end());
+    const QString journal = names.first() + kSuffix;
+    const QString temp = journal + kTempSuffix;
+    const QByteArray bytes = QJsonDocument(QJsonObject{{QStringLiteral("version"), kVersion},
+                                                       {QStringLiteral("tables"), tables}})
+                                 .toJson(QJsonDocument::Indented);
+    if (!DurableFile::write(temp, bytes, error) || !DurableFile::replace(temp, journal, error)) {
+        QFile::remove(temp);
+        return {};
+    }
+    DurableFile::syncDirectory(QFileInfo(journal).absolutePath());
+    return journal;
+}
+
+bool read(const QString &journal, std::vector<Step> *steps)
+{
+    QFile file(journal);
+    if (!QFileInfo(journal).isFile() || !file.open(QIODevice::ReadOnly))
+        return false;
+    const QJsonObject root = QJsonDocument::fromJson(file.readAll()).object();
+    if (root.value(QStringLiteral("version")).toInt() != kVersion)
+        return false;
+    steps->clear();
+    for (const QJsonValue &v : root.value(QStringLiteral("tables")).toArray()) {
+        const QJsonObject o = v.toObject();
+        Step s;
+        s.table = o.value(QStringLiteral("table")).toString();
+        s.tableTemp = o.value(QStringLiteral("tableTemp")).toString();
+        s.header = QByteArray::fromHex(o.value(QStringLiteral("header")).toString().toLatin1());
+        s.length = qint64(o.value(QStringLiteral("length")).toDouble(-1));
+        s.index = o.value(QStringLiteral("index")).toString();
+        s.indexTemp = o.value(QStringLiteral("indexTemp")).toString();
+        if (s.table.isEmpty() || (!s.header.isEmpty() && s.header.size() != 7))
+            return false;
+        steps->push_back(s);
+    }
+    return !steps->empty();
+}
+
+Applied apply(const Step &s, QString *error)
+{
+    using Hook = DbfTable::HookAction;
+    if (s.length >= 0 && s.tableTemp.isEmpty()) {
+        // appended rows: the record count makes them visible; writing it again changes nothing
+        const Hook action = step(DbfTable::CommitStep::UpdateHeader);
+        if (action == Hook::Crash)
+            return Applied::Crashed;
+        if (action == Hook::Fail || !DurableFile::writeAt(s.table, 1, s.header, error))
+            return Applied::Failed;
+        DurableFile::truncate(s.table, s.length, error);
+    } else if (s.length >= 0) {
+        // a temporary that is gone was renamed already
+        if (QFileInfo::exists(s.tableTemp)) {
+            const Hook action = step(DbfTable::CommitStep::ReplaceTable);
+            if (action == Hook::Crash)
+                return Applied::Crashed;
+            if (action == Hook::Fail || !DurableFile::replace(s.tableTemp, s.table, error))
+                return Applied::Failed;
+            DurableFile::syncDirectory(QFileInfo(s.table).absolutePath());
+        }
+    }
+    if (!s.index.isEmpty() && QFileInfo::exists(s.indexTemp)) {
+        const Hook action = step(DbfTable::CommitStep::ReplaceIndex);
+        if (action == Hook::Crash)
+            return Applied::Crashed;
+        // Should this rename be lost, the next open finds the index stale and rebuilds it.
+        if (action == Hook::Fail || !DurableFile::replace(s.indexTemp, s.index, error)) {
+            QFile::remove(s.indexTemp);
+            return Applied::TableOnly;
+        }
+    }
+    return Applied::Done;
+}
+
+bool complete(const QString &journal, QString *error)
+{
+    std::vector<Step> steps;
+    if (!read(journal, &steps)) {
+        // Written whole or not at all: one that cannot be read was not written by this program.
+        QFile::remove(journal);
+        return true;
+    }
+    for (const Step &s : steps) {
+        QString why;
+        const Applied applied = apply(s, &why);
+        if (applied == Applied::Crashed)
+            return false;
+        if (applied == Applied::Failed) {
+            *error = why;
+            return false;
+        }
+    }
+    const DbfTable::HookAction action = step(DbfTable::CommitStep::RemoveJournal);
+    if (action == DbfTable::HookAction::Crash)
+        return false;
+    QFile::remove(journal);
+    DurableFile::syncDirectory(QFileInfo(journal).absolutePath());
+    return true;
+}
+
+QStringList pendingFor(const QStringList &tables)
+{
+    QStringList dirs, found;
+    for (const QString &t : tables) {
+        const QString dir = QFileInfo(t).absolutePath();
+        if (!dirs.contains(dir))
+            dirs.append(dir);
+    }
+    for (const QString &dir : std::as_const(dirs)) {
+        const QStringList names =
+            QDir(dir).entryList({QStringLiteral("*") + kSuffix}, QDir::Files | QDir::Hidden);
+        for (const QString &name : names) {
+            const QString journal = QDir(dir).filePath(name);
+            const QStringList named = tablesOf(journal);
+            if (named.isEmpty() || std::any_of(named.begin(), named.end(), [&](const QString &t) {
+                    return tables.contains(t);
+                }))
+                found.append(journal);
+        }
+    }
+    return found;
+}
+
+QStringList tablesOf(const QString &journal)
+{
+    std::vector<Step> steps;
+    QStringList names;
+    if (read(journal, &steps)) {
+        for (const Step &s : steps)
+            names.append(s.table);
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+bool settle(const QString &journal, QString *error)
+{
+    std::vector<std::unique_ptr<TableLock>> locks;
+    for (const QString &table : tablesOf(journal)) {
+        auto lock = std::make_unique<TableLock>(table);
+        if (!lock->lock(TableLock::Mode::Exclusive)) {
+            *error = lock->errorString();
+            return false;
+        }
+        locks.push_back(std::move(lock));
+    }
+    // Another program may have completed it meanwhile.
+    if (!QFileInfo::exists(journal))
+        return true;
+    return complete(journal, error);
+}
+
+} // namespace CommitJournal
