@@ -22,6 +22,23 @@ namespace {
 const QString kSuffix = QStringLiteral(".tarvik-journal");
 constexpr int kVersion = 1;
 
+// Cuts rows appended after the count off again, unless the count counts them already (a table
+// committed alone writes its count before it removes its journal).
+bool cutBack(const Step &s, QString *error)
+{
+    QFile file(s.table);
+    if (!QFileInfo(s.table).isFile() || !file.open(QIODevice::ReadOnly))
+        return true; // nothing of ours to cut
+    const QByteArray header = file.read(8);
+    file.close();
+    if (header.size() == 8 && header.mid(1, 7) == s.header)
+        return true;
+    if (file.size() <= s.restoreLength + 1)
+        return true;
+    return DurableFile::truncate(s.table, s.restoreLength, error) &&
+           DurableFile::writeAt(s.table, s.restoreLength, QByteArray(1, kEndOfFile), error);
+}
+
 } // namespace
 
 QString suffix()
@@ -29,7 +46,7 @@ QString suffix()
     return kSuffix;
 }
 
-QString write(const std::vector<Step> &steps, QString *error)
+QString write(const std::vector<Step> &steps, State state, QString *error)
 {
     QJsonArray tables;
     QStringList names;
@@ -40,14 +57,17 @@ QString write(const std::vector<Step> &steps, QString *error)
                                   {QStringLiteral("header"), QString::fromLatin1(s.header.toHex())},
                                   {QStringLiteral("length"), double(s.length)},
                                   {QStringLiteral("index"), s.index},
-                                  {QStringLiteral("indexTemp"), s.indexTemp}});
+                                  {QStringLiteral("indexTemp"), s.indexTemp},
+                                  {QStringLiteral("restoreLength"), double(s.restoreLength)}});
     }
     std::sort(names.begin(), names.end());
     const QString journal = names.first() + kSuffix;
     const QString temp = journal + kTempSuffix;
-    const QByteArray bytes = QJsonDocument(QJsonObject{{QStringLiteral("version"), kVersion},
-                                                       {QStringLiteral("tables"), tables}})
-                                 .toJson(QJsonDocument::Indented);
+    const QByteArray bytes =
+        QJsonDocument(QJsonObject{{QStringLiteral("version"), kVersion},
+                                  {QStringLiteral("decided"), state == State::Decided},
+                                  {QStringLiteral("tables"), tables}})
+            .toJson(QJsonDocument::Indented);
     if (!DurableFile::write(temp, bytes, error) || !DurableFile::replace(temp, journal, error)) {
         QFile::remove(temp);
         return {};
@@ -56,7 +76,7 @@ QString write(const std::vector<Step> &steps, QString *error)
     return journal;
 }
 
-bool read(const QString &journal, std::vector<Step> *steps)
+bool read(const QString &journal, std::vector<Step> *steps, State *state)
 {
     QFile file(journal);
     if (!QFileInfo(journal).isFile() || !file.open(QIODevice::ReadOnly))
@@ -64,6 +84,8 @@ bool read(const QString &journal, std::vector<Step> *steps)
     const QJsonObject root = QJsonDocument::fromJson(file.readAll()).object();
     if (root.value(QStringLiteral("version")).toInt() != kVersion)
         return false;
+    if (state)
+        *state = root.value(QStringLiteral("decided")).toBool() ? State::Decided : State::Prepared;
     steps->clear();
     for (const QJsonValue &v : root.value(QStringLiteral("tables")).toArray()) {
         const QJsonObject o = v.toObject();
@@ -74,6 +96,7 @@ bool read(const QString &journal, std::vector<Step> *steps)
         s.length = qint64(o.value(QStringLiteral("length")).toDouble(-1));
         s.index = o.value(QStringLiteral("index")).toString();
         s.indexTemp = o.value(QStringLiteral("indexTemp")).toString();
+        s.restoreLength = qint64(o.value(QStringLiteral("restoreLength")).toDouble(-1));
         if (s.table.isEmpty() || (!s.header.isEmpty() && s.header.size() != 7))
             return false;
         steps->push_back(s);
@@ -119,9 +142,23 @@ Applied apply(const Step &s, QString *error)
 bool complete(const QString &journal, QString *error)
 {
     std::vector<Step> steps;
-    if (!read(journal, &steps)) {
+    State state = State::Prepared;
+    if (!read(journal, &steps, &state)) {
         // Written whole or not at all: one that cannot be read was not written by this program.
         QFile::remove(journal);
+        return true;
+    }
+    if (state == State::Prepared) {
+        for (const Step &s : steps) {
+            if (!s.tableTemp.isEmpty())
+                QFile::remove(s.tableTemp);
+            if (!s.indexTemp.isEmpty())
+                QFile::remove(s.indexTemp);
+            if (s.restoreLength >= 0 && !cutBack(s, error))
+                return false;
+        }
+        QFile::remove(journal);
+        DurableFile::syncDirectory(QFileInfo(journal).absolutePath());
         return true;
     }
     for (const Step &s : steps) {

@@ -34,17 +34,28 @@ struct Step
     qint64 length = -1; // ... and the file's new length; -1 when the table is unchanged
     QString index;      // empty when the table has no index
     QString indexTemp;
+    // Rows appended in place: where they start (the old end of the counted rows), to cut the
+    // file back to should the change not be decided. -1 otherwise.
+    qint64 restoreLength = -1;
+    QByteArray tail; // the rows themselves, not in the journal
+};
+
+enum class State
+{
+    Prepared, // rows may be appended after the count: the next program cuts them off again
+    Decided   // every table is prepared: the next program completes the change
 };
 
 // The suffix of journal files.
 QString suffix();
-// Writes the journal of steps beside the first table, durably; its path, empty on failure
-// (error set).
-QString write(const std::vector<Step> &steps, QString *error);
+// Writes the journal of steps beside the first table, durably, replacing the one there; its
+// path, empty on failure (error set).
+QString write(const std::vector<Step> &steps, State state, QString *error);
 // The steps a journal names; false when it cannot be read.
-bool read(const QString &journal, std::vector<Step> *steps);
-// Does every step of the journal and removes it; the caller holds the exclusive locks of its
-// tables.
+bool read(const QString &journal, std::vector<Step> *steps, State *state = nullptr);
+// Completes a decided journal (every step done again) or undoes a prepared one (rows appended
+// after a count that does not count them yet are cut off, the temporaries go), then removes it;
+// the caller holds the exclusive locks of its tables.
 bool complete(const QString &journal, QString *error);
 enum class Applied
 {

@@ -264,6 +264,7 @@ private:
     bool commitLocked();
     bool prepareCommit(CommitJournal::Step *plan, std::vector<std::vector<int>> *newRows);
     void abandonCommit(const CommitJournal::Step &plan);
+    bool writeTail(const CommitJournal::Step &plan);
     bool finishCommit(const CommitJournal::Step &plan, std::vector<std::vector<int>> newRows,
                       CommitJournal::Applied applied, const QString &why);
     bool takeChangeLock();

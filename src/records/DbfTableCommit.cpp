@@ -146,9 +146,59 @@ bool DbfTable::commitLocked()
     std::vector<std::vector<int>> newRows;
     if (!prepareCommit(&plan, &newRows))
         return false;
-    QString why;
+    // Rows appended in place are announced first, so that the next program cuts them off
+    // should this one die before the record count counts them (other readers read up to the
+    // end of the file, not up to the count).
+    QString why, journal;
+    if (!plan.tail.isEmpty()) {
+        const HookAction action = step(CommitStep::WriteJournal);
+        if (action == HookAction::Crash)
+            return false;
+        journal = action == HookAction::Fail
+                      ? QString()
+                      : CommitJournal::write({plan}, CommitJournal::State::Prepared, &why);
+        const bool written = !journal.isEmpty() && writeTail(plan);
+        if (!journal.isEmpty() && !written && m_error.isEmpty())
+            return false; // the test seam's crash
+        if (!written) {
+            if (journal.isEmpty())
+                fail(Msg::RecordsCannotWrite,
+                     {fileName(), why.isEmpty() ? QStringLiteral("injected failure") : why});
+            const QString error = m_error;
+            abandonCommit(plan);
+            if (!journal.isEmpty() && !CommitJournal::complete(journal, &why))
+                return false;
+            m_error = error;
+            return false;
+        }
+    }
     const CommitJournal::Applied applied = CommitJournal::apply(plan, &why);
+    if (applied == CommitJournal::Applied::Crashed)
+        return false;
+    if (!journal.isEmpty()) {
+        if (step(CommitStep::RemoveJournal) == HookAction::Crash)
+            return false;
+        // Not yet counted, the rows go again; counted, the journal has nothing left to do.
+        QString ignored;
+        CommitJournal::complete(journal, &ignored);
+    }
     return finishCommit(plan, std::move(newRows), applied, why);
+}
+
+// Appends the new rows after the last counted one, flushed; the count does not count them yet.
+bool DbfTable::writeTail(const CommitJournal::Step &plan)
+{
+    m_error.clear();
+    QString why;
+    const HookAction action = step(CommitStep::AppendRecords);
+    if (action == HookAction::Crash)
+        return false;
+    if (action == HookAction::Fail ||
+        !DurableFile::writeAt(plan.table, plan.restoreLength, plan.tail, &why)) {
+        return fail(Msg::RecordsCannotWrite,
+                    {fileName(), why.isEmpty() ? QStringLiteral("injected failure") : why});
+    }
+    return true;
 }
 
 // Writes everything the commit needs where no reader looks yet: the index temporary, then the
@@ -189,15 +239,12 @@ bool DbfTable::prepareCommit(CommitJournal::Step *plan, std::vector<std::vector<
     QString why;
 
     if (tableChanged && appendOnly) {
-        QByteArray tail = m_records.mid(qint64(m_committedCount) * m_recordLength);
-        tail.append(kEndOfFile);
-        const HookAction action = step(CommitStep::AppendRecords);
-        if (action == HookAction::Crash)
-            return false;
-        if (action == HookAction::Fail || !DurableFile::writeAt(target, committedEnd, tail, &why))
-            return abandon(why);
+        // written by writeTail() once the journal announces it
+        plan->tail = m_records.mid(qint64(m_committedCount) * m_recordLength);
+        plan->tail.append(kEndOfFile);
         plan->header = m_header.mid(1, 7);
-        plan->length = committedEnd + tail.size();
+        plan->restoreLength = committedEnd;
+        plan->length = committedEnd + plan->tail.size();
     } else if (tableChanged) {
         const QString tableTemp = target + kTempSuffix;
         QByteArray bytes;
@@ -306,17 +353,53 @@ bool DbfTable::commitTogether(std::initializer_list<DbfTable *> tables, QString 
         }
     }
     QString why;
-    const HookAction action = step(CommitStep::WriteJournal);
-    if (action == HookAction::Crash)
-        return false;
-    const QString journal =
-        action == HookAction::Fail ? QString() : CommitJournal::write(plans, &why);
-    if (journal.isEmpty()) {
+    auto abandonAll = [&](const QString &journal) {
         for (std::size_t i = 0; i < changing.size(); ++i)
             changing[i]->abandonCommit(plans[i]);
-        *error = messageText(Msg::RecordsCannotWrite,
-                             {changing.front()->fileName(),
-                              why.isEmpty() ? QStringLiteral("injected failure") : why});
+        QString ignored;
+        if (!journal.isEmpty())
+            CommitJournal::complete(journal, &ignored); // cuts the appended rows off again
+    };
+    auto writeJournal = [&](CommitJournal::State state) {
+        const HookAction action = step(CommitStep::WriteJournal);
+        if (action == HookAction::Crash)
+            return QStringLiteral("crash");
+        const QString journal =
+            action == HookAction::Fail ? QString() : CommitJournal::write(plans, state, &why);
+        if (journal.isEmpty())
+            *error = messageText(Msg::RecordsCannotWrite,
+                                 {changing.front()->fileName(),
+                                  why.isEmpty() ? QStringLiteral("injected failure") : why});
+        return journal;
+    };
+    // Rows appended in place are announced before they are written (see commitLocked()).
+    const bool appends = std::any_of(
+        plans.begin(), plans.end(), [](const CommitJournal::Step &p) { return !p.tail.isEmpty(); });
+    QString prepared;
+    if (appends) {
+        prepared = writeJournal(CommitJournal::State::Prepared);
+        if (prepared == QLatin1String("crash"))
+            return false;
+        if (prepared.isEmpty()) {
+            abandonAll({});
+            return false;
+        }
+        for (std::size_t i = 0; i < changing.size(); ++i) {
+            if (!plans[i].tail.isEmpty() && !changing[i]->writeTail(plans[i])) {
+                *error = changing[i]->errorString();
+                if (changing[i]->errorString().isEmpty())
+                    return false; // the test seam's crash
+                abandonAll(prepared);
+                return false;
+            }
+        }
+    }
+    // The change is decided once this journal is on the disk.
+    const QString journal = writeJournal(CommitJournal::State::Decided);
+    if (journal == QLatin1String("crash"))
+        return false;
+    if (journal.isEmpty()) {
+        abandonAll(prepared);
         return false;
     }
 
