@@ -52,8 +52,8 @@ public:
     static int waitLimitMs();
     static void setWaitLimitMs(int ms);
     // Told once per operation when a lock is not free after a second ("Canaux.dbf is locked by
-    // tarvik-cli 3157 on bench: waiting at most 10 s"); the command line prints it, the program
-    // shows it in its status line.
+    // tarvik-cli 3157 on bench: waiting at most 10 s"); tarvik-cli and the program write it to
+    // their standard error.
     static void setWaitNotice(std::function<void(const QString &)> notice);
 
     // One bounded wait for every lock an operation (a save, a delete, a listing, a command)

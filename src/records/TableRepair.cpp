@@ -18,6 +18,10 @@ const QString kTempSuffix = QStringLiteral(".tarvik-tmp");
 
 bool readFile(const QString &path, QByteArray *bytes, QString *error)
 {
+    if (!QFileInfo(path).isFile()) { // a pipe would never end
+        *error = messageText(Msg::RecordsNotRegularFile, {path});
+        return false;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         *error = file.errorString();
