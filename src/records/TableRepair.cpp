@@ -43,7 +43,8 @@ QString indexPathOf(const QString &path, const TableSchema *schema)
 
 bool TableRepair::Result::sound() const
 {
-    return state == State::Sound || state == State::Repaired || state == State::IndexRebuilt;
+    return state == State::Sound || state == State::Repaired || state == State::IndexRebuilt ||
+           state == State::OrphansRemoved || state == State::ChannelsMissing;
 }
 
 QString TableRepair::Result::text() const
@@ -65,6 +66,12 @@ QString TableRepair::Result::text() const
         return messageText(Msg::RepairIndexDone, {fileName, QDir::toNativeSeparators(backup)});
     case State::Failed:
         return messageText(Msg::RepairFailed, {fileName, error});
+    case State::Orphans:
+    case State::ChannelsMissing:
+        return problem;
+    case State::OrphansRemoved:
+        return messageText(Msg::RepairOrphansRemoved, {fileName, QString::number(unreadable),
+                                                       QDir::toNativeSeparators(backup)});
     }
     return problem;
 }
@@ -92,6 +99,8 @@ QList<TableRepair::Result> TableRepair::check(const QList<const TableSchema *> &
     QList<Result> results;
     for (const TableSchema *schema : tables)
         results.append(checkFile(DbfTable::findInDirectory(m_dir, schema->fileName), schema));
+    if (tables.contains(&TableSchema::gettoniere()) && tables.contains(&TableSchema::channel()))
+        results.append(checkValidators());
     return results;
 }
 
@@ -100,6 +109,8 @@ QList<TableRepair::Result> TableRepair::repair(const QList<const TableSchema *> 
     QList<Result> results;
     for (const TableSchema *schema : tables)
         results.append(repairFile(DbfTable::findInDirectory(m_dir, schema->fileName), schema));
+    if (tables.contains(&TableSchema::gettoniere()) && tables.contains(&TableSchema::channel()))
+        results.append(repairValidators());
     return results;
 }
 

@@ -6,6 +6,8 @@
 #include "RecordingPrompt.h"
 #include "TDBModule.h"
 #include "TableLock.h"
+#include "TableRepair.h"
+#include "TableRepairModel.h"
 #include "TableSchema.h"
 #include "TestFiles.h"
 #include "ValidatorStore.h"
@@ -285,6 +287,77 @@ TEST(Locks, PipesAndUnreadableDirectoriesRefused)
     EXPECT_FALSE(r.err.contains("is missing")) << r.err.toStdString();
     QFile::setPermissions(locked.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                              QFile::ReadOther | QFile::ExeOther);
+}
+
+} // namespace
+
+namespace {
+
+// Channel rows whose validator row is gone, and a validator without channel rows, as older
+// versions left them after a crash: the check names both, the repair removes the orphan rows
+// (a copy kept) and keeps the validator, saying so; the window offers the repair.
+TEST(Commit, OrphansAndChannellessValidatorsFoundAndRepaired)
+{
+    QTemporaryDir dir;
+    {
+        RecordingPrompt prompt;
+        TDBModule db;
+        ASSERT_TRUE(db.open(dir.path()));
+        ValidatorStore store(db, prompt);
+        for (int g : {1, 2, 3})
+            ASSERT_EQ(store.store(imageOf(g), QStringLiteral("V%1").arg(g), {}),
+                      ValidatorStore::Outcome::Stored);
+        // what a crash between the two commits of an older version left
+        DbfTable &validators = *db.Gettoniere();
+        DbfTable &channels = *db.Channel();
+        ASSERT_TRUE(validators.deleteRecord(
+            validators.locate(QStringLiteral("IDENT"), QStringLiteral("V1"))));
+        ASSERT_TRUE(validators.commit());
+        for (int r : channels.locateAll(QStringLiteral("MONNAYEUR"), QStringLiteral("V2")))
+            ASSERT_TRUE(channels.deleteRecord(r));
+        ASSERT_TRUE(channels.commit());
+    }
+    const QList<TableRepair::Result> checked = TableRepair(dir.path()).check();
+    ASSERT_EQ(checked.size(), 7);
+    EXPECT_EQ(checked.at(5).state, TableRepair::State::Orphans);
+    EXPECT_EQ(checked.at(5).text(),
+              messageText(Msg::RepairOrphanChannels, {QStringLiteral("Canaux.dbf"),
+                                                      QStringLiteral("60"), QStringLiteral("V1")}));
+    EXPECT_FALSE(checked.at(5).sound());
+    EXPECT_EQ(checked.at(6).state, TableRepair::State::ChannelsMissing);
+    EXPECT_TRUE(checked.at(6).text().contains(QLatin1String("V2")));
+    TableRepairModel window(dir.path(), nullptr);
+    EXPECT_TRUE(window.lines().contains(checked.at(5).text()));
+    EXPECT_TRUE(window.controls().state(QStringLiteral("BtnRepair")).enabled);
+
+    const ToolRun repaired =
+        runTool(QStringLiteral(TARVIK_CLI_PATH),
+                {QStringLiteral("--data-dir"), dir.path(), QStringLiteral("repair")});
+    EXPECT_EQ(repaired.exitCode, 0) << repaired.out.toStdString() << repaired.err.toStdString();
+    EXPECT_TRUE(repaired.out.contains("60 channel rows of no stored validator removed"))
+        << repaired.out.toStdString();
+    EXPECT_TRUE(repaired.out.contains("validators without channel rows: V2"));
+
+    const QList<TableRepair::Result> after = TableRepair(dir.path()).check();
+    ASSERT_EQ(after.size(), 6);
+    EXPECT_EQ(after.at(5).state, TableRepair::State::ChannelsMissing);
+    RecordingPrompt prompt;
+    TDBModule db;
+    ASSERT_TRUE(db.open(dir.path()));
+    ValidatorStore store(db, prompt);
+    EXPECT_EQ(generationOf(store, QStringLiteral("V3")), 3);
+    EXPECT_EQ(db.Channel()->liveRows().size(), std::size_t(60));
+    // the rows removed are kept in the copy
+    const QStringList backups = QDir(QDir(dir.path()).filePath(QStringLiteral("backups")))
+                                    .entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    ASSERT_EQ(backups.size(), 1);
+    DbfTable copy;
+    ASSERT_TRUE(copy.openBytes(readAll(QDir(dir.path())
+                                           .filePath(QStringLiteral("backups/") + backups.first() +
+                                                     QStringLiteral("/Canaux.dbf"))),
+                               {}, &TableSchema::channel()));
+    EXPECT_EQ(copy.locateAll(QStringLiteral("MONNAYEUR"), QStringLiteral("V1")).size(),
+              std::size_t(60));
 }
 
 } // namespace

@@ -175,7 +175,10 @@ TEST_F(DamagedTablesTest, RepairKeepsExactlyTheReadableRecords)
 
         TableRepair repair(dataDir);
         const QList<TableRepair::Result> results = repair.repair();
-        ASSERT_EQ(results.size(), 5);
+        // and a line for validators whose every channel row was lost, when there are
+        ASSERT_GE(results.size(), 5);
+        for (qsizetype i = 5; i < results.size(); ++i)
+            EXPECT_EQ(results.at(i).state, TableRepair::State::ChannelsMissing);
         const TableRepair::Result &r = results.at(1);
         EXPECT_EQ(r.state, TableRepair::State::Repaired) << r.text().toStdString();
         EXPECT_EQ(r.problem, d.problem);
@@ -238,8 +241,11 @@ TEST_F(DamagedTablesTest, RepairKeepsExactlyTheReadableRecords)
 
         const QByteArray fixedIndex = readAll(path(s.indexFileName));
         TableRepair again(dataDir);
-        for (const TableRepair::Result &result : again.repair())
-            EXPECT_EQ(result.state, TableRepair::State::Sound) << result.text().toStdString();
+        for (const TableRepair::Result &result : again.repair()) {
+            if (result.state != TableRepair::State::ChannelsMissing) { // said, kept
+                EXPECT_EQ(result.state, TableRepair::State::Sound) << result.text().toStdString();
+            }
+        }
         EXPECT_TRUE(again.backupDirectory().isEmpty());
         EXPECT_EQ(readAll(path(s.fileName)), repaired);
         EXPECT_EQ(readAll(path(s.indexFileName)), fixedIndex);
