@@ -1146,6 +1146,34 @@
         <source>... and %d more.</source>
         <translation>... und %d weitere.</translation>
     </message>
+    <message>
+        <source>%s is locked by %s: waiting at most %s s</source>
+        <translation>%s ist von %s gesperrt: es wird höchstens %s s gewartet</translation>
+    </message>
+    <message>
+        <source>%s: waited %s s for %s holding the lock; nothing read</source>
+        <translation>%s: %s s auf %s gewartet, das die Sperre hält; nichts wurde gelesen</translation>
+    </message>
+    <message>
+        <source>%s is not a file (a folder, a pipe or a device): it is not opened</source>
+        <translation>%s ist keine Datei (ein Ordner, eine Pipe oder ein Gerät): sie wird nicht geöffnet</translation>
+    </message>
+    <message>
+        <source>The data directory %s cannot be read: %s</source>
+        <translation>Das Datenverzeichnis %s kann nicht gelesen werden: %s</translation>
+    </message>
+    <message>
+        <source>%s holds %s channel rows of no stored validator: %s</source>
+        <translation>%s enthält %s Kanalzeilen ohne gespeicherten Münzprüfer: %s</translation>
+    </message>
+    <message>
+        <source>%s holds validators without channel rows: %s; they are kept and open with every channel empty</source>
+        <translation>%s enthält Münzprüfer ohne Kanalzeilen: %s; sie bleiben erhalten und öffnen sich mit allen Kanälen leer</translation>
+    </message>
+    <message>
+        <source>%s: %s channel rows of no stored validator removed (copies in %s)</source>
+        <translation>%s: %s Kanalzeilen ohne gespeicherten Münzprüfer entfernt (Kopien in %s)</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

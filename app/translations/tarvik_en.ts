@@ -1146,6 +1146,34 @@
         <source>... and %d more.</source>
         <translation>... and %d more.</translation>
     </message>
+    <message>
+        <source>%s is locked by %s: waiting at most %s s</source>
+        <translation>%s is locked by %s: waiting at most %s s</translation>
+    </message>
+    <message>
+        <source>%s: waited %s s for %s holding the lock; nothing read</source>
+        <translation>%s: waited %s s for %s holding the lock; nothing read</translation>
+    </message>
+    <message>
+        <source>%s is not a file (a folder, a pipe or a device): it is not opened</source>
+        <translation>%s is not a file (a folder, a pipe or a device): it is not opened</translation>
+    </message>
+    <message>
+        <source>The data directory %s cannot be read: %s</source>
+        <translation>The data directory %s cannot be read: %s</translation>
+    </message>
+    <message>
+        <source>%s holds %s channel rows of no stored validator: %s</source>
+        <translation>%s holds %s channel rows of no stored validator: %s</translation>
+    </message>
+    <message>
+        <source>%s holds validators without channel rows: %s; they are kept and open with every channel empty</source>
+        <translation>%s holds validators without channel rows: %s; they are kept and open with every channel empty</translation>
+    </message>
+    <message>
+        <source>%s: %s channel rows of no stored validator removed (copies in %s)</source>
+        <translation>%s: %s channel rows of no stored validator removed (copies in %s)</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -1146,6 +1146,34 @@
         <source>... and %d more.</source>
         <translation>... et %d de plus.</translation>
     </message>
+    <message>
+        <source>%s is locked by %s: waiting at most %s s</source>
+        <translation>%s est verrouillé par %s : attente de %s s au plus</translation>
+    </message>
+    <message>
+        <source>%s: waited %s s for %s holding the lock; nothing read</source>
+        <translation>%s : %s s d&apos;attente de %s qui détient le verrou ; rien n&apos;a été lu</translation>
+    </message>
+    <message>
+        <source>%s is not a file (a folder, a pipe or a device): it is not opened</source>
+        <translation>%s n&apos;est pas un fichier (un dossier, un tube ou un périphérique) : il n&apos;est pas ouvert</translation>
+    </message>
+    <message>
+        <source>The data directory %s cannot be read: %s</source>
+        <translation>Le répertoire de données %s ne peut pas être lu : %s</translation>
+    </message>
+    <message>
+        <source>%s holds %s channel rows of no stored validator: %s</source>
+        <translation>%s contient %s lignes de canaux d&apos;aucun monnayeur enregistré : %s</translation>
+    </message>
+    <message>
+        <source>%s holds validators without channel rows: %s; they are kept and open with every channel empty</source>
+        <translation>%s contient des monnayeurs sans lignes de canaux : %s ; ils sont conservés et s&apos;ouvrent avec tous les canaux vides</translation>
+    </message>
+    <message>
+        <source>%s: %s channel rows of no stored validator removed (copies in %s)</source>
+        <translation>%s : %s lignes de canaux d&apos;aucun monnayeur enregistré supprimées (copies dans %s)</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

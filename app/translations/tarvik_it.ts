@@ -1146,6 +1146,34 @@
         <source>... and %d more.</source>
         <translation>... e altre %d.</translation>
     </message>
+    <message>
+        <source>%s is locked by %s: waiting at most %s s</source>
+        <translation>%s è bloccato da %s: attesa di al massimo %s s</translation>
+    </message>
+    <message>
+        <source>%s: waited %s s for %s holding the lock; nothing read</source>
+        <translation>%s: attesi %s s per %s che detiene il blocco; non è stato letto nulla</translation>
+    </message>
+    <message>
+        <source>%s is not a file (a folder, a pipe or a device): it is not opened</source>
+        <translation>%s non è un file (una cartella, una pipe o un dispositivo): non viene aperto</translation>
+    </message>
+    <message>
+        <source>The data directory %s cannot be read: %s</source>
+        <translation>La cartella dei dati %s non può essere letta: %s</translation>
+    </message>
+    <message>
+        <source>%s holds %s channel rows of no stored validator: %s</source>
+        <translation>%s contiene %s righe di canali di nessuna gettoniera memorizzata: %s</translation>
+    </message>
+    <message>
+        <source>%s holds validators without channel rows: %s; they are kept and open with every channel empty</source>
+        <translation>%s contiene gettoniere senza righe di canali: %s; sono conservate e si aprono con tutti i canali vuoti</translation>
+    </message>
+    <message>
+        <source>%s: %s channel rows of no stored validator removed (copies in %s)</source>
+        <translation>%s: %s righe di canali di nessuna gettoniera memorizzata rimosse (copie in %s)</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
