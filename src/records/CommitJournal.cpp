@@ -68,6 +68,25 @@ QString write(const std::vector<Step> &steps, State state, QString *error)
                                   {QStringLiteral("decided"), state == State::Decided},
                                   {QStringLiteral("tables"), tables}})
             .toJson(QJsonDocument::Indented);
+    if (state == State::Prepared) {
+        // Not flushed: it matters after a crash of the program, when the system still holds
+        // it. Lost to a power cut, it leaves rows after the count, which the count hides from
+        // Tarvik and from readers that honour it, as any commit cut short before.
+        QFile file(temp);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
+            file.write(bytes) != bytes.size()) {
+            *error = file.errorString();
+            file.close();
+            QFile::remove(temp);
+            return {};
+        }
+        file.close();
+        if (!DurableFile::replace(temp, journal, error)) {
+            QFile::remove(temp);
+            return {};
+        }
+        return journal;
+    }
     if (!DurableFile::write(temp, bytes, error) || !DurableFile::replace(temp, journal, error)) {
         QFile::remove(temp);
         return {};
@@ -104,7 +123,20 @@ bool read(const QString &journal, std::vector<Step> *steps, State *state)
     return !steps->empty();
 }
 
-Applied apply(const Step &s, QString *error)
+void syncDirectories(const std::vector<Step> &steps)
+{
+    // Renamed tables only: a lost index rename leaves an index the next open finds stale.
+    QStringList dirs;
+    for (const Step &s : steps) {
+        const QString dir = QFileInfo(s.table).absolutePath();
+        if (!s.tableTemp.isEmpty() && !dirs.contains(dir))
+            dirs.append(dir);
+    }
+    for (const QString &dir : std::as_const(dirs))
+        DurableFile::syncDirectory(dir);
+}
+
+Applied apply(const Step &s, QString *error, bool durable)
 {
     using Hook = DbfTable::HookAction;
     if (s.length >= 0 && s.tableTemp.isEmpty()) {
@@ -123,7 +155,8 @@ Applied apply(const Step &s, QString *error)
                 return Applied::Crashed;
             if (action == Hook::Fail || !DurableFile::replace(s.tableTemp, s.table, error))
                 return Applied::Failed;
-            DurableFile::syncDirectory(QFileInfo(s.table).absolutePath());
+            if (durable)
+                DurableFile::syncDirectory(QFileInfo(s.table).absolutePath());
         }
     }
     if (!s.index.isEmpty() && QFileInfo::exists(s.indexTemp)) {
@@ -163,7 +196,7 @@ bool complete(const QString &journal, QString *error)
     }
     for (const Step &s : steps) {
         QString why;
-        const Applied applied = apply(s, &why);
+        const Applied applied = apply(s, &why, false);
         if (applied == Applied::Crashed)
             return false;
         if (applied == Applied::Failed) {
@@ -171,11 +204,12 @@ bool complete(const QString &journal, QString *error)
             return false;
         }
     }
+    syncDirectories(steps);
     const DbfTable::HookAction action = step(DbfTable::CommitStep::RemoveJournal);
     if (action == DbfTable::HookAction::Crash)
         return false;
+    // Should the removal be lost, the journal is completed again, which changes nothing.
     QFile::remove(journal);
-    DurableFile::syncDirectory(QFileInfo(journal).absolutePath());
     return true;
 }
 

@@ -48,8 +48,8 @@ enum class State
 
 // The suffix of journal files.
 QString suffix();
-// Writes the journal of steps beside the first table, durably, replacing the one there; its
-// path, empty on failure (error set).
+// Writes the journal of steps beside the first table, replacing the one there (a decided one
+// flushed to the disk with its directory); its path, empty on failure (error set).
 QString write(const std::vector<Step> &steps, State state, QString *error);
 // The steps a journal names; false when it cannot be read.
 bool read(const QString &journal, std::vector<Step> *steps, State *state = nullptr);
@@ -64,8 +64,12 @@ enum class Applied
     Failed,    // nothing was made visible (error set)
     Crashed    // stopped by the test seam, leaving the files as a power cut would
 };
-// Makes one step visible: the table first, then its index.
-Applied apply(const Step &step, QString *error);
+// Makes one step visible: the table first, then its index. With durable, a renamed table's
+// directory is flushed; under a journal it is flushed once for all (syncDirectories()) before
+// the journal goes, as a rename lost to a power cut is done again from the journal.
+Applied apply(const Step &step, QString *error, bool durable = true);
+// Flushes the directories of the tables the steps renamed, each once.
+void syncDirectories(const std::vector<Step> &steps);
 // The journals left in the directories of these tables (target paths) that name any of them.
 QStringList pendingFor(const QStringList &tables);
 // The tables a journal names, in lock order.

@@ -178,9 +178,13 @@ bool DbfTable::commitLocked()
     if (!journal.isEmpty()) {
         if (step(CommitStep::RemoveJournal) == HookAction::Crash)
             return false;
-        // Not yet counted, the rows go again; counted, the journal has nothing left to do.
+        // Not counted, the rows go again; counted, the journal has nothing left to do (and
+        // should its removal be lost, the next program finds the count counting them).
         QString ignored;
-        CommitJournal::complete(journal, &ignored);
+        if (applied == CommitJournal::Applied::Failed)
+            CommitJournal::complete(journal, &ignored);
+        else
+            QFile::remove(journal);
     }
     return finishCommit(plan, std::move(newRows), applied, why);
 }
@@ -407,7 +411,7 @@ bool DbfTable::commitTogether(std::initializer_list<DbfTable *> tables, QString 
     bool ok = true;
     for (std::size_t i = 0; i < changing.size(); ++i) {
         why.clear();
-        const CommitJournal::Applied applied = CommitJournal::apply(plans[i], &why);
+        const CommitJournal::Applied applied = CommitJournal::apply(plans[i], &why, false);
         if (applied == CommitJournal::Applied::Crashed)
             return false;
         if (applied == CommitJournal::Applied::Failed) {
@@ -421,10 +425,12 @@ bool DbfTable::commitTogether(std::initializer_list<DbfTable *> tables, QString 
     }
     if (!ok)
         return false;
+    // The renames are made durable before the journal that would redo them goes; should its
+    // removal be lost, completing it again changes nothing.
+    CommitJournal::syncDirectories(plans);
     if (step(CommitStep::RemoveJournal) == HookAction::Crash)
         return false;
     QFile::remove(journal);
-    DurableFile::syncDirectory(QFileInfo(journal).absolutePath());
     return true;
 }
 
