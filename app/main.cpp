@@ -13,12 +13,15 @@
 #include "SimulatorPanel.h"
 #include "TCommunication.h"
 #include "TDBModule.h"
+#include "TableLock.h"
+
 #include "TFormData.h"
 #include "TFormMain.h"
 #include "TFormRepair.h"
 #include "TableRepairModel.h"
 #include "UnattendedRuns.h"
 #include "VirtualValidator.h"
+#include <QDebug>
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -108,6 +111,10 @@ int main(int argc, char *argv[])
     // The editor stores validators in the tables of the data module; the main window frees the
     // module on Exit, after the last editor has closed.
     TDBModule *dataModule = nullptr;
+    // A lock not free after a second is said where a script's output goes; the window cannot
+    // repaint while it waits, and the message after the one bounded wait goes through the
+    // prompt.
+    TableLock::setWaitNotice([](const QString &text) { qWarning().noquote() << text; });
     context.createDataModule = [&prompt, &dataModule]() -> std::shared_ptr<void> {
         // Tables that cannot be opened have been reported; the program goes on without them.
         auto module = std::make_shared<TDBModule>();

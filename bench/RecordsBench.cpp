@@ -115,6 +115,37 @@ int main(int argc, char **argv)
     report("locate (validator+channels)", locates);
     report("load", loads);
 
+    // What one save costs on the full channel table: a new validator (the channel rows are
+    // appended) and an overwrite of a stored one (its rows are replaced), each one commit of
+    // both tables.
+    {
+        struct YesPrompt final : UserPrompt
+        {
+            void tell(const QString &, Kind) override {}
+            Answer ask(const QString &, Kind, Buttons) override { return Answer::Yes; }
+        } yes;
+        ValidatorStore overwriter(db, yes);
+        std::vector<qint64> saves, overwrites;
+        for (int i = 0; i < 30; ++i) {
+            image.prices[2] = quint8(i);
+            timer.start();
+            if (overwriter.store(image, QStringLiteral("SAVE %1").arg(i), QStringLiteral("x")) !=
+                ValidatorStore::Outcome::Stored)
+                return 1;
+            saves.push_back(timer.nsecsElapsed());
+            const QString ident =
+                QStringLiteral("%1 %2").arg(stem).arg((i * 31) % count, 5, 10, QLatin1Char('0'));
+            timer.start();
+            if (overwriter.store(image, ident, QStringLiteral("again")) !=
+                ValidatorStore::Outcome::Stored)
+                return 1;
+            overwrites.push_back(timer.nsecsElapsed());
+        }
+        std::printf("one save on %d channel rows\n", db.Channel()->recordCount());
+        report("save (new validator)", saves);
+        report("save (overwrite)", overwrites);
+    }
+
     // Another program holds the tables open: this one's stores do not wait for it.
     TDBModule other;
     if (!other.open(dir)) {

@@ -1,4 +1,5 @@
 #include "CliContext.h"
+#include "TableLock.h"
 
 #include "PortChoice.h"
 
@@ -155,7 +156,13 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     }
     const CliCommand command = table.value(args.takeFirst());
     CliContext context(options, out, err, progressToTerminal);
+    // The locks the command takes wait in all at most the one bound, and a wait of more than a
+    // second is said.
+    const TableLock::WaitBudget wait;
+    TableLock::setWaitNotice(
+        [&err](const QString &text) { err << "tarvik-cli: " << text << Qt::endl; });
     const int code = command.run(context, args);
+    TableLock::setWaitNotice({});
     if (code == kExitUsage)
         err << "usage: tarvik-cli " << command.usage << Qt::endl;
     return code == kExitTrouble ? kExitUsage : code;

@@ -140,6 +140,13 @@ enum class Msg
     RecordsDamagedRefused,
     RecordsUnreadable,
     RecordsNotOpen,
+    RecordsLockWaiting,
+    RecordsLockWaitRead,
+    RecordsNotRegularFile,
+    RecordsDirectoryUnreadable,
+    RepairOrphanChannels,
+    RepairChannelless,
+    RepairOrphansRemoved,
     // repairing the tables
     RepairSound,
     RepairDone,

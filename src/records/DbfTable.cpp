@@ -31,6 +31,15 @@ QString DbfTable::findInDirectory(const QString &dir, const QString &name)
     return exact;
 }
 
+QString DbfTable::targetOf(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.isSymLink())
+        return path;
+    const QString target = info.canonicalFilePath();
+    return target.isEmpty() ? info.symLinkTarget() : target;
+}
+
 void DbfTable::setCommitHook(CommitHook hook)
 {
     commitHook() = std::move(hook);
@@ -129,7 +138,8 @@ bool DbfTable::create(const QString &path, const TableSchema &schema, QString *e
 const LanguageDriver *DbfTable::peekDriver(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    // never a pipe or a device: opening one may wait for ever
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return nullptr;
     const QByteArray h = file.read(64);
     if (h.isEmpty() || (h.at(0) != 0x03 && h.at(0) != 0x04))
@@ -153,7 +163,18 @@ bool DbfTable::open(const QString &path, const TableSchema *schema)
     m_indexPath = findInDirectory(dir, schema ? schema->indexFileName
                                               : QFileInfo(m_path).completeBaseName() +
                                                     QStringLiteral(".MDX"));
-    m_permissionReadOnly = !QFileInfo(m_path).isWritable() || !QFileInfo(dir).isWritable();
+    // A pipe, a folder or a device is refused before anything opens it (opening a pipe waits
+    // for a writer).
+    for (const QString &file : {m_path, m_indexPath}) {
+        if (QFileInfo::exists(file) && !QFileInfo(file).isFile()) {
+            const QString error = messageText(Msg::RecordsNotRegularFile, {file});
+            close();
+            m_error = error;
+            return false;
+        }
+    }
+    m_permissionReadOnly = !QFileInfo(m_path).isWritable() ||
+                           !QFileInfo(QFileInfo(targetOf(m_path)).absolutePath()).isWritable();
     if (!readFromDisk()) {
         const QString error = m_error;
         close();
@@ -165,7 +186,8 @@ bool DbfTable::open(const QString &path, const TableSchema *schema)
     // Temporaries of a commit whose program ended half way go under the lock (see
     // lockForChange()): while it is free, no commit is under way.
     if (!m_readOnly && !m_indexNeedsWrite && !m_headerDirty &&
-        (QFileInfo::exists(m_path + kTempSuffix) || QFileInfo::exists(m_indexPath + kTempSuffix)) &&
+        (QFileInfo::exists(targetOf(m_path) + kTempSuffix) ||
+         QFileInfo::exists(targetOf(m_indexPath) + kTempSuffix)) &&
         lockForChange())
         unlockChange();
     if (m_indexNeedsWrite || m_headerDirty) {

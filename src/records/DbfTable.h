@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CommitJournal.h"
 #include "LanguageDriver.h"
 #include "MdxIndex.h"
 #include "TableSchema.h"
@@ -53,6 +54,15 @@ struct DbfField
 // new pair (the next commit of any program rewrites the index as well). A damaged or missing
 // index is rebuilt the same way, with a notice.
 //
+// One change of several tables (a validator's row and its channel rows) is one commit:
+// commitTogether() prepares every table as far as the step that makes it visible, writes a
+// journal naming those steps (CommitJournal), then takes them. Whoever next reads or changes one
+// of the tables first completes a journal left by a program that was killed, so the tables are
+// seen with all of the change or none of it.
+//
+// A table (or index) that is a symbolic link stays one: a commit writes its temporaries beside
+// the file the link points to and renames them over that file, and the lock is that file's.
+//
 // Damage: a file that does not hold what its header says (cut short, a count past its end, a
 // header that does not parse) opens read-only with the rows that can be read and a notice
 // saying what is wrong; a file of which nothing can be read does not open. Neither is
@@ -78,7 +88,9 @@ public:
         UpdateHeader,
         WriteTableTemp,
         ReplaceTable,
-        ReplaceIndex
+        ReplaceIndex,
+        WriteJournal, // a commit of several tables: after every table is prepared
+        RemoveJournal
     };
     enum class HookAction
     {
@@ -101,6 +113,8 @@ public:
     // The language driver of the table at path, read from its header; null when the file is
     // not a table or its driver is not one this program knows.
     static const LanguageDriver *peekDriver(const QString &path);
+    // The file a commit writes for path: the target of a symbolic link, path itself otherwise.
+    static QString targetOf(const QString &path);
     // The file called name in dir, found without regard to case (tables copied from Windows
     // keep any case); dir/name when none matches.
     static QString findInDirectory(const QString &dir, const QString &name);
@@ -190,6 +204,12 @@ public:
     bool commit();
     // Drops the pending changes.
     void rollback();
+    // Commits the pending changes of tables held by lockForChange() (or TableChangeLock) as one
+    // change: after a crash at any instant, the next program to open them sees all of it or
+    // none of it (see CommitJournal). False, with error, when nothing was changed, or when a
+    // file could not be replaced after the change was decided (the next program to take the
+    // tables completes it then).
+    static bool commitTogether(std::initializer_list<DbfTable *> tables, QString *error);
 
     // The raw bytes of a row, deletion flag included: what a change compares to see whether
     // another program changed the row since it was shown.
@@ -203,10 +223,14 @@ public:
     // it was.
     bool refresh();
     // Takes the table's exclusive lock for one change, waiting at most
-    // TableLock::waitLimitMs() for another program, and brings the table up to date. False
-    // when the wait ran out: errorString() names the table and the program holding it, and
-    // nothing may be changed.
+    // TableLock::waitLimitMs() for another program, completes a change another program left
+    // half done (CommitJournal), and brings the table up to date. False when the wait ran
+    // out: errorString() names the table and the program holding it, and nothing may be
+    // changed.
     bool lockForChange();
+    // The same for several tables, locked in their fixed order within one wait; on failure
+    // none is held and error says why.
+    static bool lockForChange(std::vector<DbfTable *> tables, QString *error);
     // Releases the lock; changes not committed are dropped.
     void unlockChange();
     bool isLockedForChange() const { return m_changeLock != nullptr; }
@@ -239,9 +263,16 @@ private:
     bool writeIndexTemp(const std::vector<std::vector<int>> &rows, QString *tempPath);
     void beginChange(int rec);
     void rememberDiskState();
-    bool readFromDisk();
+    bool readFromDisk(bool *refused = nullptr);
     void resetContent();
     bool commitLocked();
+    bool prepareCommit(CommitJournal::Step *plan, std::vector<std::vector<int>> *newRows);
+    void abandonCommit(const CommitJournal::Step &plan);
+    bool writeTail(const CommitJournal::Step &plan);
+    bool finishCommit(const CommitJournal::Step &plan, std::vector<std::vector<int>> newRows,
+                      CommitJournal::Applied applied, const QString &why);
+    bool takeChangeLock();
+    bool settleJournals();
 
     QString foldedKey(int rec, int f) const;
     struct Lookup

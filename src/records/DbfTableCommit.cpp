@@ -1,6 +1,7 @@
 #include "DbfTable.h"
 #include "DbfTableDetail.h"
 
+#include "CommitJournal.h"
 #include "DbfLayout.h"
 #include "DurableFile.h"
 #include "LanguageDriver.h"
@@ -96,7 +97,7 @@ bool DbfTable::writeIndexTemp(const std::vector<std::vector<int>> &rows, QString
     keys.reserve(rows.size());
     for (std::size_t t = 0; t < rows.size(); ++t)
         keys.push_back(tagKeys(int(t), rows[t]));
-    *tempPath = m_indexPath + kTempSuffix;
+    *tempPath = targetOf(m_indexPath) + kTempSuffix;
     QString why;
     const HookAction action = step(CommitStep::WriteIndexTemp);
     if (action == HookAction::Crash)
@@ -109,7 +110,7 @@ bool DbfTable::writeIndexTemp(const std::vector<std::vector<int>> &rows, QString
                      why.isEmpty() ? QStringLiteral("injected failure") : why});
     }
     if (QFileInfo::exists(m_indexPath))
-        QFile::setPermissions(*tempPath, QFile::permissions(m_indexPath));
+        QFile::setPermissions(*tempPath, QFile::permissions(targetOf(m_indexPath)));
     return true;
 }
 
@@ -141,17 +142,90 @@ bool DbfTable::commit()
 
 bool DbfTable::commitLocked()
 {
+    CommitJournal::Step plan;
+    std::vector<std::vector<int>> newRows;
+    if (!prepareCommit(&plan, &newRows))
+        return false;
+    // Rows appended in place are announced first, so that the next program cuts them off
+    // should this one die before the record count counts them (other readers read up to the
+    // end of the file, not up to the count).
+    QString why, journal;
+    if (!plan.tail.isEmpty()) {
+        const HookAction action = step(CommitStep::WriteJournal);
+        if (action == HookAction::Crash)
+            return false;
+        journal = action == HookAction::Fail
+                      ? QString()
+                      : CommitJournal::write({plan}, CommitJournal::State::Prepared, &why);
+        const bool written = !journal.isEmpty() && writeTail(plan);
+        if (!journal.isEmpty() && !written && m_error.isEmpty())
+            return false; // the test seam's crash
+        if (!written) {
+            if (journal.isEmpty())
+                fail(Msg::RecordsCannotWrite,
+                     {fileName(), why.isEmpty() ? QStringLiteral("injected failure") : why});
+            const QString error = m_error;
+            abandonCommit(plan);
+            if (!journal.isEmpty() && !CommitJournal::complete(journal, &why))
+                return false;
+            m_error = error;
+            return false;
+        }
+    }
+    const CommitJournal::Applied applied = CommitJournal::apply(plan, &why);
+    if (applied == CommitJournal::Applied::Crashed)
+        return false;
+    if (!journal.isEmpty()) {
+        if (step(CommitStep::RemoveJournal) == HookAction::Crash)
+            return false;
+        // Not counted, the rows go again; counted, the journal has nothing left to do (and
+        // should its removal be lost, the next program finds the count counting them).
+        QString ignored;
+        if (applied == CommitJournal::Applied::Failed)
+            CommitJournal::complete(journal, &ignored);
+        else
+            QFile::remove(journal);
+    }
+    return finishCommit(plan, std::move(newRows), applied, why);
+}
+
+// Appends the new rows after the last counted one, flushed; the count does not count them yet.
+bool DbfTable::writeTail(const CommitJournal::Step &plan)
+{
+    m_error.clear();
+    QString why;
+    const HookAction action = step(CommitStep::AppendRecords);
+    if (action == HookAction::Crash)
+        return false;
+    if (action == HookAction::Fail ||
+        !DurableFile::writeAt(plan.table, plan.restoreLength, plan.tail, &why)) {
+        return fail(Msg::RecordsCannotWrite,
+                    {fileName(), why.isEmpty() ? QStringLiteral("injected failure") : why});
+    }
+    return true;
+}
+
+// Writes everything the commit needs where no reader looks yet: the index temporary, then the
+// appended rows after the last counted one or the table's temporary, all flushed.
+bool DbfTable::prepareCommit(CommitJournal::Step *plan, std::vector<std::vector<int>> *newRows)
+{
     if (m_indexed && (quint8(m_header.at(28)) & 1) == 0) {
         m_header[28] = char(quint8(m_header.at(28)) | 1);
         m_headerDirty = true;
     }
     const QString name = fileName();
-    const QString dir = QFileInfo(m_path).absolutePath();
-    const std::vector<std::vector<int>> newRows = updatedTagRows();
+    const QString target = targetOf(m_path);
+    *newRows = updatedTagRows();
+    *plan = {};
+    plan->table = target;
 
     QString indexTemp;
-    if (m_indexed && !writeIndexTemp(newRows, &indexTemp))
+    if (m_indexed && !writeIndexTemp(*newRows, &indexTemp))
         return false;
+    if (m_indexed) {
+        plan->index = targetOf(m_indexPath);
+        plan->indexTemp = indexTemp;
+    }
     auto abandon = [&](const QString &why) {
         if (!indexTemp.isEmpty())
             QFile::remove(indexTemp);
@@ -169,51 +243,53 @@ bool DbfTable::commitLocked()
     QString why;
 
     if (tableChanged && appendOnly) {
-        QByteArray tail = m_records.mid(qint64(m_committedCount) * m_recordLength);
-        tail.append(kEndOfFile);
-        HookAction action = step(CommitStep::AppendRecords);
-        if (action == HookAction::Crash)
-            return false;
-        // A failed append (a full disk) is cut off again, the end-of-file marker put back: no
-        // other dBase reader may take its rows past the record count for live ones.
-        auto undoAppend = [&](const QString &reason) {
-            QString ignored;
-            DurableFile::truncate(m_path, committedEnd, &ignored);
-            DurableFile::writeAt(m_path, committedEnd, QByteArray(1, kEndOfFile), &ignored);
-            return abandon(reason);
-        };
-        if (action == HookAction::Fail || !DurableFile::writeAt(m_path, committedEnd, tail, &why))
-            return undoAppend(why);
-        action = step(CommitStep::UpdateHeader);
-        if (action == HookAction::Crash)
-            return false;
-        if (action == HookAction::Fail ||
-            !DurableFile::writeAt(m_path, 1, m_header.mid(1, 7), &why))
-            return undoAppend(why);
-        DurableFile::truncate(m_path, committedEnd + tail.size(), &why);
+        // written by writeTail() once the journal announces it
+        plan->tail = m_records.mid(qint64(m_committedCount) * m_recordLength);
+        plan->tail.append(kEndOfFile);
+        plan->header = m_header.mid(1, 7);
+        plan->restoreLength = committedEnd;
+        plan->length = committedEnd + plan->tail.size();
     } else if (tableChanged) {
-        const QString tableTemp = m_path + kTempSuffix;
+        const QString tableTemp = target + kTempSuffix;
         QByteArray bytes;
         bytes.reserve(m_headerLength + m_records.size() + 1);
         bytes.append(m_header).append(m_records).append(kEndOfFile);
-        HookAction action = step(CommitStep::WriteTableTemp);
+        const HookAction action = step(CommitStep::WriteTableTemp);
         if (action == HookAction::Crash)
             return false;
         if (action == HookAction::Fail || !DurableFile::write(tableTemp, bytes, &why)) {
             QFile::remove(tableTemp);
             return abandon(why);
         }
-        QFile::setPermissions(tableTemp, QFile::permissions(m_path));
-        action = step(CommitStep::ReplaceTable);
-        if (action == HookAction::Crash)
-            return false;
-        if (action == HookAction::Fail || !DurableFile::replace(tableTemp, m_path, &why)) {
-            QFile::remove(tableTemp);
-            return abandon(why);
-        }
-        DurableFile::syncDirectory(dir);
+        QFile::setPermissions(tableTemp, QFile::permissions(target));
+        plan->tableTemp = tableTemp;
+        plan->length = bytes.size();
     }
+    return true;
+}
 
+// Drops what a prepared commit wrote: the temporaries (rows after the count are ignored).
+void DbfTable::abandonCommit(const CommitJournal::Step &plan)
+{
+    if (!plan.tableTemp.isEmpty())
+        QFile::remove(plan.tableTemp);
+    if (!plan.indexTemp.isEmpty())
+        QFile::remove(plan.indexTemp);
+    rememberDiskState();
+}
+
+// Takes the commit's outcome into the table's state.
+bool DbfTable::finishCommit(const CommitJournal::Step &plan, std::vector<std::vector<int>> newRows,
+                            CommitJournal::Applied applied, const QString &why)
+{
+    const bool tableChanged = plan.length >= 0;
+    if (applied == CommitJournal::Applied::Crashed)
+        return false;
+    if (applied == CommitJournal::Applied::Failed) {
+        abandonCommit(plan);
+        return fail(Msg::RecordsCannotWrite,
+                    {fileName(), why.isEmpty() ? QStringLiteral("injected failure") : why});
+    }
     // From here on the table holds the change; the index follows it.
     rememberDiskState();
     m_committedHeader = m_header;
@@ -222,14 +298,9 @@ bool DbfTable::commitLocked()
     m_originals.clear();
     m_dirtyMark.clear();
     m_dirtyRows.clear();
-    m_tagRows = newRows;
-
+    m_tagRows = std::move(newRows);
     if (m_indexed) {
-        const HookAction action = step(CommitStep::ReplaceIndex);
-        if (action == HookAction::Crash)
-            return false;
-        if (action == HookAction::Fail || !DurableFile::replace(indexTemp, m_indexPath, &why)) {
-            QFile::remove(indexTemp);
+        if (applied == CommitJournal::Applied::TableOnly) {
             m_indexNeedsWrite = true;
             m_indexProblem = {Msg::IndexReasonEntries, {}};
             fail(Msg::RecordsCannotWrite,
@@ -239,15 +310,127 @@ bool DbfTable::commitLocked()
             if (!tableChanged)
                 return false;
         } else {
-            // No directory flush here: should a power cut undo this rename, the next open
-            // finds the old index stale and rebuilds it from the table.
             m_indexNeedsWrite = false;
             m_indexProblem = {};
         }
-        rememberDiskState();
     }
     if (tableChanged)
         Q_EMIT changed();
+    return true;
+}
+
+bool DbfTable::commitTogether(std::initializer_list<DbfTable *> tables, QString *error)
+{
+    std::vector<DbfTable *> changing;
+    for (DbfTable *t : tables) {
+        if (!t->m_open) {
+            *error = messageText(Msg::RecordsFileMissing, {t->m_path});
+            return false;
+        }
+        if (!t->hasPendingChanges() && !t->m_indexNeedsWrite)
+            continue;
+        if (t->m_readOnly || t->m_memoryOnly || !t->m_changeLock) {
+            *error = t->m_readOnly || t->m_memoryOnly
+                         ? t->m_readOnlyReason
+                         : messageText(Msg::RecordsChangedElsewhere, {t->fileName()});
+            return false;
+        }
+        changing.push_back(t);
+    }
+    if (changing.size() < 2) {
+        if (!changing.empty() && !changing.front()->commit()) {
+            *error = changing.front()->errorString();
+            return false;
+        }
+        return true;
+    }
+
+    // Everything written where no reader looks yet, then the journal decides.
+    std::vector<CommitJournal::Step> plans(changing.size());
+    std::vector<std::vector<std::vector<int>>> rows(changing.size());
+    for (std::size_t i = 0; i < changing.size(); ++i) {
+        if (!changing[i]->prepareCommit(&plans[i], &rows[i])) {
+            *error = changing[i]->errorString();
+            for (std::size_t j = 0; j < i; ++j)
+                changing[j]->abandonCommit(plans[j]);
+            return false;
+        }
+    }
+    QString why;
+    auto abandonAll = [&](const QString &journal) {
+        for (std::size_t i = 0; i < changing.size(); ++i)
+            changing[i]->abandonCommit(plans[i]);
+        QString ignored;
+        if (!journal.isEmpty())
+            CommitJournal::complete(journal, &ignored); // cuts the appended rows off again
+    };
+    auto writeJournal = [&](CommitJournal::State state) {
+        const HookAction action = step(CommitStep::WriteJournal);
+        if (action == HookAction::Crash)
+            return QStringLiteral("crash");
+        const QString journal =
+            action == HookAction::Fail ? QString() : CommitJournal::write(plans, state, &why);
+        if (journal.isEmpty())
+            *error = messageText(Msg::RecordsCannotWrite,
+                                 {changing.front()->fileName(),
+                                  why.isEmpty() ? QStringLiteral("injected failure") : why});
+        return journal;
+    };
+    // Rows appended in place are announced before they are written (see commitLocked()).
+    const bool appends = std::any_of(
+        plans.begin(), plans.end(), [](const CommitJournal::Step &p) { return !p.tail.isEmpty(); });
+    QString prepared;
+    if (appends) {
+        prepared = writeJournal(CommitJournal::State::Prepared);
+        if (prepared == QLatin1String("crash"))
+            return false;
+        if (prepared.isEmpty()) {
+            abandonAll({});
+            return false;
+        }
+        for (std::size_t i = 0; i < changing.size(); ++i) {
+            if (!plans[i].tail.isEmpty() && !changing[i]->writeTail(plans[i])) {
+                *error = changing[i]->errorString();
+                if (changing[i]->errorString().isEmpty())
+                    return false; // the test seam's crash
+                abandonAll(prepared);
+                return false;
+            }
+        }
+    }
+    // The change is decided once this journal is on the disk.
+    const QString journal = writeJournal(CommitJournal::State::Decided);
+    if (journal == QLatin1String("crash"))
+        return false;
+    if (journal.isEmpty()) {
+        abandonAll(prepared);
+        return false;
+    }
+
+    // Decided: every table takes its part, and the journal goes last.
+    bool ok = true;
+    for (std::size_t i = 0; i < changing.size(); ++i) {
+        why.clear();
+        const CommitJournal::Applied applied = CommitJournal::apply(plans[i], &why, false);
+        if (applied == CommitJournal::Applied::Crashed)
+            return false;
+        if (applied == CommitJournal::Applied::Failed) {
+            // The journal stays: the next program to take these tables completes the change.
+            *error = messageText(Msg::RecordsCannotWrite, {changing[i]->fileName(), why});
+            changing[i]->rememberDiskState();
+            ok = false;
+            continue;
+        }
+        changing[i]->finishCommit(plans[i], std::move(rows[i]), applied, why);
+    }
+    if (!ok)
+        return false;
+    // The renames are made durable before the journal that would redo them goes; should its
+    // removal be lost, completing it again changes nothing.
+    CommitJournal::syncDirectories(plans);
+    if (step(CommitStep::RemoveJournal) == HookAction::Crash)
+        return false;
+    QFile::remove(journal);
     return true;
 }
 

@@ -52,15 +52,49 @@ QByteArray DbfTable::rawRecord(int rec) const
     return QByteArray(record(rec), m_recordLength);
 }
 
+// Completes the changes other programs left half done in this table (see CommitJournal).
+bool DbfTable::settleJournals()
+{
+    const QStringList journals = CommitJournal::pendingFor({targetOf(m_path)});
+    for (const QString &journal : journals) {
+        QString why;
+        if (!CommitJournal::settle(journal, &why))
+            return fail(Msg::RecordsCannotOpen, {fileName(), why});
+    }
+    return true;
+}
+
 // Reads the table and its index and takes them as the table's content. Under the shared lock
 // no program is half way through a commit, so both are from one commit; under this table's
-// own exclusive lock no other program writes at all.
-bool DbfTable::readFromDisk()
+// own exclusive lock no other program writes at all. When the lock cannot be had within the
+// wait, nothing is read and the content stays as it was (refused is set).
+bool DbfTable::readFromDisk(bool *refused)
 {
+    const TableLock::WaitBudget budget;
     TableLock shared(m_path);
-    // A wait that runs out reads all the same: the check of the index then tells.
-    if (!m_changeLock)
-        shared.lock(TableLock::Mode::Shared);
+    auto refuse = [&] {
+        m_error = shared.errorString();
+        if (refused)
+            *refused = true;
+        return false;
+    };
+    if (!m_changeLock) {
+        if (!shared.lock(TableLock::Mode::Shared))
+            return refuse();
+        // A change of several tables that a killed program left half done is completed first.
+        if (!CommitJournal::pendingFor({targetOf(m_path)}).isEmpty()) {
+            shared.unlock();
+            if (!settleJournals()) {
+                if (refused)
+                    *refused = true;
+                return false;
+            }
+            if (!shared.lock(TableLock::Mode::Shared))
+                return refuse();
+        }
+    }
+    if (!QFileInfo(m_path).isFile())
+        return fail(Msg::RecordsNotRegularFile, {m_path});
     const DiskStamp tableStamp = stampOf(m_path);
     const DiskStamp indexStamp = stampOf(m_indexPath);
     QFile file(m_path);
@@ -70,7 +104,7 @@ bool DbfTable::readFromDisk()
     file.close();
     QByteArray indexBytes;
     bool haveIndex = false;
-    if (indexStamp.size >= 0) {
+    if (indexStamp.size >= 0 && QFileInfo(m_indexPath).isFile()) {
         QFile indexFile(m_indexPath);
         if (indexFile.open(QIODevice::ReadOnly)) {
             indexBytes = indexFile.readAll();
@@ -101,7 +135,10 @@ bool DbfTable::refresh()
         return true;
     if (!QFileInfo::exists(m_path))
         return fail(Msg::RecordsFileMissing, {m_path});
-    const bool ok = readFromDisk();
+    bool refused = false;
+    const bool ok = readFromDisk(&refused);
+    if (refused)
+        return false; // the lock was not had in time: what was read before stays
     if (!ok) {
         // What the file now holds cannot be read at all: the table is no longer open.
         const QString error = m_error;
@@ -113,10 +150,8 @@ bool DbfTable::refresh()
     return ok;
 }
 
-bool DbfTable::lockForChange()
+bool DbfTable::takeChangeLock()
 {
-    if (m_changeLock)
-        return true;
     if (!m_open || m_memoryOnly) {
         m_error = m_memoryOnly ? m_readOnlyReason : messageText(Msg::RecordsFileMissing, {m_path});
         return false;
@@ -127,14 +162,84 @@ bool DbfTable::lockForChange()
         return false;
     }
     m_changeLock = std::move(lock);
-    // Temporaries of a commit whose program ended half way: the pair on disk is the truth.
-    if (!m_permissionReadOnly) {
-        QFile::remove(m_path + kTempSuffix);
-        QFile::remove(m_indexPath + kTempSuffix);
+    return true;
+}
+
+bool DbfTable::lockForChange()
+{
+    if (m_changeLock)
+        return true;
+    QString error;
+    if (lockForChange(std::vector<DbfTable *>{this}, &error))
+        return true;
+    m_error = error;
+    return false;
+}
+
+bool DbfTable::lockForChange(std::vector<DbfTable *> tables, QString *error)
+{
+    const TableLock::WaitBudget budget;
+    std::sort(tables.begin(), tables.end(), [](const DbfTable *a, const DbfTable *b) {
+        return targetOf(a->filePath()) < targetOf(b->filePath());
+    });
+    QStringList targets;
+    for (const DbfTable *table : tables)
+        targets.append(targetOf(table->filePath()));
+    auto release = [&](std::size_t n) {
+        for (std::size_t i = 0; i < n; ++i)
+            tables[i]->m_changeLock.reset();
+    };
+    for (;;) {
+        for (std::size_t i = 0; i < tables.size(); ++i) {
+            if (!tables[i]->takeChangeLock()) {
+                *error = tables[i]->m_error;
+                release(i);
+                return false;
+            }
+        }
+        // A change that a killed program left half done is completed before anything else;
+        // one that also names tables not held here is completed under its own locks.
+        const QStringList journals = CommitJournal::pendingFor(targets);
+        const bool allHeld =
+            std::all_of(journals.begin(), journals.end(), [&](const QString &journal) {
+                const QStringList named = CommitJournal::tablesOf(journal);
+                return std::all_of(named.begin(), named.end(),
+                                   [&](const QString &t) { return targets.contains(t); });
+            });
+        if (allHeld) {
+            for (const QString &journal : journals) {
+                QString why;
+                if (!CommitJournal::complete(journal, &why)) {
+                    *error =
+                        messageText(Msg::RecordsCannotWrite, {QFileInfo(journal).fileName(), why});
+                    release(tables.size());
+                    return false;
+                }
+            }
+            break;
+        }
+        release(tables.size());
+        for (const QString &journal : journals) {
+            if (!CommitJournal::settle(journal, error))
+                return false;
+        }
     }
-    if (!refresh()) {
-        unlockChange();
-        return false;
+    for (std::size_t i = 0; i < tables.size(); ++i) {
+        DbfTable *table = tables[i];
+        // Temporaries of a commit whose program ended before it was decided: the tables on disk
+        // are the truth.
+        if (!table->m_permissionReadOnly) {
+            const QString target = targetOf(table->m_path);
+            QFile::remove(target + kTempSuffix);
+            QFile::remove(targetOf(table->m_indexPath) + kTempSuffix);
+            QFile::remove(target + CommitJournal::suffix() + kTempSuffix);
+        }
+        if (!table->refresh()) {
+            *error = table->errorString();
+            for (DbfTable *t : tables)
+                t->unlockChange();
+            return false;
+        }
     }
     return true;
 }
@@ -148,23 +253,13 @@ void DbfTable::unlockChange()
 
 TableChangeLock::TableChangeLock(std::initializer_list<DbfTable *> tables)
 {
-    std::vector<DbfTable *> order(tables);
-    std::sort(order.begin(), order.end(),
-              [](const DbfTable *a, const DbfTable *b) { return a->filePath() < b->filePath(); });
-    for (DbfTable *table : order) {
-        if (table->isLockedForChange())
-            continue; // held by whoever locked it
-        if (!table->lockForChange()) {
-            m_error = table->errorString();
-            break;
-        }
-        m_held.push_back(table);
+    std::vector<DbfTable *> wanted;
+    for (DbfTable *table : tables) {
+        if (!table->isLockedForChange()) // held by whoever locked it
+            wanted.push_back(table);
     }
-    if (!m_error.isEmpty()) {
-        for (DbfTable *table : m_held)
-            table->unlockChange();
-        m_held.clear();
-    }
+    if (DbfTable::lockForChange(wanted, &m_error))
+        m_held = wanted;
 }
 
 TableChangeLock::~TableChangeLock()
@@ -175,18 +270,34 @@ TableChangeLock::~TableChangeLock()
 
 TableReadLock::TableReadLock(std::initializer_list<DbfTable *> tables)
 {
+    const TableLock::WaitBudget budget;
     std::vector<DbfTable *> order;
+    QStringList targets;
     for (DbfTable *table : tables) {
-        if (table->isOpen() && !table->isLockedForChange())
+        if (table->isOpen() && !table->isLockedForChange()) {
             order.push_back(table);
+            targets.append(DbfTable::targetOf(table->filePath()));
+        }
     }
-    std::sort(order.begin(), order.end(),
-              [](const DbfTable *a, const DbfTable *b) { return a->filePath() < b->filePath(); });
-    for (DbfTable *table : order) {
-        auto lock = std::make_unique<TableLock>(table->filePath());
-        // a wait that runs out reads all the same, as a single table does
-        if (lock->lock(TableLock::Mode::Shared))
-            m_locks.push_back(std::move(lock));
+    std::sort(order.begin(), order.end(), [](const DbfTable *a, const DbfTable *b) {
+        return DbfTable::targetOf(a->filePath()) < DbfTable::targetOf(b->filePath());
+    });
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        for (DbfTable *table : order) {
+            auto lock = std::make_unique<TableLock>(table->filePath());
+            // a wait that runs out is said by the reading that follows
+            if (lock->lock(TableLock::Mode::Shared))
+                m_locks.push_back(std::move(lock));
+        }
+        // Changes a killed program left half done are completed before the tables are read.
+        const QStringList journals = CommitJournal::pendingFor(targets);
+        if (journals.isEmpty())
+            break;
+        m_locks.clear();
+        for (const QString &journal : journals) {
+            QString why;
+            CommitJournal::settle(journal, &why);
+        }
     }
 }
 

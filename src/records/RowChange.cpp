@@ -2,6 +2,7 @@
 
 #include "DbfTable.h"
 #include "Messages.h"
+#include "TableLock.h"
 #include "UserPrompt.h"
 
 namespace RowChange {
@@ -19,6 +20,7 @@ int sameRow(const DbfTable &table, const QString &keyField, const QString &key,
 Result save(DbfTable &table, const QString &keyField, const QString &key, UserPrompt &prompt,
             const std::function<bool(int row)> &fill, QString *error)
 {
+    const TableLock::WaitBudget wait; // one bounded wait for the whole change
     auto overwrite = [&] {
         return prompt.ask(messageText(Msg::ExistOverwrite, {key}), UserPrompt::Kind::Warning,
                           UserPrompt::Buttons::YesNo) == UserPrompt::Answer::Yes;
@@ -60,6 +62,7 @@ Result save(DbfTable &table, const QString &keyField, const QString &key, UserPr
 Result remove(DbfTable &table, const QString &keyField, int shown, UserPrompt &prompt,
               QString *error)
 {
+    const TableLock::WaitBudget wait; // one bounded wait for the whole change
     const QString key = table.text(shown, keyField);
     QByteArray bytes = table.rawRecord(shown);
     for (;;) {

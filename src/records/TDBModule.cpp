@@ -9,7 +9,14 @@
 #include "UserPrompt.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+
+#ifndef Q_OS_WIN
+#include <cerrno>
+#include <cstring>
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -28,6 +35,19 @@ const LanguageDriver &sharedDriver(const QString &dir)
         shared = driver;
     }
     return shared ? *shared : LanguageDriver::standard();
+}
+
+bool directoryReadable(const QString &dir, QString *why)
+{
+#ifdef Q_OS_WIN
+    *why = QStringLiteral("access denied");
+    return QDir(dir).isReadable();
+#else
+    if (::access(QFile::encodeName(dir).constData(), R_OK | X_OK) == 0)
+        return true;
+    *why = QString::fromLocal8Bit(std::strerror(errno));
+    return false;
+#endif
 }
 
 } // namespace
@@ -51,6 +71,7 @@ TDBModule::~TDBModule()
 bool TDBModule::open(const QString &dataDir, UserPrompt *prompt)
 {
     close();
+    const TableLock::WaitBudget wait; // one bounded wait for all the tables
     m_dir = QDir::cleanPath(QFileInfo(dataDir).absoluteFilePath());
     QStringList errors;
 
@@ -62,6 +83,12 @@ bool TDBModule::open(const QString &dataDir, UserPrompt *prompt)
             createdDirectory = true;
         }
     }
+    // A directory that cannot be listed is said as such, not as five missing tables.
+    QString why;
+    const bool unreadable = errors.isEmpty() && !directoryReadable(m_dir, &why);
+    if (unreadable)
+        errors.append(
+            messageText(Msg::RecordsDirectoryUnreadable, {QDir::toNativeSeparators(m_dir), why}));
     QStringList created;
     const QList<const TableSchema *> schemas = TableSchema::all();
     if (errors.isEmpty()) {
@@ -96,7 +123,7 @@ bool TDBModule::open(const QString &dataDir, UserPrompt *prompt)
         m_notices.append(
             messageText(Msg::RecordsTablesCreated, {m_dir, created.join(QStringLiteral(", "))}));
 
-    for (std::size_t i = 0; i < m_tables.size(); ++i) {
+    for (std::size_t i = 0; i < m_tables.size() && !unreadable; ++i) {
         const TableSchema *schema = schemas.at(qsizetype(i));
         DbfTable &table = *m_tables[i];
         if (!table.open(DbfTable::findInDirectory(m_dir, schema->fileName), schema)) {
@@ -158,6 +185,7 @@ bool TDBModule::deleteValidator(int rec, bool *changedMeanwhile)
         return false;
     const QString ident = validators.text(rec, QStringLiteral("IDENT"));
     const QByteArray shown = validators.rawRecord(rec);
+    const TableLock::WaitBudget wait;
     TableChangeLock lock({&validators, &channels});
     if (!lock.ok()) {
         m_error = lock.errorString();
@@ -172,20 +200,17 @@ bool TDBModule::deleteValidator(int rec, bool *changedMeanwhile)
         return false;
     }
     const bool ok = GettoniereBeforeDelete(rec) && validators.deleteRecord(rec);
-    if (!ok || !channels.commit()) {
-        m_error = ok ? channels.errorString()
-                     : (channels.isReadOnly() ? channels.errorString() : validators.errorString());
+    if (!ok) {
+        m_error = channels.isReadOnly() ? channels.errorString() : validators.errorString();
         return false;
     }
-    if (!validators.commit()) {
-        m_error = validators.errorString();
-        return false;
-    }
-    return true;
+    // One commit of both tables: after a crash the validator is there whole or gone whole.
+    return DbfTable::commitTogether({&validators, &channels}, &m_error);
 }
 
 void TDBModule::refresh()
 {
+    const TableLock::WaitBudget wait;
     const TableReadLock together({Gettoniere(), Channel(), DemTable(), DetTablle(), ValueTable()});
     for (auto &table : m_tables)
         table->refresh();
@@ -193,6 +218,7 @@ void TDBModule::refresh()
 
 void TDBModule::refreshValidators()
 {
+    const TableLock::WaitBudget wait;
     const TableReadLock together({Gettoniere(), Channel()});
     Gettoniere()->refresh();
     Channel()->refresh();

@@ -33,6 +33,21 @@ QString noteOf(const QString &lockPath)
     return lockPath + QStringLiteral(".who");
 }
 
+std::function<void(const QString &)> &waitNotice()
+{
+    static std::function<void(const QString &)> notice;
+    return notice;
+}
+
+// The wait of the operation under way on this thread.
+struct Budget
+{
+    int depth = 0;
+    qint64 waitedMs = 0;
+    bool told = false;
+};
+thread_local Budget budget;
+
 } // namespace
 
 TableLock::TableLock(const QString &tablePath)
@@ -46,7 +61,27 @@ TableLock::~TableLock()
 
 QString TableLock::lockPathOf(const QString &tablePath)
 {
-    return tablePath + QStringLiteral(".lck");
+    const QFileInfo info(tablePath);
+    if (!info.isSymLink())
+        return tablePath + QStringLiteral(".lck");
+    const QString target = info.canonicalFilePath();
+    return (target.isEmpty() ? info.symLinkTarget() : target) + QStringLiteral(".lck");
+}
+
+void TableLock::setWaitNotice(std::function<void(const QString &)> notice)
+{
+    waitNotice() = std::move(notice);
+}
+
+TableLock::WaitBudget::WaitBudget() : m_outermost(budget.depth++ == 0)
+{
+    if (m_outermost)
+        budget = {1, 0, false};
+}
+
+TableLock::WaitBudget::~WaitBudget()
+{
+    --budget.depth;
 }
 
 int TableLock::waitLimitMs()
@@ -110,29 +145,49 @@ bool TableLock::lock(Mode mode, int waitMs)
     unlock();
     m_waited = 0;
     m_error.clear();
+    const bool inBudget = budget.depth > 0 && waitMs < 0;
     if (waitMs < 0)
-        waitMs = waitLimitMs();
+        waitMs =
+            inBudget ? int(std::max<qint64>(0, waitLimitMs() - budget.waitedMs)) : waitLimitMs();
     if (!openFile()) {
         m_error = messageText(Msg::RecordsCannotWrite, {QFileInfo(m_lockPath).fileName(), m_error});
         return false;
     }
+    const QString name = QFileInfo(m_tablePath).fileName();
+    auto whoHolds = [this] {
+        const QString who = holder();
+        return who.isEmpty() ? messageText(Msg::RecordsLockHolderUnknown) : who;
+    };
     QElapsedTimer clock;
     clock.start();
     int pause = 1;
+    bool told = inBudget && budget.told;
     while (!tryLock(mode)) {
-        if (clock.elapsed() >= waitMs) {
-            m_waited = double(clock.elapsed()) / 1000.0;
-            const QString who = holder();
-            m_error =
-                messageText(Msg::RecordsLockWait,
-                            {QFileInfo(m_tablePath).fileName(), QString::number(m_waited, 'f', 1),
-                             who.isEmpty() ? messageText(Msg::RecordsLockHolderUnknown) : who});
+        const qint64 elapsed = clock.elapsed();
+        if (elapsed >= waitMs) {
+            if (inBudget)
+                budget.waitedMs += elapsed;
+            m_waited = double(inBudget ? budget.waitedMs : elapsed) / 1000.0;
+            m_error = messageText(mode == Mode::Exclusive ? Msg::RecordsLockWait
+                                                          : Msg::RecordsLockWaitRead,
+                                  {name, QString::number(m_waited, 'f', 1), whoHolds()});
             unlock();
             return false;
+        }
+        if (!told && elapsed + (inBudget ? budget.waitedMs : 0) >= 1000) {
+            told = true;
+            if (inBudget)
+                budget.told = true;
+            if (waitNotice())
+                waitNotice()(messageText(
+                    Msg::RecordsLockWaiting,
+                    {name, whoHolds(), QString::number(double(waitLimitMs()) / 1000.0, 'f', 0)}));
         }
         QThread::msleep(ulong(pause));
         pause = std::min(pause * 2, 20);
     }
+    if (inBudget)
+        budget.waitedMs += clock.elapsed();
     m_mode = mode;
     if (mode == Mode::Exclusive)
         writeNote();

@@ -18,6 +18,10 @@ const QString kTempSuffix = QStringLiteral(".tarvik-tmp");
 
 bool readFile(const QString &path, QByteArray *bytes, QString *error)
 {
+    if (!QFileInfo(path).isFile()) { // a pipe would never end
+        *error = messageText(Msg::RecordsNotRegularFile, {path});
+        return false;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         *error = file.errorString();
@@ -61,7 +65,8 @@ bool readsBack(const QByteArray &rebuilt, const DbfLayout &layout, const TableSc
 
 bool TableRepair::Result::sound() const
 {
-    return state == State::Sound || state == State::Repaired || state == State::IndexRebuilt;
+    return state == State::Sound || state == State::Repaired || state == State::IndexRebuilt ||
+           state == State::OrphansRemoved || state == State::ChannelsMissing;
 }
 
 QString TableRepair::Result::text() const
@@ -83,6 +88,12 @@ QString TableRepair::Result::text() const
         return messageText(Msg::RepairIndexDone, {fileName, QDir::toNativeSeparators(backup)});
     case State::Failed:
         return messageText(Msg::RepairFailed, {fileName, error});
+    case State::Orphans:
+    case State::ChannelsMissing:
+        return problem;
+    case State::OrphansRemoved:
+        return messageText(Msg::RepairOrphansRemoved, {fileName, QString::number(unreadable),
+                                                       QDir::toNativeSeparators(backup)});
     }
     return problem;
 }
@@ -110,6 +121,8 @@ QList<TableRepair::Result> TableRepair::check(const QList<const TableSchema *> &
     QList<Result> results;
     for (const TableSchema *schema : tables)
         results.append(checkFile(DbfTable::findInDirectory(m_dir, schema->fileName), schema));
+    if (tables.contains(&TableSchema::gettoniere()) && tables.contains(&TableSchema::channel()))
+        results.append(checkValidators());
     return results;
 }
 
@@ -118,6 +131,8 @@ QList<TableRepair::Result> TableRepair::repair(const QList<const TableSchema *> 
     QList<Result> results;
     for (const TableSchema *schema : tables)
         results.append(repairFile(DbfTable::findInDirectory(m_dir, schema->fileName), schema));
+    if (tables.contains(&TableSchema::gettoniere()) && tables.contains(&TableSchema::channel()))
+        results.append(repairValidators());
     return results;
 }
 

@@ -30,7 +30,10 @@ public:
         Unreadable,    // nothing of it can be read: left as it is
         Repaired,
         IndexRebuilt,
-        Failed
+        Failed,
+        Orphans,        // channel rows of no stored validator (checkValidators())
+        OrphansRemoved, // ... removed by the repair
+        ChannelsMissing // validators without channel rows: said, kept, usable
     };
 
     struct Result
@@ -39,7 +42,7 @@ public:
         State state = State::Sound;
         QString problem;       // what is or was wrong, naming the file
         int kept = 0;          // rows that can be read, which the repaired table holds
-        qint64 unreadable = 0; // rows that could not be read
+        qint64 unreadable = 0; // rows that could not be read (orphan channel rows)
         QString backup;        // the directory holding the copies of the damaged files
         QString error;         // why the repair failed
 
@@ -60,6 +63,14 @@ public:
     Result checkFile(const QString &path, const TableSchema *schema) const;
     Result repairFile(const QString &path, const TableSchema *schema);
 
+    // Whether every channel row belongs to a stored validator, and every stored validator has
+    // channel rows (older versions could leave either after a crash). Nothing when both are
+    // as they should be, or one of the two tables cannot be read.
+    QList<Result> checkValidators() const;
+    // Removes the channel rows of no stored validator (copied first with the channel table and
+    // its index, as any repair does); validators without channel rows are kept and said.
+    QList<Result> repairValidators();
+
     // The table called name: its file name with or without the extension, or its component
     // name, without regard to case; nullptr when there is none.
     static const TableSchema *tableNamed(const QString &name);
@@ -71,6 +82,7 @@ private:
     Result examine(const QString &path, const QByteArray &table, const QByteArray &index,
                    const TableSchema *schema) const;
     bool makeBackupDirectory(QString *error);
+    QList<Result> validators(bool repair);
 
     QString m_dir;
     QString m_backup;

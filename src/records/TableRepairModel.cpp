@@ -45,6 +45,7 @@ void TableRepairModel::showResults()
         lines.append(result.text());
         toRepair = toRepair || result.state == TableRepair::State::Damaged ||
                    result.state == TableRepair::State::IndexUnusable ||
+                   result.state == TableRepair::State::Orphans ||
                    result.state == TableRepair::State::Failed;
     }
     m_controls.setItems(QStringLiteral("ListReport"), lines);

@@ -4,6 +4,7 @@
 #include "KeyOrder.h"
 #include "Messages.h"
 #include "TDBModule.h"
+#include "TableLock.h"
 #include "UserPrompt.h"
 
 #include <algorithm>
@@ -54,6 +55,7 @@ ValidatorStore::Outcome ValidatorStore::store(const ConfigImage &image,
         m_prompt.tell(messageText(Msg::IdentificationMustBeFilled), UserPrompt::Kind::Warning);
         return Outcome::EmptyIdentification;
     }
+    const TableLock::WaitBudget wait; // one bounded wait for the whole save
     m_db.refreshValidators();
     if (!canChange()) {
         m_prompt.tell(m_error, UserPrompt::Kind::Error);
@@ -172,11 +174,10 @@ ValidatorStore::Outcome ValidatorStore::storeLocked(const ConfigImage &image, co
             return failed(channels.errorString());
     }
 
-    // The channels go first: a validator row never points at channels that are not there.
-    if (!channels.commit())
-        return failed(channels.errorString());
-    if (!validators.commit())
-        return failed(validators.errorString());
+    // One commit of both tables: after a crash the validator is there whole or as it was.
+    QString error;
+    if (!DbfTable::commitTogether({&validators, &channels}, &error))
+        return failed(error);
     return Outcome::Stored;
 }
 
@@ -184,6 +185,7 @@ bool ValidatorStore::load(const QString &identification, ConfigImage &image, QSt
                           LoadReport *report)
 {
     // What another program stored meanwhile counts, both tables from one moment.
+    const TableLock::WaitBudget wait;
     m_db.refreshValidators();
     // Without the channel table every channel opens empty.
     if (!m_db.Gettoniere()->isOpen()) {
@@ -305,6 +307,7 @@ QList<ValidatorStore::Entry> ValidatorStore::list() const
 
 bool ValidatorStore::remove(const QString &identification)
 {
+    const TableLock::WaitBudget wait;
     if (!canChange())
         return false;
     const QString ident = identification.trimmed();

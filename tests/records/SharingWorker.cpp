@@ -11,11 +11,13 @@
 #include "Messages.h"
 #include "RecordingPrompt.h"
 #include "TDBModule.h"
+#include "TableLock.h"
 #include "ValidatorStore.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTextStream>
+#include <QThread>
 #include <csignal>
 #include <unistd.h>
 
@@ -115,6 +117,17 @@ int readMain(const QString &dir, int ms)
     return 0;
 }
 
+// Holds the exclusive lock of a table for ms, as a program frozen in the middle of a change.
+int holdMain(const QString &table, int ms)
+{
+    TableLock lock(table);
+    if (!lock.lock(TableLock::Mode::Exclusive))
+        return fail(lock.errorString());
+    QTextStream(stdout) << "held" << Qt::endl;
+    QThread::msleep(ulong(ms));
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -125,5 +138,8 @@ int main(int argc, char **argv)
         return writeMain(args.at(2), args.at(3).toInt(), args.at(4).toInt(), args.value(5).toInt());
     if (args.size() >= 4 && args.at(1) == QLatin1String("read"))
         return readMain(args.at(2), args.at(3).toInt());
-    return fail(QStringLiteral("usage: write DIR WRITER COUNT [DIE_AT] | read DIR MS"));
+    if (args.size() >= 4 && args.at(1) == QLatin1String("hold"))
+        return holdMain(args.at(2), args.at(3).toInt());
+    return fail(QStringLiteral("usage: write DIR WRITER COUNT [DIE_AT] | read DIR MS | hold "
+                               "TABLE MS"));
 }
