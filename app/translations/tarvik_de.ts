@@ -592,7 +592,7 @@
         <translation>gesperrt</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
+        <source>Option &apos;%s&apos;</source>
         <translation>Option „%s“</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>vom Münzprüfer abgelehnt</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
+        <source>Validator&apos;s own block</source>
         <translation>Eigener Block des Münzprüfers</translation>
     </message>
     <message>
@@ -771,7 +771,7 @@
         <translation>Lesefehler vom Münzprüfer</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>Der Kommunikationsanschluss COM%d ist nicht frei oder falsch eingestellt.</translation>
     </message>
     <message>
@@ -839,8 +839,8 @@
         <translation>Wert unter dem Minimum, er wird korrigiert.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' ist kein gültiger Ganzzahlwert</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; ist kein gültiger Ganzzahlwert</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -971,7 +971,7 @@
         <translation>Aktualisierung... Bitte warten !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
+        <source>Don&apos;t Stop or disconnect !!!</source>
         <translation>Nicht abbrechen oder trennen !!!</translation>
     </message>
     <message>
@@ -1071,7 +1071,7 @@
         <translation>Schlüssel %s fehlt oder passt nicht zu seinem Feld</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
+        <source>its language driver differs from the table&apos;s</source>
         <translation>sein Sprachtreiber weicht von dem der Tabelle ab</translation>
     </message>
     <message>
@@ -1247,11 +1247,11 @@
         <translation>Der Datenträger meldete einen Fehler (%s): es wurde nichts geschrieben</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>„%s“ kann nicht in %s gespeichert werden: seine Codepage kennt %s nicht. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>„%s“ ist zu lang für %s: es fasst höchstens %s Zeichen. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
@@ -1337,10 +1337,6 @@
     <message>
         <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
         <translation>Der Port ging während der Übertragung verloren: %d von %d Bytes haben den Port verlassen: Die Aktualisierung ist nicht vollständig.</translation>
-    </message>
-<message>
-        <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
-        <translation>Der Münzprüfer enthält jetzt eine teilweise geschriebene Konfiguration: Bereits Geschriebenes wurde nicht rückgängig gemacht. Vor dem Einsatz erneut schreiben.</translation>
     </message>
     <message>
         <source>%s is locked by %s: waiting at most %s s</source>
@@ -1663,7 +1659,7 @@
         <translation>Port-&amp;Zeitlimit...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
         <translation>Wie lange auf das erste Byte des Prüfers gewartet wird: für Bluetooth- oder Funk-Seriell-Adapter erhöhen</translation>
     </message>
     <message>
@@ -1671,7 +1667,7 @@
         <translation>Port-Zeitlimit</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
         <translation>Wartezeit auf das Echo der Anzahl oder das erste Byte einer Antwort, in Millisekunden (Vorgabe %1):</translation>
     </message>
 </context>

@@ -592,8 +592,8 @@
         <translation>disabled</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
-        <translation>Option '%s'</translation>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Option &apos;%s&apos;</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -684,8 +684,8 @@
         <translation>refused by the validator</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
-        <translation>Validator's own block</translation>
+        <source>Validator&apos;s own block</source>
+        <translation>Validator&apos;s own block</translation>
     </message>
     <message>
         <source>%s (channels %s)</source>
@@ -771,8 +771,8 @@
         <translation>Reading Error fron validator</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
-        <translation>Comunication Port COM%d isn't free or Setting error.</translation>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <translation>Comunication Port COM%d isn&apos;t free or Setting error.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
@@ -839,8 +839,8 @@
         <translation>Value under the minimum, it will be correct.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' is not a valid integer value</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; is not a valid integer value</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -971,8 +971,8 @@
         <translation>Updating... Please Wait !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
-        <translation>Don't Stop or disconnect !!!</translation>
+        <source>Don&apos;t Stop or disconnect !!!</source>
+        <translation>Don&apos;t Stop or disconnect !!!</translation>
     </message>
     <message>
         <source>Please connect the mini-programer.</source>
@@ -1071,8 +1071,8 @@
         <translation>tag %s is missing or does not match its field</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
-        <translation>its language driver differs from the table's</translation>
+        <source>its language driver differs from the table&apos;s</source>
+        <translation>its language driver differs from the table&apos;s</translation>
     </message>
     <message>
         <source>The data directory %s has been created with empty tables</source>
@@ -1247,12 +1247,12 @@
         <translation>The disk reported an error (%s): nothing was written</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
-        <translation>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
-        <translation>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</translation>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</translation>
     </message>
     <message>
         <source>%s counts %s records in its header, but its index and its length prove %s</source>
@@ -1337,10 +1337,6 @@
     <message>
         <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
         <translation>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</translation>
-    </message>
-<message>
-        <source>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</source>
-        <translation>The validator now holds a partly written configuration: nothing already written was undone. Write it again before use.</translation>
     </message>
     <message>
         <source>%s is locked by %s: waiting at most %s s</source>
@@ -1663,16 +1659,16 @@
         <translation>Port &amp;time-out...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
-        <translation>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</translation>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
+        <translation>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</translation>
     </message>
     <message>
         <source>Port time-out</source>
         <translation>Port time-out</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
-        <translation>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</translation>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
+        <translation>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</translation>
     </message>
 </context>
 <context>
