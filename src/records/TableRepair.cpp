@@ -257,17 +257,19 @@ TableRepair::Result TableRepair::repairFile(const QString &path, const TableSche
         const QByteArray rebuilt = layout.rebuilt(table, QDate::currentDate());
         if (!readsBack(rebuilt, layout, schema))
             return failed(messageText(Msg::RepairNotReadBack));
-        const QString temp = path + kTempSuffix;
+        // A linked table stays a link: the file it points to is replaced.
+        const QString target = DbfTable::targetOf(path);
+        const QString temp = target + kTempSuffix;
         if (!DurableFile::write(temp, rebuilt, &why)) {
             QFile::remove(temp);
             return failed(messageText(Msg::RecordsCannotWrite, {r.fileName, why}));
         }
-        QFile::setPermissions(temp, QFile::permissions(path));
-        if (!DurableFile::replace(temp, path, &why)) {
+        QFile::setPermissions(temp, QFile::permissions(target));
+        if (!DurableFile::replace(temp, target, &why)) {
             QFile::remove(temp);
             return failed(messageText(Msg::RecordsCannotWrite, {r.fileName, why}));
         }
-        DurableFile::syncDirectory(QFileInfo(path).absolutePath());
+        DurableFile::syncDirectory(QFileInfo(target).absolutePath());
     }
     lock.unlock();
 

@@ -14,6 +14,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -294,6 +295,21 @@ TEST_F(DamagedTablesTest, RepairRefusesRowsItCannotReadBack)
               messageText(Msg::RepairFailed, {s.fileName, messageText(Msg::RepairNotReadBack)}));
     EXPECT_EQ(readAll(path(s.fileName)), bad);
     EXPECT_EQ(readAll(path(s.indexFileName)), index);
+}
+
+// A damaged table reached through a symbolic link (a shared folder linked into the data
+// directory) is mended where the link points; the link stays a link.
+TEST_F(DamagedTablesTest, RepairOfALinkedTableKeepsTheLink)
+{
+    const QString shared = QDir(root.path()).filePath(QStringLiteral("shared.dbf"));
+    writeAll(shared, channels.left(header + 60 * record));
+    ASSERT_TRUE(QFile::remove(path(s.fileName)));
+    ASSERT_TRUE(QFile::link(shared, path(s.fileName)));
+    TableRepair repair(dataDir);
+    const TableRepair::Result r = repair.repair().at(1);
+    EXPECT_EQ(r.state, TableRepair::State::Repaired) << qPrintable(r.text());
+    EXPECT_TRUE(QFileInfo(path(s.fileName)).isSymLink());
+    EXPECT_EQ(readAll(shared).size(), header + 60 * record + 1);
 }
 
 // A file of which nothing can be read is said once and left as it is; the other tables work.
