@@ -3,6 +3,7 @@
 #include "DbfTableDetail.h"
 #include "DurableFile.h"
 #include "TableLock.h"
+#include "WholeFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +12,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <algorithm>
+#include <cerrno>
 #include <memory>
 
 using namespace dbf_detail;
@@ -73,14 +75,25 @@ QString write(const std::vector<Step> &steps, State state, QString *error)
         // it. Lost to a power cut, it leaves rows after the count, which the count hides from
         // Tarvik and from readers that honour it, as any commit cut short before.
         QFile file(temp);
+        errno = 0;
+        // A buffered write reports a full disk only when it is flushed: a journal that did not
+        // reach the file whole must not let the rows it announces be written.
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
-            file.write(bytes) != bytes.size()) {
-            *error = file.errorString();
+            file.write(bytes) != bytes.size() || !file.flush()) {
+            const int failure = errno;
+            *error = failure != 0 ? WholeFile::reason(failure) : file.errorString();
             file.close();
             QFile::remove(temp);
             return {};
         }
+        errno = 0;
         file.close();
+        if (file.error() != QFileDevice::NoError) {
+            const int failure = errno;
+            *error = failure != 0 ? WholeFile::reason(failure) : file.errorString();
+            QFile::remove(temp);
+            return {};
+        }
         if (!DurableFile::replace(temp, journal, error)) {
             QFile::remove(temp);
             return {};
