@@ -5,6 +5,7 @@
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QTableView;
 class QTableWidget;
 class SavedValidatorsModel;
 
@@ -21,12 +22,13 @@ protected:
 private:
     void showTexts();
     void showValidators();
+    void showSelection();
     void showChannels();
 
     SavedValidatorsModel &m_model;
     QLabel *m_filterLabel;
     QLineEdit *m_filter;
-    QTableWidget *m_validators;
+    QTableView *m_validators;
     QTableWidget *m_channels;
     QPushButton *m_open;
     QPushButton *m_delete;
