@@ -27,6 +27,8 @@ template <typename View> View *grid(const char *name, QWidget *parent)
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->verticalHeader()->hide();
+    // One line of text a row, as a data grid shows it.
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     return table;
 }
 
@@ -55,8 +57,8 @@ TFormReadFileData::TFormReadFileData(SavedValidatorsModel &model, QWidget *paren
     filter->addWidget(m_filterLabel);
     filter->addWidget(m_filter, 1);
     auto *grids = new QHBoxLayout;
-    grids->addWidget(m_validators, 1);
-    grids->addWidget(m_channels, 2);
+    grids->addWidget(m_validators, 2);
+    grids->addWidget(m_channels, 3);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     for (QPushButton *button : {m_open, m_delete, m_close}) {
@@ -67,7 +69,7 @@ TFormReadFileData::TFormReadFileData(SavedValidatorsModel &model, QWidget *paren
     layout->addLayout(filter);
     layout->addLayout(grids, 1);
     layout->addLayout(buttons);
-    resize(1100, 520);
+    resize(1240, 560);
     m_validators->resizeColumnsToContents();
 
     connect(m_filter, &QLineEdit::textEdited, this, [this](const QString &text) {
