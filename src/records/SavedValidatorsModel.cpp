@@ -87,9 +87,11 @@ QList<SavedValidatorsTable::Row> SavedValidatorsModel::rows() const
 void SavedValidatorsModel::setFilter(const QString &text)
 {
     m_controls.setText(QStringLiteral("EFilter"), text);
-    // A stat of the two files, not a read: another program's store shows at the next key.
+    // A stat of the two files, not a read: another program's store shows at the next key, and
+    // so does a store this program read meanwhile (opening or deleting reads the tables).
     const DbfTable *validators = m_db.Gettoniere();
-    if (validators && validators->isOpen() && validators->changedOnDisk()) {
+    if (validators && validators->isOpen() &&
+        (validators->changedOnDisk() || validators->diskStateKey() != m_listedState)) {
         reload();
         return;
     }
@@ -102,6 +104,7 @@ void SavedValidatorsModel::reload()
 {
     QList<SavedValidatorsTable::Row> all;
     const QList<ValidatorStore::Entry> entries = m_store.list();
+    m_listedState = m_db.Gettoniere() ? m_db.Gettoniere()->diskStateKey() : QString();
     all.reserve(entries.size());
     // The tables hold no serial number: it stays empty until a history keeps one.
     for (const ValidatorStore::Entry &entry : entries)

@@ -57,4 +57,5 @@ private:
     QList<QStringList> m_channelRows;
     int m_current = -1;
     QString m_currentIdent; // whose channels m_channelRows hold
+    QString m_listedState;  // the validator table's disk state when the list was read
 };
