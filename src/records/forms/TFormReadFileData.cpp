@@ -50,7 +50,8 @@ TFormReadFileData::TFormReadFileData(SavedValidatorsModel &model, QWidget *paren
     m_validators->setModel(&m_model.table());
     m_validators->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
     m_validators->horizontalHeader()->setStretchLastSection(true);
-    m_channels->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // Sized once per validator shown, not once per cell filled.
+    m_channels->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
     m_channels->setColumnCount(int(SavedValidatorsModel::channelColumns().size()));
 
     auto *filter = new QHBoxLayout;
@@ -109,6 +110,7 @@ void TFormReadFileData::showTexts()
     m_channels->setAccessibleName(c.state(QStringLiteral("TFormReadFileData")).text + u' ' +
                                   SavedValidatorsModel::channelColumns().constFirst());
     m_channels->setHorizontalHeaderLabels(SavedValidatorsModel::channelColumns());
+    m_channels->resizeColumnsToContents();
 }
 
 void TFormReadFileData::showValidators()
@@ -135,11 +137,18 @@ void TFormReadFileData::showChannels()
     m_open->setEnabled(c.state(QStringLiteral("BtnOpen")).enabled);
     m_delete->setEnabled(c.state(QStringLiteral("BtnDelete")).enabled);
     const auto &rows = m_model.channelRows();
+    // A keystroke that keeps the same validator leaves its grid as it is.
+    if (rows == m_shownChannels && m_channels->rowCount() == rows.size())
+        return;
+    m_shownChannels = rows;
+    m_channels->setUpdatesEnabled(false);
     m_channels->setRowCount(int(rows.size()));
     for (int r = 0; r < rows.size(); ++r) {
         for (int col = 0; col < rows[r].size(); ++col)
             m_channels->setItem(r, col, new QTableWidgetItem(rows[r][col]));
     }
+    m_channels->resizeColumnsToContents();
+    m_channels->setUpdatesEnabled(true);
 }
 
 void TFormReadFileData::changeEvent(QEvent *event)

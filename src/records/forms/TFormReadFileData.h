@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QList>
+#include <QStringList>
 
 class QLabel;
 class QLineEdit;
@@ -33,4 +35,5 @@ private:
     QPushButton *m_open;
     QPushButton *m_delete;
     QPushButton *m_close;
+    QList<QStringList> m_shownChannels;
 };
