@@ -1,5 +1,6 @@
 #include "AppOptions.h"
 
+#include "Languages.h"
 #include "PortChoice.h"
 
 AppOptions AppOptions::parse(const QStringList &arguments)
@@ -23,7 +24,18 @@ AppOptions AppOptions::parse(const QStringList &arguments)
             nextValue(options.screenshot);
         else if (argument == u"--screenshots")
             nextValue(options.screenshots);
-        else if (argument == u"--device")
+        else if (argument == u"--language") {
+            QString name;
+            nextValue(name);
+            options.languageGiven = true;
+            options.language = name.compare(u"local", Qt::CaseInsensitive) == 0
+                                   ? QString()
+                                   : Languages::code(Languages::indexOf(name.toUpper()));
+            if (options.language.isEmpty() && name.compare(u"local", Qt::CaseInsensitive) != 0)
+                options.error =
+                    QStringLiteral("--language: %1 is not one of en, fr, it, de, local\n")
+                        .arg(name);
+        } else if (argument == u"--device")
             nextValue(options.device);
         else if (argument == u"--sim-line") {
             nextValue(options.simLine);
@@ -65,7 +77,7 @@ QString AppOptions::usage()
     return QStringLiteral(
         "usage: tarvik [COMn] [--device PATH] [--simulate [--sim-line LINE]] [--smoke]\n"
         "              [--screenshot FILE]\n"
-        "              [--screenshots DIR] [--help] [--version]\n"
+        "              [--screenshots DIR] [--language LANG] [--help] [--version]\n"
         "  COMn             the port to use when no validator answers the probe\n"
         "  --device PATH    a system serial port standing as COM1\n"
         "  --simulate       the in-process virtual validator, with its bench panel\n"
@@ -77,6 +89,9 @@ QString AppOptions::usage()
         "  --screenshots D  open every window against the virtual validator and save a\n"
         "                   picture of each in D (NAME.png); ends with 1 if one cannot be\n"
         "                   pictured\n"
+        "  --language LANG  show the program in en, fr, it, de or local (its own texts), as\n"
+        "                   the language menu would; with --screenshots the pictures are\n"
+        "                   in that language\n"
         "  --report-startup say on stdout when the main window shows with the link open\n"
         "  --help           print this and end\n"
         "  --version        print the version and end\n"

@@ -17,8 +17,10 @@ struct AppOptions
     QString screenshots;        // --screenshots DIR: picture every window into DIR and end
     QString device;             // --device PATH: this system port stands as COM1
     QString simLine;            // --sim-line LINE: how rough the virtual validator's line is
-    QStringList portArguments;  // the other arguments; one may name the port (COM4)
-    QString error;              // not empty: bad usage
+    QString language;           // --language en|fr|it|de|local: its code ("FR"; empty: Local)
+    bool languageGiven = false;
+    QStringList portArguments; // the other arguments; one may name the port (COM4)
+    QString error;             // not empty: bad usage
 
     static AppOptions parse(const QStringList &arguments);
     static QString usage();

@@ -346,8 +346,30 @@ void ScreenshotTour::poll()
     }
 }
 
+void ScreenshotTour::measure(QWidget *window)
+{
+    // Without a window manager the frame is the window itself: the allowance stands for one.
+    QSize outer = window->frameGeometry().size();
+    if (outer == window->size())
+        outer += QSize(2 * kBorder, kTitleBar + kBorder);
+    const QString name = m_steps.at(m_index).picture;
+    const QString size =
+        QStringLiteral("%1 %2x%3").arg(name).arg(outer.width()).arg(outer.height());
+    std::printf("tarvik: screenshots: size with its frame %s\n", qPrintable(size));
+    if (outer.width() * outer.height() > m_largestArea) {
+        m_largestArea = outer.width() * outer.height();
+        m_largest = size;
+    }
+    if (outer.width() > kScreenWidth || outer.height() > kScreenHeight) {
+        std::fprintf(stderr, "tarvik: screenshots: %s is larger than %dx%d with its frame\n",
+                     qPrintable(size), kScreenWidth, kScreenHeight);
+        m_oversized.append(size);
+    }
+}
+
 void ScreenshotTour::picture(QWidget *window)
 {
+    measure(window);
     const QString file = QDir(m_directory).filePath(m_steps.at(m_index).picture + ".png");
     // An open menu of the window shows over it.
     QList<QWidget *> popups;
@@ -369,6 +391,9 @@ void ScreenshotTour::finish()
 {
     m_finished = true;
     m_poll.stop();
+    std::printf("tarvik: screenshots: the largest window with its frame: %s\n",
+                qPrintable(m_largest));
+    std::fflush(stdout);
     // A window left over by a step that failed must not hold the editor open.
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {

@@ -18,7 +18,8 @@ class VirtualValidator;
 // Opens the program's windows one after the other, against the virtual validator, and saves a
 // picture of each as DIR/NAME.png: the pictures of the user guide. A window that does not show
 // within its time is reported and the tour goes on; failed() then tells the program to end with
-// an error.
+// an error. Each window's size with its frame is measured too: one that would not fit a
+// 1366x768 laptop screen above a 40 px task bar is named, and fails the tour as well.
 class ScreenshotTour final : public QObject
 {
     Q_OBJECT
@@ -34,10 +35,19 @@ public:
 
     // Starts over the editor once its opening read has ended; closes the editor at the end.
     void start(TFormData &editor);
-    // Not every picture was made (or the tour never ended).
-    bool failed() const { return !m_finished || !m_missing.isEmpty(); }
+    // The room a window has, frame included: a 1366x768 screen less a 40 px task bar.
+    static constexpr int kScreenWidth = 1366;
+    static constexpr int kScreenHeight = 728;
+    // The frame a window manager adds where the test screen has none: a title bar and borders.
+    static constexpr int kTitleBar = 30;
+    static constexpr int kBorder = 8;
+
+    // Not every picture was made, a window is too big (or the tour never ended).
+    bool failed() const { return !m_finished || !m_missing.isEmpty() || !m_oversized.isEmpty(); }
     // The pictures that could not be made.
     QStringList missing() const { return m_missing; }
+    // The windows too big for the screen, as "NAME WxH".
+    QStringList oversized() const { return m_oversized; }
 
 private:
     struct Step
@@ -64,6 +74,7 @@ private:
     void beginStep();
     void poll();
     void picture(QWidget *window);
+    void measure(QWidget *window);
     void finish();
     QWidget *shownWindow(const QString &objectName) const;
     void click(const QString &window, const QString &button);
@@ -85,5 +96,8 @@ private:
     QTimer m_poll;
     QElapsedTimer m_clock;
     QStringList m_missing;
+    QStringList m_oversized;
+    QString m_largest; // the window with the most area, "NAME WxH"
+    int m_largestArea = 0;
     bool m_finished = false;
 };

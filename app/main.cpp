@@ -84,6 +84,9 @@ int main(int argc, char *argv[])
         UnattendedRuns::useScratchSettings(scratch.path());
 
     Settings settings;
+    // --language stands as the language menu's choice.
+    if (options.languageGiven)
+        settings.setLanguage(options.language);
     LanguageSwitcher languages;
     EffectSoundPlayer sounds;
 
@@ -178,9 +181,13 @@ int main(int argc, char *argv[])
     }
     const int code = app.exec();
     if (tour && tour->failed()) {
-        std::fprintf(stderr, "tarvik: screenshots: not every window could be pictured%s%s\n",
-                     tour->missing().isEmpty() ? "" : ": ",
-                     qPrintable(tour->missing().join(QStringLiteral(", "))));
+        if (!tour->missing().isEmpty() || tour->oversized().isEmpty())
+            std::fprintf(stderr, "tarvik: screenshots: not every window could be pictured%s%s\n",
+                         tour->missing().isEmpty() ? "" : ": ",
+                         qPrintable(tour->missing().join(QStringLiteral(", "))));
+        if (!tour->oversized().isEmpty())
+            std::fprintf(stderr, "tarvik: screenshots: windows too big for the screen: %s\n",
+                         qPrintable(tour->oversized().join(QStringLiteral(", "))));
         return 1;
     }
     return code;

@@ -5,7 +5,8 @@
 // weights, and the identifications carry accented letters.
 // Then the sharing: stores while a second data module (another program) holds the same tables
 // open, stores alternating between the two (each first reads what the other stored), and the
-// cost of the table lock itself.
+// cost of the table lock itself. Last, the browser's filter at 10,000 validators
+// (RecordsBrowserBench.cpp).
 //   build/bin/records_bench [count] [directory] [driver]
 #include "DbfTable.h"
 #include "TDBModule.h"
@@ -23,6 +24,8 @@
 #include <cstdlib>
 #include <numeric>
 #include <vector>
+
+int benchBrowserFilter(int count);
 
 namespace {
 
@@ -197,5 +200,5 @@ int main(int argc, char **argv)
     report("lock+unlock exclusive", exclusive);
     report("lock+unlock shared", shared);
     report("change lock, both tables", changeLocks);
-    return 0;
+    return benchBrowserFilter(10000);
 }

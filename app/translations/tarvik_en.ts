@@ -1821,10 +1821,6 @@
 <context>
     <name>TFormProgCoin</name>
     <message>
-        <source>Coin calibration</source>
-        <translation>Coin calibration</translation>
-    </message>
-    <message>
         <source>Channels control</source>
         <translation>Channels control</translation>
     </message>

@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Sub</source>
-        <translation>Sub</translation>
+        <translation>Subst.</translation>
     </message>
     <message>
         <source>Channel %d </source>
@@ -157,11 +157,11 @@
     </message>
     <message>
         <source>Open configuration file</source>
-        <translation>Ouvrir un fichier de configuration</translation>
+        <translation>Ouvrir une configuration</translation>
     </message>
     <message>
         <source>Save configuration file</source>
-        <translation>Enregistrer le fichier de configuration</translation>
+        <translation>Enregistrer la configuration</translation>
     </message>
     <message>
         <source>Validator setting</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Outlet</source>
-        <translation>Sortie</translation>
+        <translation>Utilisation</translation>
     </message>
     <message>
         <source>Vending anti-jam</source>
@@ -1821,10 +1821,6 @@
 <context>
     <name>TFormProgCoin</name>
     <message>
-        <source>Coin calibration</source>
-        <translation>Calibrage de pièce</translation>
-    </message>
-    <message>
         <source>Channels control</source>
         <translation>Contrôle des canaux</translation>
     </message>
@@ -2156,7 +2152,7 @@
     </message>
     <message>
         <source>Outlet</source>
-        <translation>Sortie</translation>
+        <translation>Utilisation</translation>
     </message>
     <message>
         <source>Game Fast</source>

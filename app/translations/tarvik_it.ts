@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Sub</source>
-        <translation>Sub</translation>
+        <translation>Sost.</translation>
     </message>
     <message>
         <source>Channel %d </source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Outlet</source>
-        <translation>Uscita</translation>
+        <translation>Utilizzo</translation>
     </message>
     <message>
         <source>Vending anti-jam</source>
@@ -1821,10 +1821,6 @@
 <context>
     <name>TFormProgCoin</name>
     <message>
-        <source>Coin calibration</source>
-        <translation>Calibrazione moneta</translation>
-    </message>
-    <message>
         <source>Channels control</source>
         <translation>Controllo dei canali</translation>
     </message>
@@ -2156,7 +2152,7 @@
     </message>
     <message>
         <source>Outlet</source>
-        <translation>Uscita</translation>
+        <translation>Utilizzo</translation>
     </message>
     <message>
         <source>Game Fast</source>

@@ -1,6 +1,7 @@
 #include "ProfilCModel.h"
 
 #include "ConfigImage.h"
+#include "EditorState.h"
 #include "Messages.h"
 #include "ProfileStore.h"
 
@@ -161,6 +162,8 @@ void ProfilCModel::retranslate()
             c().setToolTip(QLatin1String(name), tr(hint));
         c().setAccessibleName(QLatin1String(name), tr(hint));
     }
+    // The value's unit and largest amount, from the base of the channel the profile is for.
+    c().setToolTip(kValue, EditorState::amountTip(m_base, true));
     flush();
 }
 
@@ -197,9 +200,16 @@ void ProfilCModel::valueExit()
     if (!m_valueChanged)
         return;
     m_valueChanged = false;
-    const auto byte = ParseChannelValue(control(kValue).text, m_base.magnitude, m_base.decimals);
-    if (!byte)
+    const ChannelAmount amount =
+        CheckChannelAmount(control(kValue).text, m_base.magnitude, m_base.decimals);
+    std::optional<quint8> byte;
+    if (amount.fit == AmountFit::NotAnAmount || amount.fit == AmountFit::Negative)
         tell(messageText(Msg::ValueBetween0And255), UserPrompt::Kind::Warning);
+    else
+        byte = amount.byte;
+    // An amount past the base's 252 steps is held at the largest, and said.
+    if (amount.fit == AmountFit::OverMaximum)
+        tell(messageText(Msg::ValueOverMaximum), UserPrompt::Kind::Warning);
     c().setText(kValue, FormatChannelValue(m_base.decimals, kValueWidth, m_base.magnitude,
                                            byte.value_or(kNotSet)));
     c().setItemIndex(kPriceLine, -1);

@@ -1,5 +1,6 @@
 #include "ProgCoinModel.h"
 
+#include "Captions.h"
 #include "CoinProfile.h"
 #include "Encodings.h"
 #include "Messages.h"
@@ -54,7 +55,6 @@ constexpr Caption kCaptions[] = {
     {"BtnMatched", ControlKind::Button, QT_TRANSLATE_NOOP("TFormProgCoin", "&Matched channel...")},
     {"BtnAnalyse", ControlKind::Button, QT_TRANSLATE_NOOP("TFormProgCoin", "Anal&yse")},
 };
-constexpr const char *kTitle = QT_TRANSLATE_NOOP("TFormProgCoin", "Coin calibration");
 constexpr const char *kClear = QT_TRANSLATE_NOOP("TFormProgCoin", "&Clear");
 constexpr const char *kPriceLines[] = {QT_TRANSLATE_NOOP("TFormProgCoin", "P1"),
                                        QT_TRANSLATE_NOOP("TFormProgCoin", "P2")};
@@ -94,7 +94,8 @@ ProgCoinModel::ProgCoinModel(LearningSession &session, ConfigImage &image, TMonn
                              const ProgCoinSetup &setup)
     : FormModel(kContext, prompt), m_session(session), m_image(image), m_link(link),
       m_services(services), m_setup(setup), m_channelLabel(kCaptions[0].text),
-      m_title([] { return QCoreApplication::translate(kContext, kTitle); })
+      // Titled as the editor's button that opens it, in every language.
+      m_title([] { return captionText(Cap::CoinLearning); })
 {
     m_result.fill(255);
     // The margins start from their defaults each time the form is created; analysis is off.

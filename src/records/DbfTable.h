@@ -218,6 +218,9 @@ public:
     // Whether another program changed the table or its index since this one last read or
     // wrote them (their size, time and file identity, without reading them).
     bool changedOnDisk() const;
+    // The table and index as last read or written (identity, size, time), as text: an equal
+    // key later means the rows in memory are still that commit's.
+    QString diskStateKey() const;
     // Reads the table and its index again when they changed on disk; pending changes are
     // dropped then. False (errorString()) when the table can no longer be read; it stays as
     // it was.

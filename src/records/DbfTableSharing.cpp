@@ -15,6 +15,17 @@
 
 using namespace dbf_detail;
 
+QString DbfTable::diskStateKey() const
+{
+    return QStringLiteral("%1 %2 %3 %4 %5 %6")
+        .arg(m_tableStamp.id)
+        .arg(m_tableStamp.size)
+        .arg(m_tableStamp.modified)
+        .arg(m_indexStamp.id)
+        .arg(m_indexStamp.size)
+        .arg(m_indexStamp.modified);
+}
+
 DbfTable::DiskStamp DbfTable::stampOf(const QString &path)
 {
 #ifdef Q_OS_WIN

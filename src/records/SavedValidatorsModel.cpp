@@ -1,17 +1,35 @@
 #include "SavedValidatorsModel.h"
 
 #include "Captions.h"
+#include "DbfTable.h"
 #include "EditorModel.h"
+#include "Encodings.h"
 #include "Messages.h"
+#include "TDBModule.h"
 #include "UserPrompt.h"
 
 namespace {
 
-// The record bytes in the order of the channel grid's columns.
-constexpr int kColumnBytes[] = {Rec::HfuHighMax, Rec::HfuHighMin, Rec::HfuLowMax, Rec::HfuLowMin,
-                                Rec::LfMax,      Rec::LfMin,      Rec::DimMax,    Rec::DimMin,
-                                Rec::HflHighMax, Rec::HflHighMin, Rec::HflLowMax, Rec::HflLowMin,
-                                Rec::AmpMax,     Rec::AmpMin,     Rec::Substitute};
+// The record bytes of the windows in the order of the editor's channel columns.
+constexpr int kWindowBytes[] = {Rec::HfuLowMin, Rec::HfuLowMax, Rec::HfuHighMin, Rec::HfuHighMax,
+                                Rec::DimMin,    Rec::DimMax,    Rec::LfMin,      Rec::LfMax,
+                                Rec::HflLowMin, Rec::HflLowMax, Rec::HflHighMin, Rec::HflHighMax,
+                                Rec::AmpMin,    Rec::AmpMax};
+// The mark of an enabled channel in the Enable column.
+const QString kEnabledMark = QStringLiteral("\u2713");
+
+// The family as the editor shows it ("5.3"); the stored text when it is no family byte.
+QString familyOf(const QString &stored)
+{
+    bool ok = false;
+    const int byte = stored.trimmed().toInt(&ok);
+    if (ok && byte >= 0 && byte <= 255) {
+        const QString text = QString::fromLatin1(familyText(quint8(byte)));
+        if (!text.isEmpty())
+            return text;
+    }
+    return stored.trimmed();
+}
 
 QString joined(const QList<int> &channels)
 {
@@ -35,7 +53,7 @@ SavedValidatorsModel::SavedValidatorsModel(TDBModule &db, UserPrompt &prompt, Ed
     c.add(QStringLiteral("BtnDelete"), ControlKind::Button);
     c.add(QStringLiteral("BtnClose"), ControlKind::Button);
     retranslate();
-    refresh();
+    reload();
     c.takeChanged();
 }
 
@@ -47,58 +65,88 @@ void SavedValidatorsModel::retranslate()
     c.setText(QStringLiteral("BtnOpen"), captionText(Cap::Open));
     c.setText(QStringLiteral("BtnDelete"), captionText(Cap::Delete));
     c.setText(QStringLiteral("BtnClose"), captionText(Cap::CloseButton));
+    m_table.retranslate();
 }
 
 QStringList SavedValidatorsModel::channelColumns()
 {
-    return {
-        QStringLiteral("CANAL"),      QStringLiteral("HFUHIGHMAX"), QStringLiteral("HFUHIGHMIN"),
-        QStringLiteral("HFULOWMAX"),  QStringLiteral("HFULOWMIN"),  QStringLiteral("LFMAX"),
-        QStringLiteral("LFMIN"),      QStringLiteral("DIMMAX"),     QStringLiteral("DIMMIN"),
-        QStringLiteral("HFLHIGHMAX"), QStringLiteral("HFLHIGHMIN"), QStringLiteral("HFLLOWMAX"),
-        QStringLiteral("HFLLOWMIN"),  QStringLiteral("HFLAMPMAX"),  QStringLiteral("HFLAMPMIN"),
-        QStringLiteral("SUBSTITUTE"), QStringLiteral("VALID"),      QStringLiteral("VALEUR")};
+    QStringList columns{captionText(Cap::ChannelNumber, {QString()}).trimmed()};
+    for (int col = int(Cap::ColHfuLowMin); col <= int(Cap::ColSub); ++col)
+        columns.append(captionText(Cap(col)));
+    return columns;
+}
+
+QList<SavedValidatorsTable::Row> SavedValidatorsModel::rows() const
+{
+    QList<SavedValidatorsTable::Row> shown;
+    for (int r = 0; r < m_table.rowCount(); ++r)
+        shown.append(m_table.row(r));
+    return shown;
 }
 
 void SavedValidatorsModel::setFilter(const QString &text)
 {
     m_controls.setText(QStringLiteral("EFilter"), text);
-    refresh();
+    // A stat of the two files, not a read: another program's store shows at the next key, and
+    // so does a store this program read meanwhile (opening or deleting reads the tables).
+    const DbfTable *validators = m_db.Gettoniere();
+    if (validators && validators->isOpen() &&
+        (validators->changedOnDisk() || validators->diskStateKey() != m_listedState)) {
+        reload();
+        return;
+    }
+    m_table.setFilter(text);
+    const int kept = m_currentIdent.isEmpty() ? -1 : m_table.find(m_currentIdent);
+    select(kept >= 0 ? kept : 0);
 }
 
-void SavedValidatorsModel::refresh()
+void SavedValidatorsModel::reload()
 {
-    const QString filter = m_controls.state(QStringLiteral("EFilter")).text.trimmed();
-    m_rows.clear();
-    for (const ValidatorStore::Entry &entry : m_store.list()) {
-        if (filter.isEmpty() || entry.identification.contains(filter, Qt::CaseInsensitive) ||
-            entry.description.contains(filter, Qt::CaseInsensitive))
-            m_rows.append(entry);
-    }
-    select(m_rows.isEmpty() ? -1 : 0);
+    QList<SavedValidatorsTable::Row> all;
+    const QList<ValidatorStore::Entry> entries = m_store.list();
+    m_listedState = m_db.Gettoniere() ? m_db.Gettoniere()->diskStateKey() : QString();
+    all.reserve(entries.size());
+    // The tables hold no serial number: it stays empty until a history keeps one.
+    for (const ValidatorStore::Entry &entry : entries)
+        all.append({entry.identification, entry.description, QString(), familyOf(entry.version)});
+    m_table.setFilter(m_controls.state(QStringLiteral("EFilter")).text);
+    m_table.setRows(std::move(all));
+    m_currentIdent.clear();
+    select(m_table.rowCount() > 0 ? 0 : -1);
 }
 
 void SavedValidatorsModel::select(int row)
 {
-    m_current = row >= 0 && row < m_rows.size() ? row : -1;
+    m_current = row >= 0 && row < m_table.rowCount() ? row : -1;
     m_controls.setEnabled(QStringLiteral("BtnOpen"), m_current >= 0 && m_editor);
     m_controls.setEnabled(QStringLiteral("BtnDelete"), m_current >= 0);
-    loadChannels();
+    const QString ident = m_current >= 0 ? m_table.row(m_current).identification : QString();
+    // The same validator keeps the channels already read.
+    if (ident.isEmpty() || ident != m_currentIdent)
+        loadChannels();
 }
 
 void SavedValidatorsModel::loadChannels()
 {
     m_channelRows.clear();
+    m_currentIdent.clear();
     ConfigImage image = ConfigImage::blank();
-    if (m_current < 0 || !m_store.load(m_rows.at(m_current).identification, image))
+    if (m_current < 0 || !m_store.load(m_table.row(m_current).identification, image))
         return;
+    m_currentIdent = m_table.row(m_current).identification;
+    const DecimalWord bases[2] = {
+        FormatDecimalWord({image.values[Val::Base1], image.values[Val::Base1 + 1]}),
+        FormatDecimalWord({image.values[Val::Base2], image.values[Val::Base2 + 1]})};
     for (int k = 0; k < kChannels; ++k) {
         const ChannelRecord &record = image.channels[std::size_t(k)];
         QStringList row{QString::number(k + 1)};
-        for (int b : kColumnBytes)
-            row.append(QString::number(record[std::size_t(b)]));
-        row.append(record[Rec::Enabled] == 255 ? QString() : QString::number(record[Rec::Enabled]));
-        row.append(QString::number(record[Rec::Value]));
+        for (int b : kWindowBytes)
+            row.append(ByteToText(3, record[std::size_t(b)]).trimmed());
+        row.append(record[Rec::Enabled] == 1 ? kEnabledMark : QString());
+        const DecimalWord &base = bases[k < 30 ? 0 : 1];
+        row.append(
+            FormatChannelValue(base.decimals, 0, base.magnitude, record[Rec::Value]).trimmed());
+        row.append(ByteToText(3, record[Rec::Substitute]).trimmed());
         m_channelRows.append(row);
     }
 }
@@ -107,7 +155,7 @@ bool SavedValidatorsModel::BtnOpenClick()
 {
     if (m_current < 0 || !m_editor)
         return false;
-    const QString ident = m_rows.at(m_current).identification;
+    const QString ident = m_table.row(m_current).identification;
     ConfigImage image = m_editor->image();
     ValidatorStore::LoadReport report;
     if (!m_store.loadInto(ident, image, nullptr, &report)) {
@@ -135,7 +183,7 @@ bool SavedValidatorsModel::BtnDeleteClick()
 {
     if (m_current < 0)
         return false;
-    const QString ident = m_rows.at(m_current).identification;
+    const QString ident = m_table.row(m_current).identification;
     // A table that cannot be changed is said before anything is asked.
     if (!m_store.canChange()) {
         m_prompt.tell(m_store.errorString(), UserPrompt::Kind::Error);
@@ -149,6 +197,6 @@ bool SavedValidatorsModel::BtnDeleteClick()
         m_prompt.tell(m_store.errorString(), UserPrompt::Kind::Error);
         return false;
     }
-    refresh();
+    reload();
     return true;
 }

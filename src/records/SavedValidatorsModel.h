@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ControlSet.h"
+#include "SavedValidatorsTable.h"
 #include "ValidatorStore.h"
 
 class EditorModel;
@@ -8,8 +9,8 @@ class TDBModule;
 class UserPrompt;
 
 // The browser of saved validators TFormReadFileData ("Saved validators"): the validators of
-// the tables with a filter, the channels of the selected one, and Open (into the editor) and
-// Delete (with its channels).
+// the tables in the editor's words with a filter, the channels of the selected one in the
+// editor's order and captions, and Open (into the editor) and Delete (with its channels).
 class SavedValidatorsModel final
 {
 public:
@@ -18,14 +19,19 @@ public:
     const ControlSet &controls() const { return m_controls; }
     ControlSet &controls() { return m_controls; }
 
-    // The validators whose identification or description holds the filter (without regard to
-    // case), in table order.
-    const QList<ValidatorStore::Entry> &rows() const { return m_rows; }
+    // The validators whose identification, description or serial number holds the filter
+    // (without regard to case), in key order: the grid's model, filtered in memory.
+    SavedValidatorsTable &table() { return m_table; }
+    QList<SavedValidatorsTable::Row> rows() const;
+    // Filters the list read once; the tables are read again only when another program changed
+    // them. The selected validator stays selected while it is shown, else the first is.
     void setFilter(const QString &text);
     int current() const { return m_current; }
     void select(int row);
 
-    // The selected validator's channels: one row per channel, the columns of channelColumns().
+    // The selected validator's channels: one row per channel, the columns of channelColumns()
+    // (the channel, then the editor's columns: windows minimum first, Enable, Value, Sub);
+    // what is not set is empty.
     static QStringList channelColumns();
     const QList<QStringList> &channelRows() const { return m_channelRows; }
 
@@ -38,7 +44,8 @@ public:
     void retranslate();
 
 private:
-    void refresh();
+    // Reads every stored validator again.
+    void reload();
     void loadChannels();
 
     TDBModule &m_db;
@@ -46,7 +53,9 @@ private:
     EditorModel *m_editor;
     ValidatorStore m_store;
     ControlSet m_controls;
-    QList<ValidatorStore::Entry> m_rows;
+    SavedValidatorsTable m_table;
     QList<QStringList> m_channelRows;
     int m_current = -1;
+    QString m_currentIdent; // whose channels m_channelRows hold
+    QString m_listedState;  // the validator table's disk state when the list was read
 };

@@ -1,5 +1,7 @@
 #include "ValueTableModel.h"
 
+#include "EditorState.h"
+
 #include "Encodings.h"
 #include "Messages.h"
 #include "TMonnayeur.h"
@@ -222,6 +224,14 @@ void ValueTableModel::ShowTable()
     flush();
 }
 
+QString ValueTableModel::cellTip(int column, int row) const
+{
+    if (column < 1 || column >= kColumns || row < 1 || row >= rowCount())
+        return {};
+    const Bases b = basesOf(m_copy);
+    return EditorState::amountTip(row <= 3 ? b.base1 : b.base2, true);
+}
+
 void ValueTableModel::setBaseEdit(const QString &name, const QString &text)
 {
     m_controls.setText(name, text);
@@ -273,10 +283,13 @@ bool ValueTableModel::StoreCurrentCell()
         const Bases b = basesOf(m_copy);
         const DecimalWord &base = i >= 30 ? b.base2 : b.base1;
         const QString text = cell(m_column, m_row);
-        const auto byte = ParseChannelValue(text, base.magnitude, base.decimals);
-        if (!byte)
+        // An amount past the base's 252 steps is held at the largest, and said.
+        const ChannelAmount amount = CheckChannelAmount(text, base.magnitude, base.decimals);
+        if (amount.fit == AmountFit::NotAnAmount || amount.fit == AmountFit::Negative)
             return refuse(QStringLiteral("TableauValue"), text);
-        m_copy[std::size_t(Val::Channel0 + i)] = *byte;
+        if (amount.fit == AmountFit::OverMaximum)
+            tell(messageText(Msg::ValueOverMaximum), int(UserPrompt::Kind::Warning));
+        m_copy[std::size_t(Val::Channel0 + i)] = amount.byte;
     }
     ShowTable();
     configModified();

@@ -49,6 +49,8 @@ public:
     {
         return m_cells[std::size_t(row)][std::size_t(column)];
     }
+    // A value cell's unit and largest amount (its channel's base); empty for the headers.
+    QString cellTip(int column, int row) const;
     int currentColumn() const { return m_column; }
     int currentRow() const { return m_row; }
 

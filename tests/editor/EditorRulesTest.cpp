@@ -2,6 +2,7 @@
 #include "EditorModel.h"
 #include "EditorServices.h"
 #include "Encodings.h"
+#include "MoneyModel.h"
 #include "RecordingPrompt.h"
 #include "VirtualValidator.h"
 
@@ -390,6 +391,42 @@ TEST(ChannelCopy, CopiesMovesAndRefusesTheSameChannel)
     Rules light(0x33);
     light.model.channelCopy().open();
     EXPECT_EQ(light.model.channelCopy().maximum(), 24);
+}
+
+// Under every output type each of the six slots says its unit and largest value, and a slot
+// that holds a price corrects an amount past 12.60 with the message.
+TEST(Amounts, EverySlotOfEveryOutputTypeSaysItsUnitAndMaximum)
+{
+    const QString amount =
+        QStringLiteral("An amount in steps of 0.05, at most 12.60; empty: not set");
+    for (int type : {0, 1, 2, 3, 4, 6, 7}) {
+        for (bool resetEx : {false, true}) {
+            Rules r;
+            r.pick("GroupType", type);
+            if (r.visible("ChkResetEx") && r.checked("ChkResetEx") != resetEx)
+                r.click("ChkResetEx");
+            for (const char *slot : MoneyModel::kPriceBoxes) {
+                const QString tip = r.model.control(slot).toolTip;
+                EXPECT_TRUE(tip.contains(QStringLiteral("at most")) ||
+                            tip.contains(QStringLiteral(" to ")))
+                    << "type " << type << " " << slot << ": " << tip.toStdString();
+            }
+            const bool chained = type == 2 || type == 4 || type == 6 || type == 7;
+            for (const char *slot : {"Eprix1", "Eprix2", "Eprix4"}) {
+                if ((QLatin1String(slot) == QLatin1String("Eprix4") && !chained) ||
+                    !r.visible(slot))
+                    continue;
+                EXPECT_EQ(r.model.control(slot).toolTip, amount) << type << slot;
+                r.prompt.clear();
+                ASSERT_TRUE(r.model.type(slot, "20")) << type << slot;
+                ASSERT_TRUE(r.model.leave(slot));
+                EXPECT_EQ(r.prompt.told(),
+                          QStringList{"Value over the maximum, it will be correct"})
+                    << type << slot;
+                EXPECT_EQ(r.text(slot).trimmed(), "12.60") << type << slot;
+            }
+        }
+    }
 }
 
 TEST(Amounts, AboveWhatTheBaseShowsIsCorrectedAndNegativeIsRefused)

@@ -63,6 +63,16 @@ TEST_F(ProfilCModelTest, TheValueIsNormalisedInTheBaseOfTheLearningChannel)
     high->leave(QStringLiteral("EditValue"));
     EXPECT_EQ(prompt.told(), QStringList{QStringLiteral("Value must be between 0 and 255")});
     EXPECT_TRUE(text(*high, QStringLiteral("EditValue")).isEmpty());
+
+    // Past 252 steps of the base: held at the largest, said, and the tip gives both.
+    prompt.clear();
+    EXPECT_TRUE(
+        high->control(QStringLiteral("EditValue"))
+            .toolTip.startsWith(QStringLiteral("An amount in steps of 1.0, at most 252.0")));
+    high->type(QStringLiteral("EditValue"), QStringLiteral("5000"));
+    high->leave(QStringLiteral("EditValue"));
+    EXPECT_EQ(prompt.told(), QStringList{messageText(Msg::ValueOverMaximum)});
+    EXPECT_EQ(text(*high, QStringLiteral("EditValue")), QLatin1String(" 252.0"));
 }
 
 TEST_F(ProfilCModelTest, TheToleranceGridIsNormalisedToSevenColumns)

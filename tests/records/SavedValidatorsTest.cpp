@@ -6,6 +6,7 @@
 #include "ProfileStore.h"
 #include "RecordingPrompt.h"
 #include "SavedValidatorsModel.h"
+#include "SavedValidatorsTable.h"
 #include "TDBModule.h"
 #include "TableSchema.h"
 #include "ValidatorStoreTables.h"
@@ -141,7 +142,7 @@ TEST(SavedValidators, ListedInTheOrderOfTheirIndex)
 
     SavedValidatorsModel browser(db, prompt, nullptr);
     QStringList listed;
-    for (const ValidatorStore::Entry &entry : browser.rows())
+    for (const auto &entry : browser.rows())
         listed.append(entry.identification);
     EXPECT_EQ(listed, (QStringList{"alpha", "Beta", "zulu"}));
 
@@ -192,4 +193,76 @@ TEST(SavedValidators, TheEditorSaysWhichCharactersTheTablesCannotHold)
                                        QStringLiteral("Ł, ź")})});
     EXPECT_EQ(db.Gettoniere()->recordCount(), 0);
     EXPECT_EQ(db.Channel()->recordCount(), 0);
+}
+
+// The browser speaks the editor's words: captions for headers, the family as the editor shows
+// it, the channel windows minimum first in the editor's order, and nothing where a byte is not
+// set. The filter takes identification, description or serial number, and keeps the chosen
+// validator chosen while it is shown.
+TEST(SavedValidators, ColumnsInTheEditorsWordsAndAFilterInMemory)
+{
+    QTemporaryDir root;
+    TDBModule db;
+    ASSERT_TRUE(db.open(QDir(root.path()).filePath(QStringLiteral("TarvikDB"))));
+    RecordingPrompt prompt(UserPrompt::Answer::Yes);
+    ValidatorStore store(db, prompt);
+    ConfigImage shop = VirtualValidator::factoryImage(0x13, 1001);
+    ChannelRecord &first = shop.channels[0];
+    for (int b = 0; b < 15; ++b)
+        first[std::size_t(b)] = quint8(10 + b); // every window byte its own
+    shop.channels[9].fill(255);                 // an empty channel
+    ASSERT_EQ(store.store(shop, QStringLiteral("SHOP-12"), QStringLiteral("Bar du Port")),
+              ValidatorStore::Outcome::Stored);
+    ASSERT_EQ(store.store(VirtualValidator::factoryImage(0x23, 1002), QStringLiteral("BAR-3"),
+                          QStringLiteral("station")),
+              ValidatorStore::Outcome::Stored);
+
+    SavedValidatorsModel browser(db, prompt, nullptr);
+    SavedValidatorsTable &table = browser.table();
+    EXPECT_EQ(SavedValidatorsTable::headers(),
+              (QStringList{"Identification", "Description", "Serial Number", "Version"}));
+    EXPECT_EQ(table.headerData(3, Qt::Horizontal).toString(), QStringLiteral("Version"));
+    ASSERT_EQ(table.rowCount(), 2);
+    EXPECT_EQ(table.index(0, 0).data().toString(), QStringLiteral("BAR-3"));
+    EXPECT_EQ(table.index(0, 3).data().toString(), QStringLiteral("Wake-Up"));
+    EXPECT_EQ(table.index(1, 3).data().toString(), QStringLiteral("5.3")); // stored as "19"
+    EXPECT_EQ(table.index(1, 2).data().toString(), QString()); // the tables keep no serial
+
+    const QStringList columns = SavedValidatorsModel::channelColumns();
+    EXPECT_EQ(columns.mid(0, 5), (QStringList{"Channel", "HFU low min", "HFU low max",
+                                              "HFU high min", "HFU high max"}));
+    EXPECT_EQ(columns.mid(15), (QStringList{"Enable", "Value", "Sub"}));
+
+    // "port" is in SHOP-12's description only: it becomes the chosen one, with its channels.
+    browser.setFilter(QStringLiteral("PORT"));
+    ASSERT_EQ(table.rowCount(), 1);
+    ASSERT_EQ(browser.current(), 0);
+    const QList<QStringList> &channels = browser.channelRows();
+    ASSERT_EQ(channels.size(), 60);
+    const QStringList &one = channels.at(0);
+    ASSERT_EQ(one.size(), columns.size());
+    EXPECT_EQ(one.at(0), QStringLiteral("1"));
+    EXPECT_EQ(one.at(1), QString::number(first[Rec::HfuLowMin]));
+    EXPECT_EQ(one.at(4), QString::number(first[Rec::HfuHighMax]));
+    EXPECT_EQ(one.at(5), QString::number(first[Rec::DimMin]));
+    EXPECT_EQ(one.at(13), QString::number(first[Rec::AmpMin]));
+    EXPECT_EQ(one.at(17), QString::number(first[Rec::Substitute]));
+    EXPECT_FALSE(one.at(16).isEmpty()); // the value as an amount
+    const QStringList &empty = channels.at(9);
+    EXPECT_EQ(empty.at(0), QStringLiteral("10"));
+    for (int col = 1; col < empty.size(); ++col)
+        EXPECT_EQ(empty.at(col), QString()) << columns.at(col).toStdString();
+
+    // Identification, case aside; the chosen validator stays chosen while it shows.
+    browser.setFilter(QStringLiteral("sHoP"));
+    EXPECT_EQ(browser.current(), 0);
+    browser.setFilter(QString());
+    ASSERT_EQ(table.rowCount(), 2);
+    EXPECT_EQ(browser.current(), 1);
+    EXPECT_EQ(table.row(browser.current()).identification, QStringLiteral("SHOP-12"));
+    // Two fields never make one match; nothing shown, nothing chosen.
+    browser.setFilter(QStringLiteral("12 bar"));
+    EXPECT_EQ(table.rowCount(), 0);
+    EXPECT_EQ(browser.current(), -1);
+    EXPECT_TRUE(browser.channelRows().isEmpty());
 }

@@ -22,7 +22,7 @@
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QProcess>
-#include <QTableWidget>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -64,7 +64,7 @@ TEST(Sharing, ProgramOpenWhileCliStores)
     SavedValidatorsModel browser(db, prompt, nullptr);
     TFormReadFileData form(browser);
     form.show();
-    auto *grid = form.findChild<QTableWidget *>(QStringLiteral("GridValidators"));
+    auto *grid = form.findChild<QTableView *>(QStringLiteral("GridValidators"))->model();
     auto *filter = form.findChild<QLineEdit *>(QStringLiteral("EFilter"));
     ASSERT_TRUE(grid && filter);
     ValueTableStore values(db, prompt);
@@ -102,8 +102,9 @@ TEST(Sharing, ProgramOpenWhileCliStores)
 
     QTest::keyClicks(filter, QStringLiteral("S")); // the browser lists again
     ASSERT_EQ(grid->rowCount(), 1);
-    EXPECT_EQ(grid->item(0, 0)->text(), QStringLiteral("shop-1")); // as the overwrite named it
-    EXPECT_EQ(grid->item(0, 1)->text(), QStringLiteral("second"));
+    EXPECT_EQ(grid->index(0, 0).data().toString(),
+              QStringLiteral("shop-1")); // as the overwrite named it
+    EXPECT_EQ(grid->index(0, 1).data().toString(), QStringLiteral("second"));
     filter->clear();
     QTest::keyClicks(filter, QStringLiteral(" "));
     QTest::keyClick(filter, Qt::Key_Backspace);

@@ -1,5 +1,7 @@
 // Value tables: the store as Tarvik and python3-dbfread read it back, and the form's model.
 #include "DbfTable.h"
+#include "Encodings.h"
+#include "Messages.h"
 #include "RecordingPrompt.h"
 #include "TDBModule.h"
 #include "TestFiles.h"
@@ -234,6 +236,26 @@ TEST_F(ValueTableModelTest, RightDoesNotStoreTheCellAClickDoes)
     form.click(QStringLiteral("BitBtn3"));
     EXPECT_EQ(editor[Val::Channel0], 8);
     EXPECT_EQ(editor[70], sampleBlock()[70]);
+}
+
+// A value past the base's 252 steps is held at the largest and said; every value cell tells its
+// step and largest amount, the headers nothing.
+TEST_F(ValueTableModelTest, AValueOverTheMaximumIsCorrectedAndSaid)
+{
+    ValueTableModel form(editor, &modified, false, nullptr, &prompt, &store, false);
+    form.FormActivate();
+    EXPECT_EQ(form.cellTip(1, 1),
+              QStringLiteral("An amount in steps of 0.25, at most 63.00; "
+                             "-P1- or -P2- pays price 1 or 2; empty: no value"));
+    EXPECT_EQ(form.cellTip(1, 4).left(27), QStringLiteral("An amount in steps of 0.50,"));
+    EXPECT_TRUE(form.cellTip(0, 1).isEmpty());
+    EXPECT_TRUE(form.cellTip(1, 0).isEmpty());
+    prompt.clear();
+    form.gridClick(1, 1);
+    form.gridType(QStringLiteral("500"));
+    form.gridClick(2, 1);
+    EXPECT_EQ(form.workingCopy()[Val::Channel0], kValueMaximum);
+    EXPECT_EQ(prompt.told(), QStringList{messageText(Msg::ValueOverMaximum)});
 }
 
 TEST_F(ValueTableModelTest, LightLayoutSaveAndOpen)

@@ -16,6 +16,11 @@ TFormChanges::TFormChanges(ChangesModel &model, QWidget *parent)
     m_close->setObjectName(QStringLiteral("BtnClose"));
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->setMinimumSize(420, 260);
+    // A long line (the sentence of an empty list, a long change) wraps inside the window
+    // rather than running past it.
+    m_list->setWordWrap(true);
+    m_list->setResizeMode(QListView::Adjust);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(m_close);

@@ -122,7 +122,8 @@ void TFormProgCoin::build()
 
     // Every channel's windows with this learning's coins over them.
     m_chart = new WindowsChartView(m_model.chart(), this);
-    m_chart->setMinimumHeight(280);
+    // Low enough that the form fits a 1366x768 laptop above its task bar, frame included.
+    m_chart->setMinimumHeight(220);
     column->addWidget(m_chart, 1);
 
     column->addLayout(

@@ -10,7 +10,7 @@ class ProgCoinModel;
 class QTimer;
 class WindowsChartView;
 
-// "Coin calibration": the coin learning window over ProgCoinModel. It builds one widget per
+// "Coin learning": the coin learning window over ProgCoinModel. It builds one widget per
 // control, named after it, forwards typing, leaving and clicks, repaints what the model reports
 // changed, and runs the 10 ms timer whose ticks poll the validator for coins.
 class TFormProgCoin final : public QDialog

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableView>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -19,14 +20,15 @@ template <typename W> W *named(W *widget, const char *name)
     return widget;
 }
 
-QTableWidget *grid(const char *name, QWidget *parent)
+template <typename View> View *grid(const char *name, QWidget *parent)
 {
-    auto *table = named(new QTableWidget(parent), name);
+    auto *table = named(new View(parent), name);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->verticalHeader()->hide();
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // One line of text a row, as a data grid shows it.
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     return table;
 }
 
@@ -34,26 +36,30 @@ QTableWidget *grid(const char *name, QWidget *parent)
 
 TFormReadFileData::TFormReadFileData(SavedValidatorsModel &model, QWidget *parent)
     : QDialog(parent), m_model(model), m_filterLabel(named(new QLabel(this), "LFilter")),
-      m_filter(named(new QLineEdit(this), "EFilter")), m_validators(grid("GridValidators", this)),
-      m_channels(grid("GridChannels", this)), m_open(named(new QPushButton(this), "BtnOpen")),
+      m_filter(named(new QLineEdit(this), "EFilter")),
+      m_validators(grid<QTableView>("GridValidators", this)),
+      m_channels(grid<QTableWidget>("GridChannels", this)),
+      m_open(named(new QPushButton(this), "BtnOpen")),
       m_delete(named(new QPushButton(this), "BtnDelete")),
       m_close(named(new QPushButton(this), "BtnClose"))
 {
     setObjectName(QStringLiteral("TFormReadFileData"));
     m_filterLabel->setBuddy(m_filter);
-    // The dBase grids are titled by their fields, as a data grid shows them.
-    m_validators->setColumnCount(3);
-    m_validators->setHorizontalHeaderLabels(
-        {QStringLiteral("IDENT"), QStringLiteral("DESCRIPTIO"), QStringLiteral("VERSION")});
+    // The validators' grid shows the model's rows as they are: thousands of them, so its
+    // columns are sized once, on the rows the view can show, never per keystroke.
+    m_validators->setModel(&m_model.table());
+    m_validators->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+    m_validators->horizontalHeader()->setStretchLastSection(true);
+    // Sized once per validator shown, not once per cell filled.
+    m_channels->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
     m_channels->setColumnCount(int(SavedValidatorsModel::channelColumns().size()));
-    m_channels->setHorizontalHeaderLabels(SavedValidatorsModel::channelColumns());
 
     auto *filter = new QHBoxLayout;
     filter->addWidget(m_filterLabel);
     filter->addWidget(m_filter, 1);
     auto *grids = new QHBoxLayout;
-    grids->addWidget(m_validators, 1);
-    grids->addWidget(m_channels, 2);
+    grids->addWidget(m_validators, 2);
+    grids->addWidget(m_channels, 3);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     for (QPushButton *button : {m_open, m_delete, m_close}) {
@@ -64,19 +70,21 @@ TFormReadFileData::TFormReadFileData(SavedValidatorsModel &model, QWidget *paren
     layout->addLayout(filter);
     layout->addLayout(grids, 1);
     layout->addLayout(buttons);
-    resize(1100, 520);
+    resize(1240, 560);
+    m_validators->resizeColumnsToContents();
 
     connect(m_filter, &QLineEdit::textEdited, this, [this](const QString &text) {
         m_model.setFilter(text);
         showValidators();
     });
-    connect(m_validators, &QTableWidget::currentCellChanged, this, [this](int row) {
-        if (row == m_model.current())
-            return;
-        m_model.select(row);
-        showChannels();
-    });
-    connect(m_validators, &QTableWidget::cellDoubleClicked, m_open, &QPushButton::click);
+    connect(m_validators->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex &current) {
+                if (current.row() == m_model.current())
+                    return;
+                m_model.select(current.row());
+                showChannels();
+            });
+    connect(m_validators, &QTableView::doubleClicked, m_open, &QPushButton::click);
     connect(m_open, &QPushButton::clicked, this, [this] {
         if (m_model.BtnOpenClick())
             accept();
@@ -99,23 +107,28 @@ void TFormReadFileData::showTexts()
     m_delete->setText(c.state(QStringLiteral("BtnDelete")).text);
     m_close->setText(c.state(QStringLiteral("BtnClose")).text);
     m_validators->setAccessibleName(c.state(QStringLiteral("TFormReadFileData")).text);
-    m_channels->setAccessibleName(c.state(QStringLiteral("TFormReadFileData")).text +
-                                  QStringLiteral(" CANAL"));
+    m_channels->setAccessibleName(c.state(QStringLiteral("TFormReadFileData")).text + u' ' +
+                                  SavedValidatorsModel::channelColumns().constFirst());
+    m_channels->setHorizontalHeaderLabels(SavedValidatorsModel::channelColumns());
+    m_channels->resizeColumnsToContents();
 }
 
 void TFormReadFileData::showValidators()
 {
-    const QSignalBlocker blocker(m_validators);
-    const auto &rows = m_model.rows();
-    m_validators->setRowCount(int(rows.size()));
-    for (int r = 0; r < rows.size(); ++r) {
-        const QStringList cells{rows[r].identification, rows[r].description, rows[r].version};
-        for (int c = 0; c < cells.size(); ++c)
-            m_validators->setItem(r, c, new QTableWidgetItem(cells[c]));
-    }
-    if (m_model.current() >= 0)
-        m_validators->selectRow(m_model.current());
+    // The grid follows the model's filter by itself; the selection is the model's.
+    showSelection();
     showChannels();
+}
+
+void TFormReadFileData::showSelection()
+{
+    const QSignalBlocker blocker(m_validators->selectionModel());
+    if (m_model.current() >= 0) {
+        const QModelIndex current = m_model.table().index(m_model.current(), 0);
+        m_validators->selectionModel()->setCurrentIndex(
+            current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        m_validators->scrollTo(current);
+    }
 }
 
 void TFormReadFileData::showChannels()
@@ -124,11 +137,18 @@ void TFormReadFileData::showChannels()
     m_open->setEnabled(c.state(QStringLiteral("BtnOpen")).enabled);
     m_delete->setEnabled(c.state(QStringLiteral("BtnDelete")).enabled);
     const auto &rows = m_model.channelRows();
+    // A keystroke that keeps the same validator leaves its grid as it is.
+    if (rows == m_shownChannels && m_channels->rowCount() == rows.size())
+        return;
+    m_shownChannels = rows;
+    m_channels->setUpdatesEnabled(false);
     m_channels->setRowCount(int(rows.size()));
     for (int r = 0; r < rows.size(); ++r) {
         for (int col = 0; col < rows[r].size(); ++col)
             m_channels->setItem(r, col, new QTableWidgetItem(rows[r][col]));
     }
+    m_channels->resizeColumnsToContents();
+    m_channels->setUpdatesEnabled(true);
 }
 
 void TFormReadFileData::changeEvent(QEvent *event)

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QDialog>
+#include <QList>
+#include <QStringList>
 
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QTableView;
 class QTableWidget;
 class SavedValidatorsModel;
 
@@ -21,14 +24,16 @@ protected:
 private:
     void showTexts();
     void showValidators();
+    void showSelection();
     void showChannels();
 
     SavedValidatorsModel &m_model;
     QLabel *m_filterLabel;
     QLineEdit *m_filter;
-    QTableWidget *m_validators;
+    QTableView *m_validators;
     QTableWidget *m_channels;
     QPushButton *m_open;
     QPushButton *m_delete;
     QPushButton *m_close;
+    QList<QStringList> m_shownChannels;
 };

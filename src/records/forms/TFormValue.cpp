@@ -234,6 +234,7 @@ void TFormValue::repaintGrids()
                 m_table->setItem(row, col, item);
             }
             item->setText(m_model.cell(col, row));
+            item->setToolTip(m_model.cellTip(col, row));
         }
     }
     m_table->setCurrentCell(m_model.currentRow(), m_model.currentColumn());

@@ -25,6 +25,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
+#include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -75,7 +76,7 @@ private Q_SLOTS:
         editor.loadImage(ConfigImage::blank(), false);
         SavedValidatorsModel model(db, prompt, &editor);
         TFormReadFileData form(model);
-        auto *list = form.findChild<QTableWidget *>(QStringLiteral("GridValidators"));
+        auto *list = form.findChild<QTableView *>(QStringLiteral("GridValidators"))->model();
         QCOMPARE(list->rowCount(), 2);
         QTest::keyClicks(form.findChild<QLineEdit *>(QStringLiteral("EFilter")),
                          QStringLiteral("corn"));

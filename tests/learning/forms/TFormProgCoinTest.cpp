@@ -57,7 +57,7 @@ private Q_SLOTS:
         TFormProgCoin form(model);
         form.show();
         QVERIFY(QTest::qWaitForWindowExposed(&form));
-        QCOMPARE(form.windowTitle(), QStringLiteral("Coin calibration"));
+        QCOMPARE(form.windowTitle(), QStringLiteral("Coin learning"));
         QCOMPARE(form.findChild<QPushButton *>("BtnLoad")->text(), QStringLiteral("&Clear"));
         QVERIFY(form.findChild<QPushButton *>("BtnAnalyse")->isHidden());
 
@@ -195,7 +195,7 @@ private Q_SLOTS:
         QTimer::singleShot(0, this, [&] {
             auto *form = qobject_cast<TFormProgCoin *>(QApplication::activeModalWidget());
             QVERIFY(form);
-            QCOMPARE(form->windowTitle(), QStringLiteral("Coin calibration"));
+            QCOMPARE(form->windowTitle(), QStringLiteral("Coin learning"));
             device.insertCoin(CoinKind::Euro200);
             auto *coins = form->findChild<QLabel *>("LabelCoins");
             QVERIFY(QTest::qWaitFor([&] { return coins->text() == QLatin1String("1"); }, 20000));
