@@ -97,7 +97,7 @@ TEST(ProgCoin, TenCoinsThenOkStoreTheChannelWithTheDefaultMargins)
     EXPECT_TRUE(bench.prompt.all().isEmpty());
     // The euro coin is already learned in channel 4 of the factory memory.
     EXPECT_TRUE(bench.form->control(QStringLiteral("LabelMatched")).visible);
-    EXPECT_EQ(bench.text("LabelMatched"), QStringLiteral("4"));
+    EXPECT_EQ(bench.text("LabelMatched"), QStringLiteral("Matched: Channel 4 (0.50)"));
 
     // Each window is the smallest and largest reading, shown in its edits and its track bar.
     Windows learned = bench.session.windows();
@@ -207,11 +207,27 @@ TEST(ProgCoin, SaveAndDirectWriteReachTheValidatorAtOnce)
     }
 }
 
-TEST(ProgCoin, TheFirstCoinWithoutAChannelAsksForOne)
+TEST(ProgCoin, ACoinBeforeAChannelIsChosenIsNotCounted)
 {
     Bench bench;
+    const QString status = ProgCoinModel::statusName();
+    bench.insert(CoinKind::Euro050, 2);
+    // Nothing learned, nothing counted; the status line says why, without a box, and the
+    // coin still shows the channel that holds it.
+    EXPECT_TRUE(bench.prompt.all().isEmpty());
+    EXPECT_EQ(bench.form->control(status).text,
+              QStringLiteral("Coin ignored: choose a channel first"));
+    EXPECT_EQ(bench.session.coinCount(), 0);
+    EXPECT_EQ(bench.text("LabelCoins"), QStringLiteral("0"));
+    EXPECT_EQ(bench.shownWindow(0), (Window{255, 0}));
+    EXPECT_EQ(bench.form->chart().sampleCount(), 0);
+    EXPECT_EQ(bench.text("LabelMatched"), QStringLiteral("Matched: Channel 4 (0.50)"));
+    // Choosing a channel clears the line; the next coin is the first one.
+    ASSERT_TRUE(bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("30")));
+    EXPECT_TRUE(bench.form->control(status).text.isEmpty());
     bench.insert(CoinKind::Euro100, 1);
-    EXPECT_EQ(bench.prompt.told(), QStringList{"Select number of channel !"});
+    EXPECT_EQ(bench.session.coinCount(), 1);
+    EXPECT_TRUE(bench.prompt.all().isEmpty());
     // The first coin: every window is its reading; the maximum is marked red, the minimum's
     // difference hidden (the window started unset).
     for (int w = 0; w < kWindows; ++w) {
@@ -224,10 +240,9 @@ TEST(ProgCoin, TheFirstCoinWithoutAChannelAsksForOne)
                   QStringLiteral("+%1").arg(m));
         EXPECT_EQ(bench.form->control(ProgCoinModel::widthName(w)).text, QStringLiteral("0"));
     }
-    // Later coins say nothing more; the same reading again leaves every mark of the first coin
-    // back at its colour.
+    // The same reading again leaves every mark of the first coin back at its colour.
     bench.form->addCoin(bench.session.measures());
-    EXPECT_EQ(bench.prompt.told().size(), 1);
+    EXPECT_TRUE(bench.prompt.all().isEmpty());
     for (int w = 0; w < kWindows; ++w) {
         EXPECT_EQ(bench.form->tint(QLatin1String(kWindowPlaces[w].maxEdit)), Tint::Normal);
         EXPECT_EQ(bench.form->tint(ProgCoinModel::readingName(w)), Tint::Blue);
@@ -244,9 +259,10 @@ TEST(ProgCoin, TheFirstCoinWithoutAChannelAsksForOne)
     EXPECT_EQ(bench.form->control(ProgCoinModel::minDifferenceName(0)).text, QStringLiteral("-3"));
     EXPECT_EQ(bench.form->tint(QStringLiteral("HFUMAXL")), Tint::Normal);
 
-    // Accepting without a channel says it again and goes back to the channel.
+    // Accepting without a channel says so and goes back to the channel.
     QString focused;
     bench.form->focusRequested = [&](const QString &name) { focused = name; };
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("0"));
     bench.prompt.setNextAnswers({Answer::Yes});
     bench.form->click(QStringLiteral("BtnOK"));
     EXPECT_EQ(bench.prompt.told().last(), QStringLiteral("Select number of channel !"));
@@ -257,12 +273,12 @@ TEST(ProgCoin, TheFirstCoinWithoutAChannelAsksForOne)
 TEST(ProgCoin, ABoundTypedAboveItsMaximumIsCorrected)
 {
     Bench bench;
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("33"));
     bench.insert(CoinKind::Euro010, 3);
     const Window hfuLow = bench.session.windows()[0];
     // Leaving an edit that was not changed does nothing.
     bench.form->leave(QStringLiteral("HFUMINL"));
-    EXPECT_EQ(bench.prompt.told(), QStringList{"Select number of channel !"});
-    bench.prompt.clear();
+    EXPECT_TRUE(bench.prompt.all().isEmpty());
 
     bench.form->type(QStringLiteral("HFUMINL"), QString::number(hfuLow.max + 20));
     bench.form->leave(QStringLiteral("HFUMINL"));
@@ -547,4 +563,91 @@ TEST(ProgCoin, APortLostWhileWaitingForCoinsIsSaidOnce)
     bench.insert(CoinKind::Euro020, 3);
     EXPECT_EQ(bench.prompt.told(), QStringList{"Internal or Comunication Error"});
     EXPECT_EQ(bench.text("LabelCoins"), QStringLiteral("2"));
+}
+
+TEST(ProgCoin, ClearPutsTheTrackBarsBackAndTheNextLearningStartsOnTheLastChannel)
+{
+    struct Windows_ final : LearningWindows
+    {
+        void runProgCoin(ProgCoinModel &model) override { run(model); }
+        void runChannelToAdjust(CAdjustModel &) override {}
+        void showReferenceNotice() override {}
+        void showOverlap(const ConfigImage &) override {}
+        std::function<void(ProgCoinModel &)> run;
+    } windows;
+    Bench bench;
+    LearningContext context;
+    context.prompt = &bench.prompt;
+    context.windows = &windows;
+    QList<int> used;
+    context.learnChannelUsed = [&](int channel) { used.append(channel); };
+
+    // The first learning starts on no channel; Clear after three coins puts every track bar
+    // back where it started (thumb at 0, no band) and forgets the match.
+    windows.run = [&](ProgCoinModel &m) {
+        EXPECT_EQ(m.channel(), 0);
+        m.type(QStringLiteral("SpinEdit1"), QStringLiteral("12"));
+        for (int i = 0; i < 3; ++i) {
+            bench.device.insertCoin(CoinKind::Euro050);
+            m.tick();
+        }
+        EXPECT_NE(m.trackBar(QStringLiteral("HFUMINBAR")).position, 0);
+        m.click(QStringLiteral("BtnLoad"));
+        for (int w = 0; w < kWindows; ++w)
+            EXPECT_EQ(m.trackBar(QLatin1String(kWindowPlaces[w].trackBar)),
+                      (TrackBarState{0, 255, 0}))
+                << w;
+        EXPECT_EQ(m.control(QStringLiteral("LabelCoins")).text, QStringLiteral("0"));
+        EXPECT_FALSE(m.control(QStringLiteral("LabelMatched")).visible);
+        m.click(QStringLiteral("BtnCancel"));
+    };
+    EXPECT_FALSE(LearningFlows::learnCoins(bench.link, bench.image, context));
+    EXPECT_EQ(used, QList<int>{12});
+
+    // The next opening starts on it; a channel this validator lacks is not taken.
+    context.learnChannel = 12;
+    windows.run = [&](ProgCoinModel &m) {
+        EXPECT_EQ(m.channel(), 12);
+        m.click(QStringLiteral("BtnCancel"));
+    };
+    LearningFlows::learnCoins(bench.link, bench.image, context);
+    context.learnChannel = 61;
+    windows.run = [&](ProgCoinModel &m) { EXPECT_EQ(m.channel(), 0); };
+    LearningFlows::learnCoins(bench.link, bench.image, context);
+}
+
+TEST(ProgCoin, AnOverlapShowsWhileTheCoinsComeAndTheBoundsMove)
+{
+    Bench bench;
+    const QString status = ProgCoinModel::statusName();
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("12"));
+    EXPECT_TRUE(bench.form->overlapping().isEmpty());
+    // A coin of channel 4's kind: with the margins OK would add, channel 12 would overlap it,
+    // and the form says so before OK, in the status line and in the chart.
+    bench.insert(CoinKind::Euro050, 1);
+    EXPECT_EQ(bench.form->overlapping(), QList<int>{4});
+    EXPECT_EQ(bench.form->control(status).text, QStringLiteral("Overlap with Channel 4 (0.50)"));
+    EXPECT_EQ(bench.form->tint(status), Tint::Red);
+    EXPECT_TRUE(bench.form->chart().overlaps().contains((ChannelPair{4, 12})));
+    EXPECT_EQ(bench.image.channels[11][Rec::HfuLowMin], 255); // nothing stored yet
+
+    // Moving the HFU low window away from channel 4 ends the overlap at once; back, it returns.
+    const Window hfuLow = bench.session.windows()[0];
+    bench.form->type(QStringLiteral("HFUMINL"), QStringLiteral("10"));
+    bench.form->type(QStringLiteral("HFUMINH"), QStringLiteral("12"));
+    bench.form->leave(QStringLiteral("HFUMINH"));
+    EXPECT_TRUE(bench.form->overlapping().isEmpty());
+    EXPECT_TRUE(bench.form->control(status).text.isEmpty());
+    bench.form->type(QStringLiteral("HFUMINL"), QString::number(hfuLow.min));
+    bench.form->type(QStringLiteral("HFUMINH"), QString::number(hfuLow.max));
+    bench.form->leave(QStringLiteral("HFUMINH"));
+    EXPECT_EQ(bench.form->overlapping(), QList<int>{4});
+
+    // Another channel chosen carries the windows with it; Clear ends the overlap.
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("4"));
+    EXPECT_TRUE(bench.form->overlapping().isEmpty()); // channel 4 itself is being replaced
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("12"));
+    bench.form->click(QStringLiteral("BtnLoad"));
+    EXPECT_TRUE(bench.form->overlapping().isEmpty());
+    EXPECT_TRUE(bench.form->control(status).text.isEmpty());
 }
