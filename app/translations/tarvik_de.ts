@@ -1338,6 +1338,38 @@
         <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
         <translation>Der Port ging während der Übertragung verloren: %d von %d Bytes haben den Port verlassen: Die Aktualisierung ist nicht vollständig.</translation>
     </message>
+    <message>
+        <source>Coin ignored: choose a channel first</source>
+        <translation>Münze ignoriert: zuerst einen Kanal wählen</translation>
+    </message>
+    <message>
+        <source>Matched: %s</source>
+        <translation>Erkannt: %s</translation>
+    </message>
+    <message>
+        <source>Overlap with %s</source>
+        <translation>Überschneidung mit %s</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
+        <translation>Die eigene Konfiguration des Münzprüfers konnte vor dem Klonen nicht gelesen werden: nichts wurde geklont.</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <translation>Die eigene Konfiguration des Münzprüfers konnte vor dem Klonen nicht gesichert werden: %s. Trotzdem klonen?</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
+        <translation>Die eigene Konfiguration des Münzprüfers wurde in %s gesichert.</translation>
+    </message>
+    <message>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
+        <translation>Fenster für die Sensoren dieses Münzprüfers korrigiert: %s.</translation>
+    </message>
+    <message>
+        <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
+        <translation>Fenster unverändert kopiert: die Quelle oder dieser Münzprüfer hat keinen Referenzkanal, um sie zu korrigieren.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1642,6 +1674,14 @@
         <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
         <translation>Wartezeit auf das Echo der Anzahl oder das erste Byte einer Antwort, in Millisekunden (Vorgabe %1):</translation>
     </message>
+    <message>
+        <source>&amp;Back up before cloning</source>
+        <translation>Vor dem Klonen si&amp;chern</translation>
+    </message>
+    <message>
+        <source>Reads the validator a clone writes to and keeps its own configuration among the backups first</source>
+        <translation>Liest den Münzprüfer, auf den ein Klon schreibt, und sichert zuerst dessen eigene Konfiguration bei den Sicherungen</translation>
+    </message>
 </context>
 <context>
     <name>TFormProfilC</name>
@@ -1915,6 +1955,42 @@
     <message>
         <source>AMP</source>
         <translation>AMP</translation>
+    </message>
+    <message>
+        <source>%1 minimum: the lowest reading the channel takes</source>
+        <translation>%1 Minimum: der niedrigste Messwert, den der Kanal annimmt</translation>
+    </message>
+    <message>
+        <source>%1 maximum: the highest reading the channel takes</source>
+        <translation>%1 Maximum: der höchste Messwert, den der Kanal annimmt</translation>
+    </message>
+    <message>
+        <source>%1: the reading of the last coin</source>
+        <translation>%1: der Messwert der letzten Münze</translation>
+    </message>
+    <message>
+        <source>%1: the width of the window (maximum - minimum)</source>
+        <translation>%1: die Breite des Fensters (Maximum - Minimum)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading minus the minimum (below 0: under the window)</source>
+        <translation>%1: der letzte Messwert minus das Minimum (unter 0: unter dem Fenster)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading minus the maximum (above 0: over the window)</source>
+        <translation>%1: der letzte Messwert minus das Maximum (über 0: über dem Fenster)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading, and the window as a band</source>
+        <translation>%1: der letzte Messwert, und das Fenster als Band</translation>
+    </message>
+    <message>
+        <source>The first stored channel whose windows hold the last coin</source>
+        <translation>Der erste gespeicherte Kanal, dessen Fenster die letzte Münze enthalten</translation>
+    </message>
+    <message>
+        <source>Coins counted for the chosen channel</source>
+        <translation>Für den gewählten Kanal gezählte Münzen</translation>
     </message>
 </context>
 <context>

@@ -1338,6 +1338,38 @@
         <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
         <translation>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</translation>
     </message>
+    <message>
+        <source>Coin ignored: choose a channel first</source>
+        <translation>Coin ignored: choose a channel first</translation>
+    </message>
+    <message>
+        <source>Matched: %s</source>
+        <translation>Matched: %s</translation>
+    </message>
+    <message>
+        <source>Overlap with %s</source>
+        <translation>Overlap with %s</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
+        <translation>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <translation>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
+        <translation>The validator&apos;s own configuration was kept in %s.</translation>
+    </message>
+    <message>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
+        <translation>Windows corrected for this validator&apos;s sensors: %s.</translation>
+    </message>
+    <message>
+        <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
+        <translation>Windows copied as they are: the source or this validator has no reference channel to correct them by.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1642,6 +1674,14 @@
         <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
         <translation>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</translation>
     </message>
+    <message>
+        <source>&amp;Back up before cloning</source>
+        <translation>&amp;Back up before cloning</translation>
+    </message>
+    <message>
+        <source>Reads the validator a clone writes to and keeps its own configuration among the backups first</source>
+        <translation>Reads the validator a clone writes to and keeps its own configuration among the backups first</translation>
+    </message>
 </context>
 <context>
     <name>TFormProfilC</name>
@@ -1915,6 +1955,42 @@
     <message>
         <source>AMP</source>
         <translation>AMP</translation>
+    </message>
+    <message>
+        <source>%1 minimum: the lowest reading the channel takes</source>
+        <translation>%1 minimum: the lowest reading the channel takes</translation>
+    </message>
+    <message>
+        <source>%1 maximum: the highest reading the channel takes</source>
+        <translation>%1 maximum: the highest reading the channel takes</translation>
+    </message>
+    <message>
+        <source>%1: the reading of the last coin</source>
+        <translation>%1: the reading of the last coin</translation>
+    </message>
+    <message>
+        <source>%1: the width of the window (maximum - minimum)</source>
+        <translation>%1: the width of the window (maximum - minimum)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading minus the minimum (below 0: under the window)</source>
+        <translation>%1: the last reading minus the minimum (below 0: under the window)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading minus the maximum (above 0: over the window)</source>
+        <translation>%1: the last reading minus the maximum (above 0: over the window)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading, and the window as a band</source>
+        <translation>%1: the last reading, and the window as a band</translation>
+    </message>
+    <message>
+        <source>The first stored channel whose windows hold the last coin</source>
+        <translation>The first stored channel whose windows hold the last coin</translation>
+    </message>
+    <message>
+        <source>Coins counted for the chosen channel</source>
+        <translation>Coins counted for the chosen channel</translation>
     </message>
 </context>
 <context>

@@ -1338,6 +1338,38 @@
         <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
         <translation>Le port a été perdu pendant le transfert : %d octets sur %d ont quitté le port : la mise à jour n&apos;est pas complète.</translation>
     </message>
+    <message>
+        <source>Coin ignored: choose a channel first</source>
+        <translation>Pièce ignorée : choisissez d&apos;abord un canal</translation>
+    </message>
+    <message>
+        <source>Matched: %s</source>
+        <translation>Reconnue : %s</translation>
+    </message>
+    <message>
+        <source>Overlap with %s</source>
+        <translation>Chevauchement avec %s</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
+        <translation>La configuration propre du monnayeur n&apos;a pas pu être lue avant le clonage : rien n&apos;a été cloné.</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <translation>La configuration propre du monnayeur n&apos;a pas pu être conservée avant le clonage : %s. Cloner quand même ?</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
+        <translation>La configuration propre du monnayeur a été conservée dans %s.</translation>
+    </message>
+    <message>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
+        <translation>Fenêtres corrigées pour les capteurs de ce monnayeur : %s.</translation>
+    </message>
+    <message>
+        <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
+        <translation>Fenêtres copiées telles quelles : la source ou ce monnayeur n&apos;a pas de canal de référence pour les corriger.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1642,6 +1674,14 @@
         <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
         <translation>Attente de l&apos;écho du nombre ou du premier octet d&apos;une réponse, en millisecondes (%1 par défaut) :</translation>
     </message>
+    <message>
+        <source>&amp;Back up before cloning</source>
+        <translation>Sauve&amp;garder avant le clonage</translation>
+    </message>
+    <message>
+        <source>Reads the validator a clone writes to and keeps its own configuration among the backups first</source>
+        <translation>Lit le monnayeur sur lequel un clonage écrit et conserve d&apos;abord sa propre configuration parmi les sauvegardes</translation>
+    </message>
 </context>
 <context>
     <name>TFormProfilC</name>
@@ -1915,6 +1955,42 @@
     <message>
         <source>AMP</source>
         <translation>AMP</translation>
+    </message>
+    <message>
+        <source>%1 minimum: the lowest reading the channel takes</source>
+        <translation>%1 minimum : la plus basse mesure que le canal accepte</translation>
+    </message>
+    <message>
+        <source>%1 maximum: the highest reading the channel takes</source>
+        <translation>%1 maximum : la plus haute mesure que le canal accepte</translation>
+    </message>
+    <message>
+        <source>%1: the reading of the last coin</source>
+        <translation>%1 : la mesure de la dernière pièce</translation>
+    </message>
+    <message>
+        <source>%1: the width of the window (maximum - minimum)</source>
+        <translation>%1 : la largeur de la fenêtre (maximum - minimum)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading minus the minimum (below 0: under the window)</source>
+        <translation>%1 : la dernière mesure moins le minimum (sous 0 : sous la fenêtre)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading minus the maximum (above 0: over the window)</source>
+        <translation>%1 : la dernière mesure moins le maximum (au-dessus de 0 : au-dessus de la fenêtre)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading, and the window as a band</source>
+        <translation>%1 : la dernière mesure, et la fenêtre en bande</translation>
+    </message>
+    <message>
+        <source>The first stored channel whose windows hold the last coin</source>
+        <translation>Le premier canal enregistré dont les fenêtres contiennent la dernière pièce</translation>
+    </message>
+    <message>
+        <source>Coins counted for the chosen channel</source>
+        <translation>Pièces comptées pour le canal choisi</translation>
     </message>
 </context>
 <context>

@@ -1338,6 +1338,38 @@
         <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
         <translation>La porta è stata persa durante il trasferimento: %d byte su %d hanno lasciato la porta: l&apos;aggiornamento non è completo.</translation>
     </message>
+    <message>
+        <source>Coin ignored: choose a channel first</source>
+        <translation>Moneta ignorata: scegliere prima un canale</translation>
+    </message>
+    <message>
+        <source>Matched: %s</source>
+        <translation>Riconosciuta: %s</translation>
+    </message>
+    <message>
+        <source>Overlap with %s</source>
+        <translation>Sovrapposizione con %s</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
+        <translation>Non è stato possibile leggere la configurazione della gettoniera prima della clonazione: nulla è stato clonato.</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <translation>Non è stato possibile conservare la configurazione della gettoniera prima della clonazione: %s. Clonare comunque?</translation>
+    </message>
+    <message>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
+        <translation>La configurazione della gettoniera è stata conservata in %s.</translation>
+    </message>
+    <message>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
+        <translation>Finestre corrette per i sensori di questa gettoniera: %s.</translation>
+    </message>
+    <message>
+        <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
+        <translation>Finestre copiate così come sono: la sorgente o questa gettoniera non ha un canale di riferimento per correggerle.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1642,6 +1674,14 @@
         <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
         <translation>Attesa dell&apos;eco del conteggio o del primo byte di una risposta, in millisecondi (%1 predefinito):</translation>
     </message>
+    <message>
+        <source>&amp;Back up before cloning</source>
+        <translation>&amp;Backup prima della clonazione</translation>
+    </message>
+    <message>
+        <source>Reads the validator a clone writes to and keeps its own configuration among the backups first</source>
+        <translation>Legge la gettoniera su cui scrive una clonazione e conserva prima la sua configurazione tra i backup</translation>
+    </message>
 </context>
 <context>
     <name>TFormProfilC</name>
@@ -1915,6 +1955,42 @@
     <message>
         <source>AMP</source>
         <translation>AMP</translation>
+    </message>
+    <message>
+        <source>%1 minimum: the lowest reading the channel takes</source>
+        <translation>%1 minimo: la lettura più bassa che il canale accetta</translation>
+    </message>
+    <message>
+        <source>%1 maximum: the highest reading the channel takes</source>
+        <translation>%1 massimo: la lettura più alta che il canale accetta</translation>
+    </message>
+    <message>
+        <source>%1: the reading of the last coin</source>
+        <translation>%1: la lettura dell&apos;ultima moneta</translation>
+    </message>
+    <message>
+        <source>%1: the width of the window (maximum - minimum)</source>
+        <translation>%1: la larghezza della finestra (massimo - minimo)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading minus the minimum (below 0: under the window)</source>
+        <translation>%1: l&apos;ultima lettura meno il minimo (sotto 0: sotto la finestra)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading minus the maximum (above 0: over the window)</source>
+        <translation>%1: l&apos;ultima lettura meno il massimo (sopra 0: sopra la finestra)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading, and the window as a band</source>
+        <translation>%1: l&apos;ultima lettura, e la finestra come banda</translation>
+    </message>
+    <message>
+        <source>The first stored channel whose windows hold the last coin</source>
+        <translation>Il primo canale memorizzato le cui finestre contengono l&apos;ultima moneta</translation>
+    </message>
+    <message>
+        <source>Coins counted for the chosen channel</source>
+        <translation>Monete contate per il canale scelto</translation>
     </message>
 </context>
 <context>
