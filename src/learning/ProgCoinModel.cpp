@@ -301,21 +301,26 @@ void ProgCoinModel::showChart()
     // their margins), so that an overlap shows while the coins come, not after OK.
     m_overlapping.clear();
     const int channel = spinValue(QStringLiteral("SpinEdit1"));
-    if (!calibration() && channel >= 1 && channel <= m_image.channelCount() &&
-        m_session.windowsSet()) {
-        ConfigImage preview = m_image;
+    ConfigImage shown = m_image;
+    const bool preview = !calibration() && channel >= 1 && channel <= m_image.channelCount() &&
+                         m_session.windowsSet();
+    if (preview) {
         const ChannelBytes record =
             m_session.result(quint8(spinValue(QStringLiteral("SpinEdit2"))));
-        std::copy(record.begin(), record.end(), preview.channels[std::size_t(channel - 1)].begin());
-        m_chart.setImage(preview);
+        std::copy(record.begin(), record.end(), shown.channels[std::size_t(channel - 1)].begin());
+    }
+    // A coin inside the windows changes only the ticks: the bars stay drawn.
+    if (!m_chartImage || *m_chartImage != shown) {
+        m_chart.setImage(shown);
+        m_chartImage = shown;
+    }
+    if (preview) {
         for (const ChannelPair &pair : m_chart.overlaps()) {
             if (pair.first == channel)
                 m_overlapping.append(pair.second);
             else if (pair.second == channel)
                 m_overlapping.append(pair.first);
         }
-    } else {
-        m_chart.setImage(m_image);
     }
     m_chart.setSamples(m_session.samples());
     markChanged(chartName());

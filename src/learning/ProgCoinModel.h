@@ -141,6 +141,8 @@ private:
     // Coins came while no channel was chosen: they taught nothing.
     bool m_coinIgnored = false;
     QList<int> m_overlapping;
+    // The configuration the chart shows, the learned windows in the chosen channel.
+    std::optional<ConfigImage> m_chartImage;
     bool m_boundChanged = false;
     const char *m_channelLabel;
     std::function<QString()> m_title;
