@@ -1,8 +1,11 @@
 #include "CliContext.h"
+#include "CloneTarget.h"
 #include "Commands.h"
+#include "DataDirectory.h"
 #include "FirmwareFile.h"
 #include "FirmwareTransfer.h"
 #include "Messages.h"
+#include "Settings.h"
 #include "WriteReport.h"
 #include "WriteSequence.h"
 #include "WriteVerification.h"
@@ -121,9 +124,15 @@ int cloneCommand(CliContext &cli, const QStringList &args)
     QString file;
     CloneGroups groups;
     bool verify = true;
+    // The "Back up before cloning" setting, unless --no-backup.
+    Settings settings;
+    settings.load();
+    bool backup = settings.backupBeforeCloning();
     for (int i = 0; i < args.size(); ++i) {
         if (args[i] == QLatin1String("--no-verify")) {
             verify = false;
+        } else if (args[i] == QLatin1String("--no-backup")) {
+            backup = false;
         } else if (args[i] == QLatin1String("--groups") && i + 1 < args.size()) {
             groups = CloneGroups{false, false, false, false, false};
             const QStringList names = args[++i].split(u',', Qt::SkipEmptyParts);
@@ -162,6 +171,20 @@ int cloneCommand(CliContext &cli, const QStringList &args)
     if (!link)
         return kExitFailed;
     cli.prompt().setAnswer(UserPrompt::Answer::Cancel);
+    if (backup) {
+        // The target's own configuration is read and kept first, as a read keeps it; nobody
+        // answers here, so a backup that cannot be written stops the clone.
+        ReadObserver reading;
+        const QString label = messageText(Msg::ValidatorReadingInProgress);
+        reading.progress = [&](int gauge) { cli.showProgress(label, gauge); };
+        const TargetBackup kept = keepCloneTarget(
+            *link, DataDirectory::resolve(cli.options().dataDir) + QStringLiteral("/backups"),
+            reading);
+        cli.endProgress();
+        if (!kept.goOn)
+            return kExitFailed;
+        cli.err() << messageText(Msg::CloneBackupKept, {kept.file}) << Qt::endl;
+    }
     SentBlocks sent;
     const WriteOutcome outcome = cloneWrite(*link, image, groups, gaugeOnTerminal(cli), &sent);
     cli.endProgress();
@@ -247,10 +270,13 @@ void registerWriteCommands(CliCommandTable &table)
                   writeCommand});
     table.insert(QStringLiteral("clone"),
                  {QStringLiteral("clone FILE [--groups channels,values,prices,config,enable] "
-                                 "[--no-verify]"),
-                  QStringLiteral("copies the chosen groups of FILE onto another validator of the "
-                                 "same family, then reads it back and prints what it does not "
-                                 "hold of what was sent (exit 1) unless --no-verify"),
+                                 "[--no-verify] [--no-backup]"),
+                  QStringLiteral("keeps the validator's own configuration among the backups "
+                                 "(unless --no-backup or the \"Back up before cloning\" setting "
+                                 "is off), copies the chosen groups of FILE onto it (another "
+                                 "validator of the same family), says how its windows were "
+                                 "corrected for its sensors, then reads it back and prints what "
+                                 "it does not hold of what was sent (exit 1) unless --no-verify"),
                   cloneCommand});
     table.insert(QStringLiteral("firmware"),
                  {QStringLiteral("firmware FILE [--yes]"),

@@ -592,7 +592,7 @@
         <translation>gesperrt</translation>
     </message>
     <message>
-        <source>Option &apos;%s&apos;</source>
+        <source>Option '%s'</source>
         <translation>Option „%s“</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>vom Münzprüfer abgelehnt</translation>
     </message>
     <message>
-        <source>Validator&apos;s own block</source>
+        <source>Validator's own block</source>
         <translation>Eigener Block des Münzprüfers</translation>
     </message>
     <message>
@@ -771,7 +771,7 @@
         <translation>Lesefehler vom Münzprüfer</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <source>Comunication Port COM%d isn't free or Setting error.</source>
         <translation>Der Kommunikationsanschluss COM%d ist nicht frei oder falsch eingestellt.</translation>
     </message>
     <message>
@@ -839,8 +839,8 @@
         <translation>Wert unter dem Minimum, er wird korrigiert.</translation>
     </message>
     <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; ist kein gültiger Ganzzahlwert</translation>
+        <source>'%s' is not a valid integer value</source>
+        <translation>'%s' ist kein gültiger Ganzzahlwert</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -971,7 +971,7 @@
         <translation>Aktualisierung... Bitte warten !</translation>
     </message>
     <message>
-        <source>Don&apos;t Stop or disconnect !!!</source>
+        <source>Don't Stop or disconnect !!!</source>
         <translation>Nicht abbrechen oder trennen !!!</translation>
     </message>
     <message>
@@ -1071,7 +1071,7 @@
         <translation>Schlüssel %s fehlt oder passt nicht zu seinem Feld</translation>
     </message>
     <message>
-        <source>its language driver differs from the table&apos;s</source>
+        <source>its language driver differs from the table's</source>
         <translation>sein Sprachtreiber weicht von dem der Tabelle ab</translation>
     </message>
     <message>
@@ -1247,11 +1247,11 @@
         <translation>Der Datenträger meldete einen Fehler (%s): es wurde nichts geschrieben</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>„%s“ kann nicht in %s gespeichert werden: seine Codepage kennt %s nicht. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>„%s“ ist zu lang für %s: es fasst höchstens %s Zeichen. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
@@ -1365,6 +1365,38 @@
     <message>
         <source>%s: %s channel rows of no stored validator removed (copies in %s)</source>
         <translation>%s: %s Kanalzeilen ohne gespeicherten Münzprüfer entfernt (Kopien in %s)</translation>
+    </message>
+<message>
+        <source>Coin ignored: choose a channel first</source>
+        <translation>Münze ignoriert: zuerst einen Kanal wählen</translation>
+    </message>
+    <message>
+        <source>Matched: %s</source>
+        <translation>Erkannt: %s</translation>
+    </message>
+    <message>
+        <source>Overlap with %s</source>
+        <translation>Überschneidung mit %s</translation>
+    </message>
+    <message>
+        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
+        <translation>Die eigene Konfiguration des Münzprüfers konnte vor dem Klonen nicht gelesen werden: nichts wurde geklont.</translation>
+    </message>
+    <message>
+        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <translation>Die eigene Konfiguration des Münzprüfers konnte vor dem Klonen nicht gesichert werden: %s. Trotzdem klonen?</translation>
+    </message>
+    <message>
+        <source>The validator's own configuration was kept in %s.</source>
+        <translation>Die eigene Konfiguration des Münzprüfers wurde in %s gesichert.</translation>
+    </message>
+    <message>
+        <source>Windows corrected for this validator's sensors: %s.</source>
+        <translation>Fenster für die Sensoren dieses Münzprüfers korrigiert: %s.</translation>
+    </message>
+    <message>
+        <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
+        <translation>Fenster unverändert kopiert: die Quelle oder dieser Münzprüfer hat keinen Referenzkanal, um sie zu korrigieren.</translation>
     </message>
 </context>
 <context>
@@ -1659,7 +1691,7 @@
         <translation>Port-&amp;Zeitlimit...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
+        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
         <translation>Wie lange auf das erste Byte des Prüfers gewartet wird: für Bluetooth- oder Funk-Seriell-Adapter erhöhen</translation>
     </message>
     <message>
@@ -1667,8 +1699,16 @@
         <translation>Port-Zeitlimit</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
+        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
         <translation>Wartezeit auf das Echo der Anzahl oder das erste Byte einer Antwort, in Millisekunden (Vorgabe %1):</translation>
+    </message>
+<message>
+        <source>&amp;Back up before cloning</source>
+        <translation>Vor dem Klonen si&amp;chern</translation>
+    </message>
+    <message>
+        <source>Reads the validator a clone writes to and keeps its own configuration among the backups first</source>
+        <translation>Liest den Münzprüfer, auf den ein Klon schreibt, und sichert zuerst dessen eigene Konfiguration bei den Sicherungen</translation>
     </message>
 </context>
 <context>
@@ -1939,6 +1979,46 @@
     <message>
         <source>AMP</source>
         <translation>AMP</translation>
+    </message>
+<message>
+        <source>Coin calibration</source>
+        <translation>Münzkalibrierung</translation>
+    </message>
+    <message>
+        <source>%1 minimum: the lowest reading the channel takes</source>
+        <translation>%1 Minimum: der niedrigste Messwert, den der Kanal annimmt</translation>
+    </message>
+    <message>
+        <source>%1 maximum: the highest reading the channel takes</source>
+        <translation>%1 Maximum: der höchste Messwert, den der Kanal annimmt</translation>
+    </message>
+    <message>
+        <source>%1: the reading of the last coin</source>
+        <translation>%1: der Messwert der letzten Münze</translation>
+    </message>
+    <message>
+        <source>%1: the width of the window (maximum - minimum)</source>
+        <translation>%1: die Breite des Fensters (Maximum - Minimum)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading minus the minimum (below 0: under the window)</source>
+        <translation>%1: der letzte Messwert minus das Minimum (unter 0: unter dem Fenster)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading minus the maximum (above 0: over the window)</source>
+        <translation>%1: der letzte Messwert minus das Maximum (über 0: über dem Fenster)</translation>
+    </message>
+    <message>
+        <source>%1: the last reading, and the window as a band</source>
+        <translation>%1: der letzte Messwert, und das Fenster als Band</translation>
+    </message>
+    <message>
+        <source>The first stored channel whose windows hold the last coin</source>
+        <translation>Der erste gespeicherte Kanal, dessen Fenster die letzte Münze enthalten</translation>
+    </message>
+    <message>
+        <source>Coins counted for the chosen channel</source>
+        <translation>Für den gewählten Kanal gezählte Münzen</translation>
     </message>
 </context>
 <context>

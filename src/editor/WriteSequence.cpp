@@ -18,10 +18,15 @@ void tell(TMonnayeur &link, Msg id, UserPrompt::Kind kind = UserPrompt::Kind::In
         link.prompt()->tell(messageText(id), kind);
 }
 
-WriteOutcome finish(TMonnayeur &link, int gauge, const WriteSteps &steps, int channelCount)
+// detail follows "Finished operation!" in the same message.
+WriteOutcome finish(TMonnayeur &link, int gauge, const WriteSteps &steps, int channelCount,
+                    const QString &detail = {})
 {
     const bool finished = gauge == 100;
-    if (finished)
+    if (finished && !detail.isEmpty() && link.prompt())
+        link.prompt()->tell(messageText(Msg::FinishedOperation) + u'\n' + detail,
+                            UserPrompt::Kind::Information);
+    else if (finished)
         tell(link, Msg::FinishedOperation);
     else
         tell(link, Msg::FaultDuringSave, UserPrompt::Kind::Error);
@@ -210,16 +215,11 @@ ChannelBytes correctedRecord(const quint8 *record, const quint8 *imageReference,
         out.fill(255);
         return out;
     }
+    const CloneCorrection correction = cloneCorrection(imageReference, targetReference);
     for (int w = 0; w < 7; ++w) {
         const int hi = 2 * w;
         const int lo = hi + 1;
-        double factor = 1.0;
-        const bool set = imageReference[hi] != 255 && imageReference[lo] != 255 &&
-                         targetReference[hi] != 255 && targetReference[lo] != 255;
-        const double ours = (imageReference[hi] + imageReference[lo]) / 2.0;
-        const double theirs = (targetReference[hi] + targetReference[lo]) / 2.0;
-        if (set && ours > 0)
-            factor = theirs / ours;
+        const double factor = correction.factors[std::size_t(w)];
         for (int b : {hi, lo}) {
             if (record[b] == 255) {
                 out[std::size_t(b)] = 255;
@@ -277,6 +277,7 @@ WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneG
         ChannelBytes targetRef;
         if (link.ReadChannel(quint8(ref), image.longForm(), targetRef)) {
             const quint8 *imageRef = image.channels[std::size_t(ref)].data();
+            record.correction = cloneCorrection(imageRef, targetRef.data());
             // Every channel, the reference channel too, goes as the image's record corrected
             // by the ratio of the two reference channels, with the image's substitute.
             for (int i = 0; i < count && link.linkGood(); ++i) {
@@ -319,5 +320,7 @@ WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneG
         succeeded(record.steps.enable, link.WriteBlock(Cmd::WriteEnable, image.enable.data()));
     }
 
-    return finish(link, gauge.value(), record.steps, image.channelCount());
+    // The windows came back changed by the target's sensors: the result says by how much.
+    return finish(link, gauge.value(), record.steps, image.channelCount(),
+                  record.correction ? correctionText(*record.correction) : QString());
 }

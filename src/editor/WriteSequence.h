@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CloneGroups.h"
+#include "CloneTarget.h"
 #include "ConfigImage.h"
 #include "TMonnayeur.h"
 
@@ -63,6 +64,8 @@ struct SentBlocks
     std::optional<EnableBitmap> enable;
     std::optional<CounterBlock> counters; // only when the option word lets them travel
     std::optional<IdentRecord> ident;
+    // The clone's correction of the windows, when its channels went out.
+    std::optional<CloneCorrection> correction;
     WriteSteps steps;
 };
 
@@ -89,7 +92,8 @@ WriteOutcome fullWrite(TMonnayeur &link, ConfigImage &image, FullWriteOptions &o
                        const WriteObserver &observer = {}, SentBlocks *sent = nullptr);
 
 // The clone write: the chosen groups of the image to another validator of the same family,
-// with the channel windows corrected by the target's reference channel.
+// with the channel windows corrected by the target's reference channel; "Finished operation!"
+// then names the correction.
 WriteOutcome cloneWrite(TMonnayeur &link, const ConfigImage &image, const CloneGroups &groups,
                         const WriteObserver &observer = {}, SentBlocks *sent = nullptr);
 

@@ -59,11 +59,15 @@ bool learnCoins(TMonnayeur &link, ConfigImage &image, const LearningContext &con
         return false;
     LearningSession session(LearningSession::kCoinSamples);
     session.learningFromCoins = true;
-    ProgCoinModel form(session, image, &link, context.prompt, context.services,
-                       setupFor(ProgCoinSetup::Mode::Learning, context));
+    ProgCoinSetup setup = setupFor(ProgCoinSetup::Mode::Learning, context);
+    setup.startChannel = context.learnChannel;
+    ProgCoinModel form(session, image, &link, context.prompt, context.services, setup);
     form.coinSound = context.coinSound;
     form.FormActivate();
     context.windows->runProgCoin(form);
+    // The next learning starts where this one was left.
+    if (context.learnChannelUsed && form.channel() != 0)
+        context.learnChannelUsed(form.channel());
     return form.imageChanged();
 }
 

@@ -36,6 +36,10 @@ struct LearningContext
     bool directWrite = false; // "&Direct write": "&OK" writes the channel at once
     bool soundOn = false;
     std::function<void()> coinSound;
+    // Coin learning starts on this channel (the last one used; 0: none) and tells which
+    // channel the form was left on.
+    int learnChannel = 0;
+    std::function<void(int channel)> learnChannelUsed;
 };
 
 // The procedures of the editor's learning buttons. Each returns whether the image changed.

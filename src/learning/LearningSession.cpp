@@ -7,6 +7,8 @@
 #include "UserPrompt.h"
 #include "WriteReport.h"
 
+#include <algorithm>
+
 void LearningSession::reset()
 {
     m_windows.fill(Window{});
@@ -24,22 +26,35 @@ std::optional<SampleBytes> LearningSession::poll(TMonnayeur &link, bool longForm
     return sample;
 }
 
-LearningSession::Coin LearningSession::addSample(const SampleBytes &sample,
-                                                 const ConfigImage &image)
+LearningSession::Coin LearningSession::describeSample(const SampleBytes &sample,
+                                                      const ConfigImage &image) const
 {
     Coin coin;
     coin.sample = sample;
+    if (analysisMode)
+        coin.analysis = analysisLines(image, sample, tolerances);
+    else
+        coin.matchedChannel = matchChannel(image, sample);
+    return coin;
+}
+
+LearningSession::Coin LearningSession::addSample(const SampleBytes &sample,
+                                                 const ConfigImage &image)
+{
+    Coin coin = describeSample(sample, image);
     coin.first = ++m_coinCount == 1;
     m_measures = sample;
     m_samples.append(sample);
     for (int w = 0; w < kWindows; ++w)
         coin.updates[std::size_t(w)] =
             updateWindow(m_windows[std::size_t(w)], sample[std::size_t(w)], learningFromCoins);
-    if (analysisMode)
-        coin.analysis = analysisLines(image, sample, tolerances);
-    else
-        coin.matchedChannel = matchChannel(image, sample);
     return coin;
+}
+
+bool LearningSession::windowsSet() const
+{
+    return std::all_of(m_windows.begin(), m_windows.end(),
+                       [](const Window &w) { return w.min <= w.max; });
 }
 
 bool LearningSession::setBounds(int window, int min, std::optional<int> max)

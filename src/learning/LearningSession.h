@@ -41,6 +41,11 @@ public:
         bool first = false;
     };
     Coin addSample(const SampleBytes &sample, const ConfigImage &image);
+    // The same coin looked at without learning from it: the channel that holds it (or the
+    // analysis list); nothing is counted and no window moves.
+    Coin describeSample(const SampleBytes &sample, const ConfigImage &image) const;
+    // Every window holds a range (min <= max): the windows can stand as a channel's.
+    bool windowsSet() const;
 
     // A bound typed by hand: an empty maximum takes the minimum, a minimum above its maximum
     // is brought down to it. True when the minimum was corrected.

@@ -1,6 +1,7 @@
 // The buttons of the coin learning form: accepting the learned channel, the matched channel,
 // clearing or loading, the files of a learned channel, the profiles, the analysis, and the
 // settings of the calibration and the channel control.
+#include "Captions.h"
 #include "CoinProfile.h"
 #include "EditorState.h"
 #include "Encodings.h"
@@ -52,6 +53,17 @@ std::optional<quint8> ProgCoinModel::valueByte(int channel)
         return amount.byte;
     }
     }
+}
+
+QString ProgCoinModel::channelName(int channel) const
+{
+    const QString name = captionText(Cap::ChannelNumber, {QString::number(channel)}).trimmed();
+    const quint8 byte = m_image.valueByte(channel - 1);
+    if (byte == kNotSet)
+        return name;
+    const DecimalWord base = channelBase(m_image, channel);
+    return QStringLiteral("%1 (%2)").arg(
+        name, FormatChannelValue(base.decimals, 6, base.magnitude, byte).trimmed());
 }
 
 void ProgCoinModel::showValueByte(int channel, quint8 byte)
@@ -134,9 +146,11 @@ void ProgCoinModel::BtnMatchedClick()
         UserPrompt::Answer::Yes)
         return;
     setSpinValue(QStringLiteral("SpinEdit1"), m_lastMatched);
+    m_coinIgnored = false;
     // Controlling a channel, its stored windows come with it.
     if (modify())
         loadChannel(m_lastMatched);
+    showChart();
 }
 
 void ProgCoinModel::BtnLoadClick()
@@ -165,6 +179,7 @@ void ProgCoinModel::loadChannel(int channel)
         setSpinValue(QStringLiteral("SpinEdit2"), record[Rec::Substitute]);
     showValueByte(channel, m_image.valueByte(channel - 1));
     c().setChecked(QStringLiteral("CheckEnable"), m_image.enableBit(channel - 1));
+    showChart();
 }
 
 // ---- files, profiles and the analysis -----------------------------------------------------
@@ -201,6 +216,7 @@ void ProgCoinModel::applyLearnedChannel(const LearnedChannel &channel)
     m_session.tolerances = channel.tolerances;
     // Windows from a file are accepted without counting coins.
     m_session.imported = true;
+    showChart();
 }
 
 void ProgCoinModel::BtnExportClick()
@@ -249,6 +265,7 @@ void ProgCoinModel::BtnSelectClick()
             FormatChannelValue(0, 6, 1, profile->priceLine == 0 ? kValuePrice1 : kValuePrice2));
     setSpinValue(QStringLiteral("SpinEdit2"), profile->substitute);
     m_session.tolerances = profile->tolerances;
+    showChart(); // the margins of the profile widen the windows
 }
 
 void ProgCoinModel::BtnAnalyseClick()
@@ -258,6 +275,7 @@ void ProgCoinModel::BtnAnalyseClick()
         return;
     m_session.analysisMode = true;
     setTint(QStringLiteral("BtnAnalyse"), Tint::Maroon);
+    showChart();
 }
 
 // ---- the calibration and the control --------------------------------------------------------

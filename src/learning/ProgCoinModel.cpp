@@ -46,6 +46,7 @@ constexpr Caption kCaptions[] = {
      QT_TRANSLATE_NOOP("TFormProgCoin", "Number of coins : ")},
     {"LabelCoins", ControlKind::Label, nullptr},
     {"CheckAuto", ControlKind::Check, QT_TRANSLATE_NOOP("TFormProgCoin", "Tolerance a&uto :")},
+    {"LabelStatus", ControlKind::Label, nullptr},
     {"BtnOK", ControlKind::Button, QT_TRANSLATE_NOOP("TFormProgCoin", "&OK")},
     {"BtnSave", ControlKind::Button, QT_TRANSLATE_NOOP("TFormProgCoin", "&Save")},
     {"BtnCancel", ControlKind::Button, QT_TRANSLATE_NOOP("TFormProgCoin", "&Cancel")},
@@ -58,6 +59,26 @@ constexpr Caption kCaptions[] = {
 constexpr const char *kClear = QT_TRANSLATE_NOOP("TFormProgCoin", "&Clear");
 constexpr const char *kPriceLines[] = {QT_TRANSLATE_NOOP("TFormProgCoin", "P1"),
                                        QT_TRANSLATE_NOOP("TFormProgCoin", "P2")};
+
+// What each number of a window stands for, the window's caption first.
+constexpr const char *kTipMin =
+    QT_TRANSLATE_NOOP("TFormProgCoin", "%1 minimum: the lowest reading the channel takes");
+constexpr const char *kTipMax =
+    QT_TRANSLATE_NOOP("TFormProgCoin", "%1 maximum: the highest reading the channel takes");
+constexpr const char *kTipReading =
+    QT_TRANSLATE_NOOP("TFormProgCoin", "%1: the reading of the last coin");
+constexpr const char *kTipWidth =
+    QT_TRANSLATE_NOOP("TFormProgCoin", "%1: the width of the window (maximum - minimum)");
+constexpr const char *kTipDiffMin = QT_TRANSLATE_NOOP(
+    "TFormProgCoin", "%1: the last reading minus the minimum (below 0: under the window)");
+constexpr const char *kTipDiffMax = QT_TRANSLATE_NOOP(
+    "TFormProgCoin", "%1: the last reading minus the maximum (above 0: over the window)");
+constexpr const char *kTipBar =
+    QT_TRANSLATE_NOOP("TFormProgCoin", "%1: the last reading, and the window as a band");
+constexpr const char *kTipMatched =
+    QT_TRANSLATE_NOOP("TFormProgCoin", "The first stored channel whose windows hold the last coin");
+constexpr const char *kTipCoins =
+    QT_TRANSLATE_NOOP("TFormProgCoin", "Coins counted for the chosen channel");
 
 const QString kForm = QStringLiteral("TFormProgCoin");
 
@@ -130,6 +151,10 @@ void ProgCoinModel::build()
     controls.setText(QStringLiteral("LabelCoins"), number(0));
     controls.setVisible(QStringLiteral("BtnLoad"), !calibration());
     controls.setVisible(QStringLiteral("BtnAnalyse"), m_setup.analyseShown);
+    // Learning starts on the channel last used, when this validator has it.
+    if (m_setup.mode == ProgCoinSetup::Mode::Learning && m_setup.startChannel >= 1 &&
+        m_setup.startChannel <= m_image.channelCount())
+        setSpinValue(QStringLiteral("SpinEdit1"), m_setup.startChannel);
 
     for (int w = 0; w < kWindows; ++w) {
         const WindowPlace &place = kWindowPlaces[w];
@@ -161,7 +186,35 @@ void ProgCoinModel::retranslate()
     for (int w = 0; w < kWindows; ++w)
         c().setText(panelName(w), windowCaption(w));
     c().setText(kForm, m_title());
+    retranslateWindowTips();
+    // The texts made of messages follow the language too.
+    if (m_lastMatched != 0)
+        c().setText(QStringLiteral("LabelMatched"),
+                    messageText(Msg::LearnMatched, {channelName(m_lastMatched)}));
+    showStatus();
     flush();
+}
+
+void ProgCoinModel::retranslateWindowTips()
+{
+    auto tip = [this](const QString &name, const char *source, const QString &window) {
+        const QString text = tr(source).arg(window);
+        c().setToolTip(name, text);
+        c().setAccessibleName(name, text);
+    };
+    for (int w = 0; w < kWindows; ++w) {
+        const WindowPlace &place = kWindowPlaces[w];
+        const QString window = windowCaption(w);
+        tip(QLatin1String(place.minEdit), kTipMin, window);
+        tip(QLatin1String(place.maxEdit), kTipMax, window);
+        tip(QLatin1String(place.trackBar), kTipBar, window);
+        tip(readingName(w), kTipReading, window);
+        tip(widthName(w), kTipWidth, window);
+        tip(minDifferenceName(w), kTipDiffMin, window);
+        tip(maxDifferenceName(w), kTipDiffMax, window);
+    }
+    c().setToolTip(QStringLiteral("LabelMatched"), tr(kTipMatched));
+    c().setToolTip(QStringLiteral("LabelCoins"), tr(kTipCoins));
 }
 
 // ---- display ------------------------------------------------------------------------------
@@ -221,6 +274,9 @@ void ProgCoinModel::showRelease()
 void ProgCoinModel::clearState()
 {
     m_session.reset();
+    m_coinIgnored = false;
+    m_lastMatched = 0;
+    c().setVisible(QStringLiteral("LabelMatched"), false);
     resetMarks();
     for (int w = 0; w < kWindows; ++w) {
         c().setText(readingName(w), {});
@@ -229,15 +285,82 @@ void ProgCoinModel::clearState()
         c().setText(maxDifferenceName(w), {});
     }
     showAllWindows();
+    // The track bars' thumbs go back to the bottom, where they start.
+    for (int w = 0; w < kWindows; ++w) {
+        const QString bar = QLatin1String(kWindowPlaces[w].trackBar);
+        TrackBarState state = trackBar(bar);
+        state.position = 0;
+        setTrackBar(bar, state);
+    }
     showCoinCount();
     showChart();
 }
 
 void ProgCoinModel::showChart()
 {
-    m_chart.setImage(m_image);
+    // The windows learned so far stand in the chosen channel as OK would store them (with
+    // their margins), so that an overlap shows while the coins come, not after OK.
+    m_overlapping.clear();
+    const int channel = spinValue(QStringLiteral("SpinEdit1"));
+    ConfigImage shown = m_image;
+    const bool preview = !calibration() && channel >= 1 && channel <= m_image.channelCount() &&
+                         m_session.windowsSet();
+    if (preview) {
+        const ChannelBytes record =
+            m_session.result(quint8(spinValue(QStringLiteral("SpinEdit2"))));
+        std::copy(record.begin(), record.end(), shown.channels[std::size_t(channel - 1)].begin());
+    }
+    // A coin inside the windows changes only the ticks: the bars stay drawn.
+    if (!m_chartImage || *m_chartImage != shown) {
+        m_chart.setImage(shown);
+        m_chartImage = shown;
+    }
+    if (preview) {
+        for (const ChannelPair &pair : m_chart.overlaps()) {
+            if (pair.first == channel)
+                m_overlapping.append(pair.second);
+            else if (pair.second == channel)
+                m_overlapping.append(pair.first);
+        }
+    }
     m_chart.setSamples(m_session.samples());
     markChanged(chartName());
+    showStatus();
+}
+
+void ProgCoinModel::showStatus()
+{
+    QString text;
+    Tint tint = Tint::Normal;
+    if (m_coinIgnored) {
+        text = messageText(Msg::CoinIgnored);
+        tint = Tint::Maroon;
+    } else if (!m_overlapping.isEmpty()) {
+        QStringList channels;
+        for (int channel : std::as_const(m_overlapping))
+            channels.append(channelName(channel));
+        text = messageText(Msg::LearnOverlap, {channels.join(QStringLiteral(", "))});
+        tint = Tint::Red;
+    }
+    c().setText(statusName(), text);
+    // The line may be cut at the form's edge: the tip holds it whole.
+    c().setToolTip(statusName(), text);
+    setTint(statusName(), tint);
+}
+
+void ProgCoinModel::showMatch(const LearningSession::Coin &coin)
+{
+    if (!m_session.analysisMode) {
+        m_lastMatched = coin.matchedChannel;
+        c().setText(QStringLiteral("LabelMatched"),
+                    m_lastMatched != 0
+                        ? messageText(Msg::LearnMatched, {channelName(m_lastMatched)})
+                        : QString());
+        c().setVisible(QStringLiteral("LabelMatched"), m_lastMatched != 0);
+    } else if (!coin.analysis.isEmpty() && showAnalysis) {
+        flush();
+        showAnalysis(coin.analysis);
+    }
 }
 
 void ProgCoinModel::FormActivate()
@@ -290,13 +413,18 @@ void ProgCoinModel::addCoin(const SampleBytes &sample)
             closeAnalysis();
         if (m_setup.soundOn && coinSound)
             coinSound();
+        // Learning, a coin that comes before a channel is chosen teaches nothing: it is not
+        // counted and no window moves; the form says so and still tells what the coin matches.
+        if (!modify() && !calibration() && spinValue(QStringLiteral("SpinEdit1")) == 0) {
+            m_coinIgnored = true;
+            showStatus();
+            showMatch(m_session.describeSample(sample, m_image));
+            return;
+        }
+        m_coinIgnored = false;
         if (!m_session.learningFromCoins)
             syncWindowsFromEdits();
         const LearningSession::Coin coin = m_session.addSample(sample, m_image);
-        m_chart.addSample(sample);
-        markChanged(chartName());
-        if (coin.first && spinValue(QStringLiteral("SpinEdit1")) == 0 && !modify())
-            tell(messageText(Msg::SelectChannelNumber), UserPrompt::Kind::Warning);
         showCoinCount();
         resetMarks();
 
@@ -334,15 +462,8 @@ void ProgCoinModel::addCoin(const SampleBytes &sample)
             }
             setTrackBar(QLatin1String(place.trackBar), bar);
         }
-
-        if (!m_session.analysisMode) {
-            m_lastMatched = coin.matchedChannel;
-            c().setText(QStringLiteral("LabelMatched"), number(m_lastMatched));
-            c().setVisible(QStringLiteral("LabelMatched"), m_lastMatched != 0);
-        } else if (!coin.analysis.isEmpty() && showAnalysis) {
-            flush();
-            showAnalysis(coin.analysis);
-        }
+        showChart();
+        showMatch(coin);
     });
 }
 
@@ -356,9 +477,13 @@ void ProgCoinModel::typed(const QString &name, const QString &text)
     } else if (name == QLatin1String("Edit2")) {
         // An amount typed by hand is no price line.
         c().setItemIndex(QStringLiteral("RadioGroup3"), -1);
-    } else if (name == QLatin1String("SpinEdit1") && modify()) {
+    } else if (name == QLatin1String("SpinEdit1")) {
         // Controlling channels, the channel picked shows its stored windows.
-        loadChannel(spinValue(name));
+        if (modify())
+            loadChannel(spinValue(name));
+        if (spinValue(name) != 0)
+            m_coinIgnored = false;
+        showChart();
     }
 }
 
@@ -399,6 +524,7 @@ void ProgCoinModel::boundExit(int w)
     setTrackBar(QLatin1String(place.trackBar), {window.min, window.min, window.max});
     c().setText(readingName(w), number(window.min));
     c().setText(widthName(w), number(window.max - window.min));
+    showChart();
 }
 
 void ProgCoinModel::clicked(const QString &name)

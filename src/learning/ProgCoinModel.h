@@ -21,6 +21,7 @@ struct ProgCoinSetup
     bool analyseShown = false; // the "&Auto adjust" setting shows "Anal&yse"
     bool directWrite = false;  // "&OK" writes the channel at once, as "&Save" does
     bool soundOn = false;      // "Coin.Wav" for every coin
+    int startChannel = 0;      // learning: the channel the form starts on (the last one used)
 };
 
 // The coin learning form TFormProgCoin without its widgets: the channel, substitute, value,
@@ -42,6 +43,9 @@ public:
     static QString widthName(int window);
     static QString minDifferenceName(int window);
     static QString maxDifferenceName(int window);
+    // The status line: a coin ignored for want of a channel, or the channels the learned
+    // windows overlap.
+    static QString statusName() { return QStringLiteral("LabelStatus"); }
 
     void FormActivate();
     // One poll of the validator; a measured coin updates the windows and the labels.
@@ -63,6 +67,11 @@ public:
     bool imageChanged() const { return m_imageChanged; }
     // The channel the last coin matched (1-based), 0 when none.
     int lastMatched() const { return m_lastMatched; }
+    // The channel chosen in the form (1-based), 0 when none.
+    int channel() const { return spinValue(QStringLiteral("SpinEdit1")); }
+    // The channels (1-based) the windows learned so far overlap, with their margins, as they
+    // would stand in the chosen channel; empty when none or no channel is chosen.
+    const QList<int> &overlapping() const { return m_overlapping; }
 
     // The windows chart of the configuration with the coins of this learning as ticks; its
     // name is among the changed ones only when it changed (a coin, a stored channel).
@@ -107,6 +116,10 @@ private:
     void showRelease();
     void clearState();
     void showChart();
+    void showStatus();
+    void showMatch(const LearningSession::Coin &coin);
+    void retranslateWindowTips();
+    QString channelName(int channel) const;
     void loadChannel(int channel);
     void syncWindowsFromEdits();
     std::optional<quint8> valueByte(int channel);
@@ -125,6 +138,11 @@ private:
     // The port went away while coins were awaited: said once, and polling stops.
     bool m_portLost = false;
     int m_lastMatched = 0;
+    // Coins came while no channel was chosen: they taught nothing.
+    bool m_coinIgnored = false;
+    QList<int> m_overlapping;
+    // The configuration the chart shows, the learned windows in the chosen channel.
+    std::optional<ConfigImage> m_chartImage;
     bool m_boundChanged = false;
     const char *m_channelLabel;
     std::function<QString()> m_title;

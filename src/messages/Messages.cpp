@@ -71,6 +71,9 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP(
          "Messages", "The validity of data of this validator is not guaranteed by BRUNFELDGroup!")},
     {Msg::SelectChannelNumber, QT_TRANSLATE_NOOP("Messages", "Select number of channel !")},
+    {Msg::CoinIgnored, QT_TRANSLATE_NOOP("Messages", "Coin ignored: choose a channel first")},
+    {Msg::LearnMatched, QT_TRANSLATE_NOOP("Messages", "Matched: %s")},
+    {Msg::LearnOverlap, QT_TRANSLATE_NOOP("Messages", "Overlap with %s")},
     {Msg::NumberOfCoinsLess,
      QT_TRANSLATE_NOOP("Messages", "Number of coins is less than %d. Proceed?")},
     {Msg::ModifyAnotherChannel, QT_TRANSLATE_NOOP("Messages", "Modify another channel ?")},
@@ -155,6 +158,19 @@ constexpr Entry kTable[] = {
     {Msg::VerificationMore, QT_TRANSLATE_NOOP("Messages", "... and %d more.")},
     {Msg::BackupFailed,
      QT_TRANSLATE_NOOP("Messages", "The backup of this read could not be written: %s")},
+    {Msg::CloneTargetNotRead,
+     QT_TRANSLATE_NOOP("Messages", "The validator's own configuration could not be read before "
+                                   "cloning: nothing was cloned.")},
+    {Msg::CloneBackupNotWritten,
+     QT_TRANSLATE_NOOP("Messages", "The validator's own configuration could not be kept before "
+                                   "cloning: %s. Clone all the same?")},
+    {Msg::CloneBackupKept,
+     QT_TRANSLATE_NOOP("Messages", "The validator's own configuration was kept in %s.")},
+    {Msg::CloneCorrected,
+     QT_TRANSLATE_NOOP("Messages", "Windows corrected for this validator's sensors: %s.")},
+    {Msg::CloneNotCorrected,
+     QT_TRANSLATE_NOOP("Messages", "Windows copied as they are: the source or this validator has "
+                                   "no reference channel to correct them by.")},
     {Msg::TablesUnavailable,
      QT_TRANSLATE_NOOP("Messages", "The tables of the data directory are not open.")},
     {Msg::FamilyMismatch,

@@ -17,7 +17,8 @@ struct KeyInfo
         Text,
         Char,
         DateOrder,
-        PortTimeout
+        PortTimeout,
+        Channel
     } type;
 };
 
@@ -33,6 +34,8 @@ constexpr KeyInfo kKeys[int(Settings::Key::Count_)] = {
     {"DateChar", KeyInfo::Type::Char},
     {"DateFormat", KeyInfo::Type::DateOrder},
     {"PortTimeout", KeyInfo::Type::PortTimeout},
+    {"CloneBackup", KeyInfo::Type::Bool},
+    {"LearnChannel", KeyInfo::Type::Channel},
 };
 
 // A stored value in its typed form, or an invalid variant when it cannot be read as one.
@@ -68,6 +71,11 @@ QVariant parse(const QVariant &stored, KeyInfo::Type type)
                    ? QVariant(ms)
                    : QVariant();
     }
+    case KeyInfo::Type::Channel: {
+        bool ok = false;
+        const int channel = text.toInt(&ok);
+        return ok && channel >= 0 && channel <= 60 ? QVariant(channel) : QVariant();
+    }
     }
     return {};
 }
@@ -99,7 +107,10 @@ QVariant Settings::defaultValue(Key key)
     case Key::DirectWrite:
         return false;
     case Key::Verify:
+    case Key::CloneBackup:
         return true;
+    case Key::LearnChannel:
+        return 0;
     case Key::PortTimeout:
         return Transport::kDefaultReadTimeoutMs;
     default:

@@ -24,10 +24,12 @@ public:
         Language,      // "Language": "FR", "IT", "EN", "DE" or empty (Local)
         DataDirectory, // empty: the records engine's own default
         PortMap,
-        DecimalChar, // empty: from the system locale
-        DateChar,    // empty: from the system locale
-        DateFormat,  // 0 month/day/year, 1 day/month/year, 2 year/month/day; empty: locale
-        PortTimeout, // "PortTimeout": the wait in ms for a count echo or a reply's first byte
+        DecimalChar,  // empty: from the system locale
+        DateChar,     // empty: from the system locale
+        DateFormat,   // 0 month/day/year, 1 day/month/year, 2 year/month/day; empty: locale
+        PortTimeout,  // "PortTimeout": the wait in ms for a count echo or a reply's first byte
+        CloneBackup,  // "CloneBackup": a clone reads and keeps the target's configuration first
+        LearnChannel, // "LearnChannel": the channel the coin learning form starts on (0: none)
         Count_
     };
 
@@ -61,6 +63,8 @@ public:
     QString dataDirectory() const { return value(Key::DataDirectory).toString(); }
     QString portMap() const { return value(Key::PortMap).toString(); }
     int portTimeoutMs() const { return value(Key::PortTimeout).toInt(); }
+    bool backupBeforeCloning() const { return value(Key::CloneBackup).toBool(); }
+    int learnChannel() const { return value(Key::LearnChannel).toInt(); }
     // The separators and the date order: stored ones, the system locale's for empty values.
     EncodingSettings encodingSettings() const;
 
@@ -73,6 +77,8 @@ public:
     void setDataDirectory(const QString &path) { set(Key::DataDirectory, path); }
     void setPortMap(const QString &map) { set(Key::PortMap, map); }
     void setPortTimeoutMs(int ms) { set(Key::PortTimeout, ms); }
+    void setBackupBeforeCloning(bool on) { set(Key::CloneBackup, on); }
+    void setLearnChannel(int channel) { set(Key::LearnChannel, channel); }
 
     QVariant value(Key key) const;
     void set(Key key, const QVariant &value);

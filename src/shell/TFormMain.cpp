@@ -121,6 +121,8 @@ void TFormMain::buildMenu()
     m_ajustementauto1 = addSwitch("Ajustementauto1", &TFormMain::Ajustementauto1Click);
     m_ecrituredirecte1 = addSwitch("Ecrituredirecte1", &TFormMain::Ecrituredirecte1Click);
     m_verifyafterwrite1 = addSwitch("Verifyafterwrite1", &TFormMain::Verifyafterwrite1Click);
+    m_backupbeforecloning1 =
+        addSwitch("Backupbeforecloning1", &TFormMain::Backupbeforecloning1Click);
     m_parameters->addSeparator();
     m_langage = m_parameters->addMenu(QString());
     m_langage->setObjectName(QStringLiteral("Langage1"));
@@ -156,6 +158,10 @@ void TFormMain::retranslateUi()
     m_verifyafterwrite1->setToolTip(
         tr("Reads the validator back after each write and lists what it does not hold"));
     m_verifyafterwrite1->setStatusTip(m_verifyafterwrite1->toolTip());
+    m_backupbeforecloning1->setText(tr("&Back up before cloning"));
+    m_backupbeforecloning1->setToolTip(tr("Reads the validator a clone writes to and keeps its "
+                                          "own configuration among the backups first"));
+    m_backupbeforecloning1->setStatusTip(m_backupbeforecloning1->toolTip());
     m_langage->setTitle(tr("&Langage"));
     m_languageItems.at(Languages::kLocal)->setText(tr("&Local"));
     m_porttimeout1->setText(tr("Port &time-out..."));
@@ -236,6 +242,7 @@ bool TFormMain::FormCreate()
     m_ajustementauto1->setChecked(settings.autoAdjust());
     m_ecrituredirecte1->setChecked(settings.directWrite());
     m_verifyafterwrite1->setChecked(settings.verifyAfterWrite());
+    m_backupbeforecloning1->setChecked(settings.backupBeforeCloning());
     m_link.setPortTimeout(settings.portTimeoutMs());
 
     if (settings.soundOn() && m_context.sounds)
@@ -305,6 +312,11 @@ void TFormMain::Ecrituredirecte1Click()
 void TFormMain::Verifyafterwrite1Click()
 {
     m_context.settings->setVerifyAfterWrite(m_verifyafterwrite1->isChecked());
+}
+
+void TFormMain::Backupbeforecloning1Click()
+{
+    m_context.settings->setBackupBeforeCloning(m_backupbeforecloning1->isChecked());
 }
 
 void TFormMain::Fran1Click(QAction *item)

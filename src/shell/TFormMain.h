@@ -31,6 +31,7 @@ public:
     void Ajustementauto1Click();
     void Ecrituredirecte1Click();
     void Verifyafterwrite1Click();
+    void Backupbeforecloning1Click();
     void Fran1Click(QAction *item); // the five language items
     void Firmware1Click();
     void Porttimeout1Click();
@@ -72,6 +73,7 @@ private:
     QAction *m_ajustementauto1 = nullptr;
     QAction *m_ecrituredirecte1 = nullptr;
     QAction *m_verifyafterwrite1 = nullptr;
+    QAction *m_backupbeforecloning1 = nullptr;
     QAction *m_firmware1 = nullptr;
     QAction *m_porttimeout1 = nullptr;
     QAction *m_repairtables1 = nullptr;

@@ -1,6 +1,7 @@
 // The editor model: display, channel editing, writing and closing, against the in-process
 // virtual validator.
 #include "EditorModel.h"
+#include "CloneTarget.h"
 #include "ConfigFile.h"
 #include "EditorServices.h"
 #include "Encodings.h"
@@ -50,6 +51,8 @@ public:
     int warnings = 0;
     bool verifyAfterWrite() override { return verify; }
     bool verify = true;
+    bool backupBeforeCloning() override { return backupClone; }
+    bool backupClone = true;
     FakeTables fakeTables;
     QString backups;
 };
@@ -397,6 +400,46 @@ TEST(EditorWriting, AReadBackThatDiffersKeepsTheImageAndTheModifiedFlag)
     e.prompt.clear();
     e.model->SpeedButton8Click();
     EXPECT_EQ(e.prompt.told(), QStringList{"Finished operation!"});
+}
+
+TEST(EditorWriting, ACloneKeepsTheTargetFirstAndNamesTheCorrectionOfTheWindows)
+{
+    // The editor holds validator 1000's configuration; validator 1004, whose sensors read
+    // higher, is on the bench.
+    Editor e(0x13, 1004);
+    e.services.verify = false;
+    const ConfigImage source = VirtualValidator::factoryImage(0x13, 1000);
+    const ConfigImage target = e.device->memory();
+    e.services.openPath = e.backupDir.filePath("source.json");
+    ASSERT_TRUE(saveConfigFile(e.services.openPath, source, nullptr));
+    e.model->BtnOpenFileClick();
+    ASSERT_EQ(e.image(), source);
+    const QDir backups(e.backupDir.path());
+    auto keptFiles = [&] {
+        return QDir(e.backupDir.path(), QStringLiteral("*-serial1004.json")).entryList();
+    };
+    ASSERT_TRUE(keptFiles().isEmpty());
+
+    ASSERT_TRUE(e.model->click(QStringLiteral("SpeedButton2")));
+    // The target's own configuration was kept before anything was written over it.
+    ASSERT_EQ(keptFiles().size(), 1);
+    ConfigImage kept;
+    ASSERT_TRUE(loadConfigFile(backups.filePath(keptFiles().first()), kept, nullptr));
+    EXPECT_EQ(kept, target);
+    EXPECT_NE(e.device->memory().channels[0], target.channels[0]);
+    // One message: the result, then the correction the target's reference channel brought.
+    const QString correction =
+        correctionText(cloneCorrection(source.channels[59].data(), target.channels[59].data()));
+    EXPECT_TRUE(correction.startsWith(
+        QStringLiteral("Windows corrected for this validator's sensors: HFU low \u00d7")));
+    EXPECT_EQ(e.prompt.told(), QStringList{"Finished operation!\n" + correction});
+
+    // With "Back up before cloning" off nothing more is kept.
+    e.services.backupClone = false;
+    e.prompt.clear();
+    ASSERT_TRUE(e.model->click(QStringLiteral("SpeedButton2")));
+    EXPECT_EQ(keptFiles().size(), 1);
+    EXPECT_EQ(e.prompt.told().size(), 1);
 }
 
 TEST(EditorWriting, CablePulledDuringAWriteLeavesTheFormUsable)

@@ -1,91 +1,12 @@
 // The coin learning form's model against the in-process virtual validator: coins in, windows
 // and labels out, the accept with its questions, the direct write, the bounds typed by hand,
 // and the procedures of the reference calibration and the channel control.
-#include "ProgCoinModel.h"
-#include "CAdjustModel.h"
-#include "CoinProfile.h"
-#include "LearningFlows.h"
-#include "RecordingPrompt.h"
-#include "SimTransport.h"
-#include "VirtualValidator.h"
+#include "ProgCoinBench.h"
 
-#include <QLocale>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-namespace {
-
-using Answer = UserPrompt::Answer;
-
-// Canned answers for the dialogs the form opens.
-struct CannedServices final : LearningServices
-{
-    bool editTolerances(Tolerances &tolerances) override
-    {
-        ++toleranceDialogs;
-        if (!toleranceAnswer)
-            return false;
-        tolerances = *toleranceAnswer;
-        return true;
-    }
-    std::optional<CoinProfile> selectProfile(int) override { return profile; }
-    QString exportFileName() override { return fileName; }
-    QString importFileName() override { return fileName; }
-
-    std::optional<Tolerances> toleranceAnswer;
-    int toleranceDialogs = 0;
-    std::optional<CoinProfile> profile;
-    QString fileName;
-};
-
-// A validator on the bench, its image as the editor read it, and the learning form over both.
-struct Bench
-{
-    explicit Bench(ProgCoinSetup setup = {}, quint8 family = 0x13)
-        : device(family, 1001), port(&device), link(&port, &prompt), image(device.memory())
-    {
-        QLocale::setDefault(QLocale::c());
-        port.setLatencyMs(0);
-        device.setCoinSeed(7);
-        open(setup);
-    }
-    void open(ProgCoinSetup setup)
-    {
-        form = std::make_unique<ProgCoinModel>(session, image, &link, &prompt, &services, setup);
-        form->FormActivate();
-    }
-    // Coins inserted one by one, each measured by one tick of the form's timer.
-    void insert(CoinKind kind, int count)
-    {
-        for (int i = 0; i < count; ++i) {
-            device.insertCoin(kind);
-            form->tick();
-        }
-    }
-    QString text(const char *name) const { return form->control(QLatin1String(name)).text; }
-    Window shownWindow(int w) const
-    {
-        return {quint8(text(kWindowPlaces[w].minEdit).toInt()),
-                quint8(text(kWindowPlaces[w].maxEdit).toInt())};
-    }
-    ChannelBytes stored(const ConfigImage &from, int k) const
-    {
-        ChannelBytes out;
-        std::copy_n(from.channels[std::size_t(k)].begin(), out.size(), out.begin());
-        return out;
-    }
-
-    VirtualValidator device;
-    SimTransport port;
-    RecordingPrompt prompt{Answer::No};
-    TMonnayeur link;
-    ConfigImage image;
-    LearningSession session;
-    CannedServices services;
-    std::unique_ptr<ProgCoinModel> form;
-};
-
-} // namespace
+using namespace progcoin;
 
 TEST(ProgCoin, TenCoinsThenOkStoreTheChannelWithTheDefaultMargins)
 {
@@ -97,7 +18,7 @@ TEST(ProgCoin, TenCoinsThenOkStoreTheChannelWithTheDefaultMargins)
     EXPECT_TRUE(bench.prompt.all().isEmpty());
     // The euro coin is already learned in channel 4 of the factory memory.
     EXPECT_TRUE(bench.form->control(QStringLiteral("LabelMatched")).visible);
-    EXPECT_EQ(bench.text("LabelMatched"), QStringLiteral("4"));
+    EXPECT_EQ(bench.text("LabelMatched"), QStringLiteral("Matched: Channel 4 (0.50)"));
 
     // Each window is the smallest and largest reading, shown in its edits and its track bar.
     Windows learned = bench.session.windows();
@@ -207,11 +128,27 @@ TEST(ProgCoin, SaveAndDirectWriteReachTheValidatorAtOnce)
     }
 }
 
-TEST(ProgCoin, TheFirstCoinWithoutAChannelAsksForOne)
+TEST(ProgCoin, ACoinBeforeAChannelIsChosenIsNotCounted)
 {
     Bench bench;
+    const QString status = ProgCoinModel::statusName();
+    bench.insert(CoinKind::Euro050, 2);
+    // Nothing learned, nothing counted; the status line says why, without a box, and the
+    // coin still shows the channel that holds it.
+    EXPECT_TRUE(bench.prompt.all().isEmpty());
+    EXPECT_EQ(bench.form->control(status).text,
+              QStringLiteral("Coin ignored: choose a channel first"));
+    EXPECT_EQ(bench.session.coinCount(), 0);
+    EXPECT_EQ(bench.text("LabelCoins"), QStringLiteral("0"));
+    EXPECT_EQ(bench.shownWindow(0), (Window{255, 0}));
+    EXPECT_EQ(bench.form->chart().sampleCount(), 0);
+    EXPECT_EQ(bench.text("LabelMatched"), QStringLiteral("Matched: Channel 4 (0.50)"));
+    // Choosing a channel clears the line; the next coin is the first one.
+    ASSERT_TRUE(bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("30")));
+    EXPECT_TRUE(bench.form->control(status).text.isEmpty());
     bench.insert(CoinKind::Euro100, 1);
-    EXPECT_EQ(bench.prompt.told(), QStringList{"Select number of channel !"});
+    EXPECT_EQ(bench.session.coinCount(), 1);
+    EXPECT_TRUE(bench.prompt.all().isEmpty());
     // The first coin: every window is its reading; the maximum is marked red, the minimum's
     // difference hidden (the window started unset).
     for (int w = 0; w < kWindows; ++w) {
@@ -224,10 +161,9 @@ TEST(ProgCoin, TheFirstCoinWithoutAChannelAsksForOne)
                   QStringLiteral("+%1").arg(m));
         EXPECT_EQ(bench.form->control(ProgCoinModel::widthName(w)).text, QStringLiteral("0"));
     }
-    // Later coins say nothing more; the same reading again leaves every mark of the first coin
-    // back at its colour.
+    // The same reading again leaves every mark of the first coin back at its colour.
     bench.form->addCoin(bench.session.measures());
-    EXPECT_EQ(bench.prompt.told().size(), 1);
+    EXPECT_TRUE(bench.prompt.all().isEmpty());
     for (int w = 0; w < kWindows; ++w) {
         EXPECT_EQ(bench.form->tint(QLatin1String(kWindowPlaces[w].maxEdit)), Tint::Normal);
         EXPECT_EQ(bench.form->tint(ProgCoinModel::readingName(w)), Tint::Blue);
@@ -244,9 +180,10 @@ TEST(ProgCoin, TheFirstCoinWithoutAChannelAsksForOne)
     EXPECT_EQ(bench.form->control(ProgCoinModel::minDifferenceName(0)).text, QStringLiteral("-3"));
     EXPECT_EQ(bench.form->tint(QStringLiteral("HFUMAXL")), Tint::Normal);
 
-    // Accepting without a channel says it again and goes back to the channel.
+    // Accepting without a channel says so and goes back to the channel.
     QString focused;
     bench.form->focusRequested = [&](const QString &name) { focused = name; };
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("0"));
     bench.prompt.setNextAnswers({Answer::Yes});
     bench.form->click(QStringLiteral("BtnOK"));
     EXPECT_EQ(bench.prompt.told().last(), QStringLiteral("Select number of channel !"));
@@ -257,12 +194,12 @@ TEST(ProgCoin, TheFirstCoinWithoutAChannelAsksForOne)
 TEST(ProgCoin, ABoundTypedAboveItsMaximumIsCorrected)
 {
     Bench bench;
+    bench.form->type(QStringLiteral("SpinEdit1"), QStringLiteral("33"));
     bench.insert(CoinKind::Euro010, 3);
     const Window hfuLow = bench.session.windows()[0];
     // Leaving an edit that was not changed does nothing.
     bench.form->leave(QStringLiteral("HFUMINL"));
-    EXPECT_EQ(bench.prompt.told(), QStringList{"Select number of channel !"});
-    bench.prompt.clear();
+    EXPECT_TRUE(bench.prompt.all().isEmpty());
 
     bench.form->type(QStringLiteral("HFUMINL"), QString::number(hfuLow.max + 20));
     bench.form->leave(QStringLiteral("HFUMINL"));

@@ -240,10 +240,13 @@ private Q_SLOTS:
                 QVERIFY(!first.action(name)->isChecked());
                 first.action(name)->trigger();
             }
-            // Verifying after a write is on until switched off.
-            QVERIFY(first.action("Verifyafterwrite1")->isChecked());
-            first.action("Verifyafterwrite1")->trigger();
+            // Verifying after a write and backing up before a clone are on until switched off.
+            for (const char *name : {"Verifyafterwrite1", "Backupbeforecloning1"}) {
+                QVERIFY(first.action(name)->isChecked());
+                first.action(name)->trigger();
+            }
             QVERIFY(!first.settings.verifyAfterWrite());
+            QVERIFY(!first.settings.backupBeforeCloning());
         }
         {
             Start second(source);
@@ -253,6 +256,7 @@ private Q_SLOTS:
             for (const char *name : {"Son1", "Ajustementauto1", "Ecrituredirecte1"})
                 QVERIFY(second.action(name)->isChecked());
             QVERIFY(!second.action("Verifyafterwrite1")->isChecked());
+            QVERIFY(!second.action("Backupbeforecloning1")->isChecked());
             QCOMPARE(second.sounds.played, QList<Sound>{Sound::Chimes});
             second.action("Son1")->trigger();
         }

@@ -186,6 +186,13 @@ bool GuiEditorServices::verifyAfterWrite()
     return settings.verifyAfterWrite();
 }
 
+bool GuiEditorServices::backupBeforeCloning()
+{
+    Settings settings;
+    settings.load();
+    return settings.backupBeforeCloning();
+}
+
 // ---- coin learning ------------------------------------------------------------------------
 
 void GuiEditorServices::playCoin()
@@ -213,6 +220,8 @@ template <typename Flow> auto GuiEditorServices::withLearning(const ConfigImage 
     context.directWrite = settings.directWrite();
     context.soundOn = settings.soundOn();
     context.coinSound = [this] { playCoin(); };
+    context.learnChannel = settings.learnChannel();
+    context.learnChannelUsed = [&settings](int channel) { settings.setLearnChannel(channel); };
     return flow(context);
 }
 

@@ -40,6 +40,8 @@ public:
     QString backupDirectory() override;
     // The "Verify" setting as the main window left it.
     bool verifyAfterWrite() override;
+    // The "Back up before cloning" setting.
+    bool backupBeforeCloning() override;
 
     // Coin learning, the reference calibration, the channel control and the overlap check,
     // with the learning windows and the "Sound", "Adjust" and "DirectWrite" settings.

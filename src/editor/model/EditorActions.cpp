@@ -1,5 +1,6 @@
 // The editor's handlers that reach beyond the form: writing, cloning, storing, files, the
 // small dialogs, closing and the timer.
+#include "CloneTarget.h"
 #include "ConfigFile.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
@@ -63,6 +64,24 @@ void EditorModel::SpeedButton2Click()
             m_services ? m_services->chooseCloneGroups() : CloneGroups{};
         if (!groups || !groups->any())
             return;
+        // The target's own configuration is read and kept first, as a read keeps it.
+        const QString backups = m_services && m_services->backupBeforeCloning()
+                                    ? m_services->backupDirectory()
+                                    : QString();
+        if (!backups.isEmpty()) {
+            showProgress(true, messageText(Msg::ValidatorReadingInProgress));
+            ReadObserver reading;
+            reading.progress = [&](int gauge) {
+                setGauge(gauge);
+                flush();
+            };
+            const bool goOn = keepCloneTarget(*m_link, backups, reading).goOn;
+            showProgress(false);
+            if (!goOn) {
+                display();
+                return;
+            }
+        }
         showProgress(true, messageText(Msg::SavingInProgress));
         WriteObserver observer;
         observer.progress = [&](int gauge) {

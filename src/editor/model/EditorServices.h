@@ -59,6 +59,9 @@ public:
     virtual QString backupDirectory() = 0;
     // The "Verify after write" switch: a write that finished is read back and compared.
     virtual bool verifyAfterWrite() { return true; }
+    // The "Back up before cloning" switch: a clone reads the target and keeps its own
+    // configuration in the backup directory before writing over it.
+    virtual bool backupBeforeCloning() { return true; }
 
     // The coin learning windows, where the program has them: without them their buttons do
     // not show.

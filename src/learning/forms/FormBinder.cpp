@@ -219,6 +219,8 @@ void FormBinder::apply(const Control &control, QWidget *widget)
         widget->setEnabled(s.enabled);
     if (widget->toolTip() != s.toolTip)
         widget->setToolTip(s.toolTip);
+    if (!s.accessibleName.isEmpty() && widget->accessibleName() != s.accessibleName)
+        widget->setAccessibleName(s.accessibleName);
 }
 
 void FormBinder::applyTint(const QString &name, QWidget *widget)

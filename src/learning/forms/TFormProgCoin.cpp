@@ -126,9 +126,15 @@ void TFormProgCoin::build()
     m_chart->setMinimumHeight(220);
     column->addWidget(m_chart, 1);
 
-    column->addLayout(
-        line(b, this,
-             {"LabelResponse", "LabelRelease", "LabelCoinsCaption", "LabelCoins", "CheckAuto"}));
+    auto *counters = line(
+        b, this, {"LabelResponse", "LabelRelease", "LabelCoinsCaption", "LabelCoins", "CheckAuto"});
+    // The status line takes the rest of the row and never widens the form: its tip holds the
+    // whole text.
+    QWidget *status = b.create(ProgCoinModel::statusName(), this);
+    status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    delete counters->takeAt(counters->count() - 1); // the stretch: the line takes its place
+    counters->addWidget(status, 1);
+    column->addLayout(counters);
     column->addLayout(line(b, this,
                            {"BtnOK", "BtnSave", "BtnCancel", "BtnLoad", "BtnExport", "BtnImport",
                             "BtnMatched", "BtnAnalyse"}));

@@ -90,7 +90,7 @@ private Q_SLOTS:
         }
         auto *matched = form.findChild<QLabel *>("LabelMatched");
         QVERIFY(matched->isVisible());
-        QCOMPARE(matched->text(), QStringLiteral("4"));
+        QCOMPARE(matched->text(), QStringLiteral("Matched: Channel 4 (0.50)"));
 
         // A minimum typed above its maximum is brought down to it when the box is left.
         QLineEdit *min = form.findChild<QLineEdit *>("HFLMINL");
@@ -190,23 +190,46 @@ private Q_SLOTS:
         services.checkOverlap(image);
         QCOMPARE(prompt.told(), QStringList{"No overlapping !"});
 
-        // Coin learning opens the learning window; a coin reaches it, Cancel changes nothing.
+        // Coin learning opens the learning window; a coin before a channel is chosen is
+        // ignored with a word in the status line, the next one counts; Cancel changes nothing.
         bool seen = false;
         QTimer::singleShot(0, this, [&] {
             auto *form = qobject_cast<TFormProgCoin *>(QApplication::activeModalWidget());
             QVERIFY(form);
             QCOMPARE(form->windowTitle(), QStringLiteral("Coin learning"));
+            auto *status = form->findChild<QLabel *>("LabelStatus");
+            device.insertCoin(CoinKind::Euro200);
+            QVERIFY(QTest::qWaitFor(
+                [&] {
+                    return status->text() == QLatin1String("Coin ignored: choose a channel first");
+                },
+                20000));
+            form->findChild<QSpinBox *>("SpinEdit1")->setValue(20);
+            QVERIFY(status->text().isEmpty());
             device.insertCoin(CoinKind::Euro200);
             auto *coins = form->findChild<QLabel *>("LabelCoins");
             QVERIFY(QTest::qWaitFor([&] { return coins->text() == QLatin1String("1"); }, 20000));
+            QVERIFY(!form->findChild<QLineEdit *>("HFUMINL")->accessibleName().isEmpty());
+            QVERIFY(!form->findChild<QLabel *>("ReadingHFUL")->toolTip().isEmpty());
             seen = true;
             QTest::mouseClick(form->findChild<QPushButton *>("BtnCancel"), Qt::LeftButton);
         });
         const ConfigImage before = image;
         QVERIFY(!services.learnCoins(link, image));
         QVERIFY(seen);
-        QCOMPARE(prompt.told().last(), QStringLiteral("Select number of channel !"));
+        QCOMPARE(prompt.told(), QStringList{"No overlapping !"}); // no box for the ignored coin
         QVERIFY(image == before);
+
+        // The next learning starts on the channel left, kept in the settings.
+        int start = -1;
+        QTimer::singleShot(0, this, [&] {
+            auto *form = qobject_cast<TFormProgCoin *>(QApplication::activeModalWidget());
+            QVERIFY(form);
+            start = form->findChild<QSpinBox *>("SpinEdit1")->value();
+            QTest::mouseClick(form->findChild<QPushButton *>("BtnCancel"), Qt::LeftButton);
+        });
+        services.learnCoins(link, image);
+        QCOMPARE(start, 20);
     }
 
 private:
