@@ -1,5 +1,6 @@
 #include "BenchCommands.h"
 
+#include "BenchPanelModel.h"
 #include "LineProfile.h"
 #include "VirtualValidator.h"
 
@@ -25,6 +26,8 @@ QString BenchCommands::help()
         "firmware request   the mini-programmer asks for a firmware file (request code 11)\n"
         "line LINE          the line from now on: bench, instant, or bench changed by a comma\n"
         "                   list (pace,turnaround=MIN-MAX,...), as tarvik-sim --line\n"
+        "status             print what the validator shows: coins waiting, test mode, the\n"
+        "                   mini-programmer, the door, the cable, its family and serial number\n"
         "help               list these commands\n");
 }
 
@@ -66,6 +69,21 @@ BenchCommands::Reply BenchCommands::run(QStringView line)
     }
     if (command == QLatin1String("line"))
         return changeLine(words);
+    if (command == QLatin1String("status") && words.isEmpty()) {
+        const BenchStatus now = BenchStatus::of(*m_device);
+        const auto onOff = [](bool on) {
+            return on ? QStringLiteral("on") : QStringLiteral("off");
+        };
+        return {QStringLiteral("coins %1, test mode %2, mini-programmer %3, door %4, cable %5, "
+                               "family 0x%6, serial %7\n")
+                    .arg(now.queuedCoins)
+                    .arg(onOff(now.testMode), onOff(now.miniProgrammer),
+                         now.doorOpen ? QStringLiteral("open") : QStringLiteral("closed"),
+                         now.connected ? QStringLiteral("in") : QStringLiteral("out"))
+                    .arg(now.familyByte, 2, 16, QLatin1Char('0'))
+                    .arg(now.serial),
+                {}};
+    }
     if (command == QLatin1String("help") && words.isEmpty())
         return {help(), {}};
     return failure(QStringLiteral("unknown command \"%1\"; \"help\" lists the commands")
