@@ -5,6 +5,7 @@
 
 #include "BenchCommands.h"
 #include "ConfigFile.h"
+#include "HelpKey.h"
 #include "Languages.h"
 #include "LineTiming.h"
 #include "PanelWindow.h"
@@ -295,10 +296,14 @@ int main(int argc, char *argv[])
     std::printf("%s\n", qPrintable(server.slavePath()));
     std::fflush(stdout);
     std::unique_ptr<LanguageSwitcher> translations;
+    int status = 0;
     if (parser.isSet(window)) {
         translations = std::make_unique<LanguageSwitcher>();
         translations->load(Languages::indexOf(parser.value(language).toUpper()));
-        runWithPanel(server, device, commands, timing.profile(), &g_stop);
+        // F1 on the panel opens the guide at the virtual validator, as in the program.
+        HelpKey help(translations.get());
+        app.installEventFilter(&help);
+        status = runWithPanel(server, device, commands, timing.profile(), &g_stop);
     } else {
         server.serve(&g_stop);
     }
@@ -309,7 +314,6 @@ int main(int argc, char *argv[])
                      "tarvik-sim: line costs: %d answers, %.1f ms turnaround, %.1f ms adapter\n",
                      spent.answers, spent.turnaroundMs, spent.adapterMs);
     }
-    int status = 0;
     if (parser.isSet(save) && !saveConfigFile(parser.value(save), device.memory(), &error))
         status = fail(QStringLiteral("cannot save %1: %2").arg(parser.value(save), error));
     if (parser.isSet(firmwareOut)) {
