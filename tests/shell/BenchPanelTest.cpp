@@ -234,7 +234,65 @@ private Q_SLOTS:
         QVERIFY(bench.endedByItself());
     }
 
+    // tarvik --simulate starts the bench on a pseudo-terminal and opens it as its port; killed,
+    // it takes the bench with it.
+    void theBenchEndsWhenTheProgramIsKilled()
+    {
+#ifdef Q_OS_LINUX
+        QTemporaryDir home;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("HOME"), home.path());
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.filePath("config"));
+        environment.insert(QStringLiteral("TARVIK_DB"), home.filePath("TarvikDB"));
+        // A first start makes the tables (and says so); the smoke start does it unattended.
+        QProcess first;
+        first.setProcessEnvironment(environment);
+        first.start(QStringLiteral(TARVIK_PATH), {"--smoke"});
+        QVERIFY(first.waitForFinished(120000));
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(TARVIK_PATH), {"--simulate", "--report-startup"});
+        QByteArray out;
+        while (!out.contains("main window shown with the link open") &&
+               program.waitForReadyRead(60000))
+            out += program.readAllStandardOutput();
+        QVERIFY2(out.contains("main window shown with the link open"), out.constData());
+        const QString bench = childNamed(program.processId(), "tarvik-sim");
+        QVERIFY(!bench.isEmpty());
+        program.kill();
+        QVERIFY(program.waitForFinished(30000));
+        QVERIFY(QTest::qWaitFor([&] { return ended(bench); }, 60000));
+#else
+        QSKIP("the bench runs in its own process where pseudo-terminals exist");
+#endif
+    }
+
 private:
+    // The process id of a child of `parent` whose command line holds `name`.
+    static QString childNamed(qint64 parent, const char *name)
+    {
+        QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(parent));
+        if (!children.open(QIODevice::ReadOnly))
+            return {};
+        for (const QByteArray &pid : children.readAll().split(' ')) {
+            QFile command(QStringLiteral("/proc/%1/cmdline").arg(QString::fromLatin1(pid)));
+            if (!pid.isEmpty() && command.open(QIODevice::ReadOnly) &&
+                command.readAll().contains(name))
+                return QString::fromLatin1(pid);
+        }
+        return {};
+    }
+    // Gone, or a zombie nobody has reaped yet.
+    static bool ended(const QString &pid)
+    {
+        QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+        if (!stat.open(QIODevice::ReadOnly))
+            return true;
+        const QByteArray text = stat.readAll();
+        const qsizetype close = text.lastIndexOf(')');
+        return close < 0 || text.mid(close + 2, 1) == "Z";
+    }
+
     QTemporaryDir m_settings;
 };
 
