@@ -4,6 +4,7 @@
 #include "ConfigImage.h"
 #include "VirtualValidator.h"
 
+#include <QCoreApplication>
 #include <memory>
 #include <utility>
 
@@ -26,9 +27,11 @@ BenchPanelModel::BenchPanelModel(Send send, Poll poll, const LineProfile &line, 
     m_status = m_poll();
     // The host takes coins out of the queue as it polls, and its commands switch test mode and
     // the mini-programmer.
+    // Without an event loop (a script, a test) the status is read after each action only.
     m_timer.setInterval(250);
     connect(&m_timer, &QTimer::timeout, this, &BenchPanelModel::refresh);
-    m_timer.start();
+    if (QCoreApplication::instance())
+        m_timer.start();
 }
 
 std::unique_ptr<BenchPanelModel> BenchPanelModel::inProcess(VirtualValidator *device,

@@ -13,12 +13,20 @@
 #include "TFormProgCoin.h"
 #include "UserPrompt.h"
 
+#include "LineProfile.h"
+#include "SimulatorPanel.h"
+#include "VirtualValidator.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSettings>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <functional>
@@ -232,6 +240,28 @@ private Q_SLOTS:
         bench.process().closeWriteChannel();
         QVERIFY(bench.process().waitForFinished(60000));
         QVERIFY(bench.endedByItself());
+    }
+
+    // A screen reader names every control of the panel.
+    void everyControlOfThePanelHasAName()
+    {
+        VirtualValidator device;
+        LineProfile line = LineProfile::bench();
+        SimulatorPanel panel(&device, &line);
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&panel));
+        const QList<QWidget *> widgets = panel.findChildren<QWidget *>();
+        int controls = 0;
+        for (QWidget *widget : widgets) {
+            if (!qobject_cast<QAbstractButton *>(widget) && !qobject_cast<QComboBox *>(widget) &&
+                !qobject_cast<QSpinBox *>(widget))
+                continue;
+            ++controls;
+            QAccessibleInterface *face = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY(face);
+            QVERIFY2(!face->text(QAccessible::Name).isEmpty(), qPrintable(widget->objectName()));
+        }
+        QCOMPARE(controls, 18);
     }
 
     // tarvik --simulate starts the bench on a pseudo-terminal and opens it as its port; killed,
