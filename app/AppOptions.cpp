@@ -72,6 +72,15 @@ bool AppOptions::useVirtualValidator() const
     return smoke && !portNamed;
 }
 
+bool AppOptions::benchInOwnProcess() const
+{
+#ifdef Q_OS_WIN
+    return false;
+#else
+    return simulate && !unattended();
+#endif
+}
+
 QString AppOptions::usage()
 {
     return QStringLiteral(
@@ -80,7 +89,8 @@ QString AppOptions::usage()
         "              [--screenshots DIR] [--language LANG] [--help] [--version]\n"
         "  COMn             the port to use when no validator answers the probe\n"
         "  --device PATH    a system serial port standing as COM1\n"
-        "  --simulate       the in-process virtual validator, with its bench panel\n"
+        "  --simulate       the virtual validator, with its bench panel in a window of its\n"
+        "                   own (tarvik-sim --window) on a pseudo-terminal\n"
         "  --sim-line LINE  its line: bench (the default), instant, or bench changed by\n"
         "                   pace,nopace,turnaround=MIN-MAX,echo=MIN-MAX,burst=MS,seed=N,\n"
         "                   split=BYTES:MS\n"

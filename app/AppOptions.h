@@ -8,7 +8,7 @@
 // The command line of the tarvik program.
 struct AppOptions
 {
-    bool simulate = false;      // --simulate: the in-process virtual validator, with its panel
+    bool simulate = false;      // --simulate: the virtual validator, with its bench panel
     bool smoke = false;         // --smoke: start, show the main window, close at once
     bool reportStartup = false; // --report-startup: say on stdout when the link is open
     bool help = false;          // --help: print the usage and end
@@ -28,6 +28,9 @@ struct AppOptions
     // No one at the screen: messages go to the error stream and nothing waits for a click.
     bool unattended() const { return smoke || !screenshot.isEmpty() || !screenshots.isEmpty(); }
     bool useVirtualValidator() const;
+    // The virtual validator with its bench panel in a process of its own on a pseudo-terminal
+    // (--simulate with someone at the screen, where pseudo-terminals exist); else in this one.
+    bool benchInOwnProcess() const;
     // The virtual validator's line: --sim-line, else a bench's, or an instant one when nobody
     // watches (pictures and the smoke start).
     LineProfile simulatedLine() const;

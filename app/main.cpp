@@ -1,4 +1,5 @@
 #include "AppOptions.h"
+#include "BenchProcess.h"
 #include "ConsolePrompt.h"
 #include "DataDirectory.h"
 #include "DevicePortOpener.h"
@@ -95,15 +96,29 @@ int main(int argc, char *argv[])
         ScreenshotTour::prepareValidator(device);
     LineProfile simulatedLine = options.simulatedLine();
     SimulatedLinkSource simulated(&device, &simulatedLine);
+    // The bench in its own process is opened as a real port on COM1.
+    BenchProcess bench;
+    bool benchApart = false;
+    if (options.benchInOwnProcess()) {
+        QString why;
+        benchApart = bench.start(BenchProcess::besideProgram(), simulatedLine.toString(),
+                                 settings.language(), &why);
+        if (!benchApart)
+            std::fprintf(stderr,
+                         "tarvik: the bench panel cannot start in its own window (%s); it shows "
+                         "in this program\n",
+                         qPrintable(why));
+    }
     SerialPortOpener serialPorts;
-    DevicePortOpener devicePort(options.device);
+    DevicePortOpener devicePort(benchApart ? bench.portPath() : options.device);
     TCommunication portDialog(&prompt);
-    ProbingLinkSource probing(options.device.isEmpty() ? static_cast<PortOpener *>(&serialPorts)
-                                                       : &devicePort,
+    ProbingLinkSource probing(options.device.isEmpty() && !benchApart
+                                  ? static_cast<PortOpener *>(&serialPorts)
+                                  : &devicePort,
                               options.portArguments, &portDialog, &prompt);
 
     std::unique_ptr<SimulatorPanel> panel;
-    if (options.useVirtualValidator() && !options.smoke)
+    if (options.useVirtualValidator() && !options.smoke && !benchApart)
         panel = std::make_unique<SimulatorPanel>(&device, &simulatedLine);
 
     ShellContext context;
@@ -132,8 +147,9 @@ int main(int argc, char *argv[])
         TFormRepair form(model, mainWindow);
         form.exec();
     };
-    context.linkSource =
-        options.useVirtualValidator() ? static_cast<LinkSource *>(&simulated) : &probing;
+    context.linkSource = options.useVirtualValidator() && !benchApart
+                             ? static_cast<LinkSource *>(&simulated)
+                             : &probing;
     std::unique_ptr<ScreenshotTour> tour;
     context.showEditor = [&](ValidatorLink &link, QWidget *mainWindow) {
         std::function<void(TFormData &)> afterOpeningRead;

@@ -1,5 +1,6 @@
 #include "SimulatorPanel.h"
 
+#include "BenchPanelModel.h"
 #include "ConfigImage.h"
 #include "LineProfile.h"
 #include "VirtualValidator.h"
@@ -24,7 +25,17 @@ template <typename W> W *named(W *widget, const char *name)
 } // namespace
 
 SimulatorPanel::SimulatorPanel(VirtualValidator *device, LineProfile *line, QWidget *parent)
-    : QWidget(parent, Qt::Window), m_device(device), m_validatorGroup(new QGroupBox(this)),
+    : SimulatorPanel(nullptr, line != nullptr, parent)
+{
+    m_ownModel = BenchPanelModel::inProcess(device, line);
+    m_model = m_ownModel.get();
+    build(line != nullptr);
+}
+
+SimulatorPanel::~SimulatorPanel() = default;
+
+SimulatorPanel::SimulatorPanel(BenchPanelModel *model, bool showLine, QWidget *parent)
+    : QWidget(parent, Qt::Window), m_model(model), m_validatorGroup(new QGroupBox(this)),
       m_familyLabel(new QLabel(this)), m_familyBox(named(new QComboBox(this), "FamilyBox")),
       m_serialLabel(new QLabel(this)), m_serialBox(named(new QSpinBox(this), "SerialBox")),
       m_fitBtn(named(new QPushButton(this), "FitBtn")), m_coinGroup(new QGroupBox(this)),
@@ -35,7 +46,7 @@ SimulatorPanel::SimulatorPanel(VirtualValidator *device, LineProfile *line, QWid
       m_doorBox(named(new QCheckBox(this), "DoorBox")),
       m_cableBox(named(new QCheckBox(this), "CableBox")),
       m_miniPgmBox(named(new QCheckBox(this), "MiniPgmBox")),
-      m_firmwareRequestBtn(named(new QPushButton(this), "FirmwareRequestBtn")), m_line(line),
+      m_firmwareRequestBtn(named(new QPushButton(this), "FirmwareRequestBtn")),
       m_lineGroup(named(new QGroupBox(this), "LineGroup")),
       m_paceBox(named(new QCheckBox(this), "LinePaceBox")), m_echoLabel(new QLabel(this)),
       m_echoMin(named(new QSpinBox(this), "LineEchoMin")),
@@ -48,18 +59,28 @@ SimulatorPanel::SimulatorPanel(VirtualValidator *device, LineProfile *line, QWid
       m_seedBox(named(new QSpinBox(this), "LineSeedBox"))
 {
     setObjectName(QStringLiteral("SimulatorPanel"));
-    for (quint8 family : kFamilies)
+    if (m_model)
+        build(showLine);
+}
+
+void SimulatorPanel::build(bool showLine)
+{
+    for (quint8 family : BenchPanelModel::kFamilies)
         m_familyBox->addItem(QString::fromLatin1(familyText(family)), family);
     m_serialBox->setRange(1, 99999999);
-    const ConfigImage &memory = m_device->memory();
-    m_familyBox->setCurrentIndex(qBound(0, int(memory.familyNibble()), 3));
-    m_serialBox->setValue(int(qBound<quint32>(1, memory.serialNumber(), 99999999)));
+    const BenchStatus &status = m_model->status();
+    const int familyIndex = m_familyBox->findData(status.familyByte);
+    m_familyBox->setCurrentIndex(familyIndex >= 0 ? familyIndex
+                                                  : qBound(0, status.familyByte >> 4, 3));
+    m_serialBox->setValue(int(qBound<quint32>(1, status.serial, 99999999)));
     for (int k = 0; k < CoinGenerator::kindCount(); ++k)
         m_coinBox->addItem(QString(), k); // named in retranslateUi
-    m_doorBox->setChecked(m_device->doorOpen());
-    m_cableBox->setChecked(m_device->connected());
-    m_miniPgmBox->setChecked(m_device->miniProgrammer());
+    m_doorBox->setChecked(status.doorOpen);
+    m_cableBox->setChecked(status.connected);
+    m_miniPgmBox->setChecked(status.miniProgrammer);
 
+    m_familyLabel->setBuddy(m_familyBox);
+    m_serialLabel->setBuddy(m_serialBox);
     auto *validator = new QGridLayout(m_validatorGroup);
     validator->addWidget(m_familyLabel, 0, 0);
     validator->addWidget(m_familyBox, 0, 1);
@@ -79,22 +100,16 @@ SimulatorPanel::SimulatorPanel(VirtualValidator *device, LineProfile *line, QWid
     layout->addWidget(m_miniPgmBox);
     layout->addWidget(m_firmwareRequestBtn);
     buildLineGroup();
+    m_lineGroup->setVisible(showLine);
     layout->addWidget(m_lineGroup);
 
     connect(m_fitBtn, &QPushButton::clicked, this, &SimulatorPanel::fitValidator);
     connect(m_insertBtn, &QPushButton::clicked, this, &SimulatorPanel::insertCoin);
-    connect(m_doorBox, &QCheckBox::toggled, this,
-            [this](bool open) { m_device->setDoorOpen(open); });
-    connect(m_cableBox, &QCheckBox::toggled, this,
-            [this](bool plugged) { m_device->setConnected(plugged); });
-    connect(m_miniPgmBox, &QCheckBox::toggled, this,
-            [this](bool on) { m_device->setMiniProgrammer(on); });
+    connect(m_doorBox, &QCheckBox::toggled, m_model, &BenchPanelModel::setDoorOpen);
+    connect(m_cableBox, &QCheckBox::toggled, m_model, &BenchPanelModel::setCablePlugged);
+    connect(m_miniPgmBox, &QCheckBox::toggled, m_model, &BenchPanelModel::setMiniProgrammer);
     connect(m_firmwareRequestBtn, &QPushButton::clicked, this, &SimulatorPanel::requestFirmware);
-    // The host takes coins out of the queue as it polls, and its commands switch test mode and
-    // the mini-programmer.
-    m_refresh.setInterval(250);
-    connect(&m_refresh, &QTimer::timeout, this, &SimulatorPanel::refresh);
-    m_refresh.start();
+    connect(m_model, &BenchPanelModel::statusChanged, this, &SimulatorPanel::refresh);
     retranslateUi();
 }
 
@@ -106,6 +121,7 @@ void SimulatorPanel::retranslateUi()
     m_serialLabel->setText(tr("Serial number :"));
     m_fitBtn->setText(tr("Fit a new validator"));
     m_coinGroup->setTitle(tr("Coins"));
+    m_coinBox->setAccessibleName(m_coinGroup->title());
     m_insertBtn->setText(tr("Insert"));
     m_doorBox->setText(tr("Door open"));
     m_cableBox->setText(tr("Cable plugged in"));
@@ -178,18 +194,16 @@ void SimulatorPanel::buildLineGroup()
         ++row;
     }
     m_splitGap->setRange(0, 10000);
-    if (m_line) {
-        m_paceBox->setChecked(m_line->pacing);
-        m_echoMin->setValue(m_line->echoMinMs);
-        m_echoMax->setValue(m_line->echoMaxMs);
-        m_turnMin->setValue(m_line->turnaroundMinMs);
-        m_turnMax->setValue(m_line->turnaroundMaxMs);
-        m_burstBox->setValue(m_line->burstMs);
-        m_splitAt->setValue(m_line->splitAt);
-        m_splitGap->setValue(m_line->splitGapMs);
-        m_seedBox->setValue(int(qMin<quint32>(m_line->seed, 999999)));
-    }
-    m_lineGroup->setVisible(m_line != nullptr);
+    const LineProfile &line = m_model->line();
+    m_paceBox->setChecked(line.pacing);
+    m_echoMin->setValue(line.echoMinMs);
+    m_echoMax->setValue(line.echoMaxMs);
+    m_turnMin->setValue(line.turnaroundMinMs);
+    m_turnMax->setValue(line.turnaroundMaxMs);
+    m_burstBox->setValue(line.burstMs);
+    m_splitAt->setValue(line.splitAt);
+    m_splitGap->setValue(line.splitGapMs);
+    m_seedBox->setValue(int(qMin<quint32>(line.seed, 999999)));
     connect(m_paceBox, &QCheckBox::toggled, this, &SimulatorPanel::takeLine);
     for (QSpinBox *box :
          {m_echoMin, m_echoMax, m_turnMin, m_turnMax, m_burstBox, m_splitAt, m_splitGap, m_seedBox})
@@ -198,47 +212,47 @@ void SimulatorPanel::buildLineGroup()
 
 void SimulatorPanel::takeLine()
 {
-    if (!m_line)
-        return;
-    // A range typed upside down still means "between these two".
-    m_line->pacing = m_paceBox->isChecked();
-    m_line->echoMinMs = qMin(m_echoMin->value(), m_echoMax->value());
-    m_line->echoMaxMs = qMax(m_echoMin->value(), m_echoMax->value());
-    m_line->turnaroundMinMs = qMin(m_turnMin->value(), m_turnMax->value());
-    m_line->turnaroundMaxMs = qMax(m_turnMin->value(), m_turnMax->value());
-    m_line->burstMs = m_burstBox->value();
-    m_line->splitAt = m_splitAt->value();
-    m_line->splitGapMs = m_splitGap->value();
-    m_line->seed = quint32(m_seedBox->value());
+    LineProfile line;
+    line.pacing = m_paceBox->isChecked();
+    line.echoMinMs = m_echoMin->value();
+    line.echoMaxMs = m_echoMax->value();
+    line.turnaroundMinMs = m_turnMin->value();
+    line.turnaroundMaxMs = m_turnMax->value();
+    line.burstMs = m_burstBox->value();
+    line.splitAt = m_splitAt->value();
+    line.splitGapMs = m_splitGap->value();
+    line.seed = quint32(m_seedBox->value());
+    m_model->setLine(line);
 }
 
 void SimulatorPanel::fitValidator()
 {
-    const quint8 family = quint8(m_familyBox->currentData().toUInt());
-    m_device->setMemory(VirtualValidator::factoryImage(family, quint32(m_serialBox->value())));
-    m_device->setDoorOpen(m_doorBox->isChecked());
+    m_model->fitValidator(m_familyBox->currentIndex(), quint32(m_serialBox->value()));
 }
 
 void SimulatorPanel::insertCoin()
 {
-    m_device->insertCoin(CoinKind(m_coinBox->currentData().toInt()));
-    refresh();
+    m_model->insertCoin(CoinKind(m_coinBox->currentData().toInt()));
 }
 
 void SimulatorPanel::requestFirmware()
 {
-    m_device->requestFirmware();
-    refresh();
+    m_model->requestFirmware();
 }
 
 void SimulatorPanel::refresh()
 {
-    m_queueLabel->setText(tr("Coins waiting : %1").arg(m_device->queuedCoins()));
-    m_testModeLabel->setVisible(m_device->testMode());
-    // The host's answer to a firmware request switches the mini-programmer on by itself; the
-    // box follows without starting a new collection.
-    if (m_miniPgmBox->isChecked() != m_device->miniProgrammer()) {
-        const QSignalBlocker blocker(m_miniPgmBox);
-        m_miniPgmBox->setChecked(m_device->miniProgrammer());
+    const BenchStatus &status = m_model->status();
+    m_queueLabel->setText(tr("Coins waiting : %1").arg(status.queuedCoins));
+    m_testModeLabel->setVisible(status.testMode);
+    // The host's commands and a script's lines change the validator too; the boxes follow
+    // without sending anything back.
+    for (const auto &[box, on] :
+         {std::pair{m_miniPgmBox, status.miniProgrammer}, std::pair{m_doorBox, status.doorOpen},
+          std::pair{m_cableBox, status.connected}}) {
+        if (box->isChecked() != on) {
+            const QSignalBlocker blocker(box);
+            box->setChecked(on);
+        }
     }
 }

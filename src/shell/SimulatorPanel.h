@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QTimer>
 #include <QWidget>
+#include <memory>
 
 class QCheckBox;
 class QComboBox;
@@ -9,6 +9,7 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 class QSpinBox;
+class BenchPanelModel;
 class VirtualValidator;
 enum class CoinKind;
 struct LineProfile;
@@ -16,15 +17,20 @@ struct LineProfile;
 // The bench around the virtual validator: fit a validator of a family, insert coins, open the
 // door, pull the cable, switch to the mini-programmer or have it ask for firmware, and make the
 // line as rough as a real one (pacing, turnarounds, adapter bursts, pauses inside replies).
+// It binds to a BenchPanelModel: in tarvik-sim --window, its own process, so that no window
+// of the program blocks it; in this process for the pictures and where no pseudo-terminal
+// exists.
 class SimulatorPanel final : public QWidget
 {
     Q_OBJECT
 public:
-    // `line` is the line the virtual validator's port follows; the panel changes it in place.
+    // A bench in this process: `line` is the line the virtual validator's port follows; the
+    // panel changes it in place.
     explicit SimulatorPanel(VirtualValidator *device, LineProfile *line = nullptr,
                             QWidget *parent = nullptr);
-
-    static constexpr quint8 kFamilies[] = {0x03, 0x13, 0x23, 0x33};
+    // `showLine`: the Line group is offered.
+    SimulatorPanel(BenchPanelModel *model, bool showLine, QWidget *parent = nullptr);
+    ~SimulatorPanel() override;
 
     // How the coin list names a coin or token, in the current language.
     static QString coinName(CoinKind kind);
@@ -44,8 +50,10 @@ private:
     void buildLineGroup();
     // The line's settings from the boxes.
     void takeLine();
+    void build(bool showLine);
 
-    VirtualValidator *m_device;
+    std::unique_ptr<BenchPanelModel> m_ownModel;
+    BenchPanelModel *m_model;
     QGroupBox *m_validatorGroup;
     QLabel *m_familyLabel;
     QComboBox *m_familyBox;
@@ -61,7 +69,6 @@ private:
     QCheckBox *m_cableBox;
     QCheckBox *m_miniPgmBox;
     QPushButton *m_firmwareRequestBtn;
-    LineProfile *m_line;
     QGroupBox *m_lineGroup;
     QCheckBox *m_paceBox;
     QLabel *m_echoLabel;
@@ -77,5 +84,4 @@ private:
     QSpinBox *m_splitGap;
     QLabel *m_seedLabel;
     QSpinBox *m_seedBox;
-    QTimer m_refresh;
 };

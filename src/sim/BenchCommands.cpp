@@ -1,5 +1,7 @@
 #include "BenchCommands.h"
 
+#include "BenchPanelModel.h"
+#include "LineProfile.h"
 #include "VirtualValidator.h"
 
 namespace {
@@ -18,6 +20,14 @@ QString BenchCommands::help()
         "                   1.00 or 2.00 (or euro005 ... euro200), golden or silver (tokens)\n"
         "door open|closed   open or close the validator's door\n"
         "cable out|in       pull the cable or plug it back in\n"
+        "fit FAMILY SERIAL  a factory-fresh validator of family byte FAMILY (0x03, 0x13, 0x23,\n"
+        "                   0x33) with serial number SERIAL, the door as it was\n"
+        "mini on|off        switch the mini-programmer (firmware upgrade) on or off\n"
+        "firmware request   the mini-programmer asks for a firmware file (request code 11)\n"
+        "line LINE          the line from now on: bench, instant, or bench changed by a comma\n"
+        "                   list (pace,turnaround=MIN-MAX,...), as tarvik-sim --line\n"
+        "status             print what the validator shows: coins waiting, test mode, the\n"
+        "                   mini-programmer, the door, the cable, its family and serial number\n"
         "help               list these commands\n");
 }
 
@@ -42,6 +52,37 @@ BenchCommands::Reply BenchCommands::run(QStringView line)
             return failure(QStringLiteral("cable needs \"out\" or \"in\""));
         m_device->setConnected(argument == QLatin1String("in"));
         return {};
+    }
+    if (command == QLatin1String("fit"))
+        return fit(words);
+    if (command == QLatin1String("mini")) {
+        if (argument != QLatin1String("on") && argument != QLatin1String("off"))
+            return failure(QStringLiteral("mini needs \"on\" or \"off\""));
+        m_device->setMiniProgrammer(argument == QLatin1String("on"));
+        return {};
+    }
+    if (command == QLatin1String("firmware")) {
+        if (argument != QLatin1String("request"))
+            return failure(QStringLiteral("firmware needs \"request\""));
+        m_device->requestFirmware();
+        return {};
+    }
+    if (command == QLatin1String("line"))
+        return changeLine(words);
+    if (command == QLatin1String("status") && words.isEmpty()) {
+        const BenchStatus now = BenchStatus::of(*m_device);
+        const auto onOff = [](bool on) {
+            return on ? QStringLiteral("on") : QStringLiteral("off");
+        };
+        return {QStringLiteral("coins %1, test mode %2, mini-programmer %3, door %4, cable %5, "
+                               "family 0x%6, serial %7\n")
+                    .arg(now.queuedCoins)
+                    .arg(onOff(now.testMode), onOff(now.miniProgrammer),
+                         now.doorOpen ? QStringLiteral("open") : QStringLiteral("closed"),
+                         now.connected ? QStringLiteral("in") : QStringLiteral("out"))
+                    .arg(now.familyByte, 2, 16, QLatin1Char('0'))
+                    .arg(now.serial),
+                {}};
     }
     if (command == QLatin1String("help") && words.isEmpty())
         return {help(), {}};
@@ -74,5 +115,33 @@ BenchCommands::Reply BenchCommands::coin(QStringList arguments)
     }
     for (int i = 0; i < count; ++i)
         m_device->insertCoin(*kind);
+    return {};
+}
+
+BenchCommands::Reply BenchCommands::fit(const QStringList &arguments)
+{
+    bool familyOk = false;
+    bool serialOk = false;
+    const uint family = arguments.size() == 2 ? arguments[0].toUInt(&familyOk, 0) : 0;
+    const qulonglong serial = arguments.size() == 2 ? arguments[1].toULongLong(&serialOk, 0) : 0;
+    if (!familyOk || family > 0xFF || !serialOk || serial > 0xFFFFFFFFu)
+        return failure(QStringLiteral("fit needs a family byte and a serial number, such as "
+                                      "\"fit 0x13 1001\""));
+    const bool door = m_device->doorOpen();
+    m_device->setMemory(VirtualValidator::factoryImage(quint8(family), quint32(serial)));
+    m_device->setDoorOpen(door);
+    return {};
+}
+
+BenchCommands::Reply BenchCommands::changeLine(const QStringList &arguments)
+{
+    if (!m_onLine)
+        return failure(QStringLiteral("this bench cannot change its line"));
+    QString why;
+    const std::optional<LineProfile> profile = LineProfile::parse(arguments.join(QString()), &why);
+    if (arguments.isEmpty() || !profile)
+        return failure(
+            QStringLiteral("line: %1").arg(why.isEmpty() ? QStringLiteral("needs a line") : why));
+    m_onLine(*profile);
     return {};
 }

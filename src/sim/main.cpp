@@ -1,21 +1,31 @@
 // tarvik-sim: a virtual validator on a pseudo-terminal. The first line on stdout is the path of
 // the port to open; the device is served until SIGTERM or SIGINT. Bench commands (coins, door,
-// cable) come one a line on stdin.
+// cable) come one a line on stdin. With --window the bench panel shows too, and the service
+// ends with the panel or with the end of stdin.
 
 #include "BenchCommands.h"
 #include "ConfigFile.h"
+#include "HelpKey.h"
+#include "Languages.h"
 #include "LineTiming.h"
+#include "PanelWindow.h"
 #include "PtyServer.h"
 #include "VirtualValidator.h"
 #include "WholeFile.h"
 
+#include <QApplication>
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
 #include <csignal>
 #include <cstdio>
+#include <cstring>
+#include <memory>
 #include <optional>
 #include <unistd.h>
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#endif
 
 namespace {
 
@@ -72,7 +82,14 @@ std::optional<std::pair<quint32, quint32>> pair(const QString &text, quint32 aMa
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
+    // The panel needs a display; the plain device does not.
+    bool windowed = false;
+    for (int i = 1; i < argc; ++i)
+        windowed = windowed || std::strcmp(argv[i], "--window") == 0;
+    std::unique_ptr<QCoreApplication> application =
+        windowed ? std::make_unique<QApplication>(argc, argv)
+                 : std::make_unique<QCoreApplication>(argc, argv);
+    QCoreApplication &app = *application;
     QCoreApplication::setApplicationName(QStringLiteral("tarvik-sim"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TARVIK_VERSION));
 
@@ -81,7 +98,9 @@ int main(int argc, char *argv[])
         QStringLiteral("Virtual coin validator on a pseudo-terminal. Prints the port path as the "
                        "first line and serves until SIGTERM or SIGINT.\n\n"
                        "Bench commands, one a line on standard input, act between exchanges:\n") +
-        BenchCommands::help().trimmed());
+        BenchCommands::help().trimmed() +
+        QStringLiteral("\n\nWith --window the bench panel shows beside the device; the service "
+                       "ends when the panel is closed or standard input ends."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption family({QStringLiteral("family")},
@@ -149,6 +168,17 @@ int main(int argc, char *argv[])
     const QCommandLineOption costs(
         {QStringLiteral("line-costs")},
         QStringLiteral("On exit, print what the line cost beyond the bytes on the wire."));
+    const QCommandLineOption window({QStringLiteral("window")},
+                                    QStringLiteral("Show the bench panel (coins, door, cable, "
+                                                   "line) in a window of its own."));
+    const QCommandLineOption language(
+        {QStringLiteral("language")},
+        QStringLiteral("The panel's language: FR, IT, EN or DE (default: the program's own)."),
+        QStringLiteral("code"));
+    const QCommandLineOption parentDeath(
+        {QStringLiteral("end-with-parent")},
+        QStringLiteral("End when the process that started this one ends (Linux)."));
+    parser.addOptions({window, language, parentDeath});
     parser.addOptions({family,      serial,    load,     save,  line,        instant,
                        pace,        latency,   doorOpen, mini,  stopAfter,   silentAck,
                        firmwareOut, wrongEcho, refuse,   delay, silentAfter, requestFirmware,
@@ -242,7 +272,8 @@ int main(int argc, char *argv[])
         server.runAfter(std::chrono::milliseconds(*requestAfterMs),
                         [&device] { device.requestFirmware(); });
 
-    BenchCommands commands(&device);
+    BenchCommands commands(&device,
+                           [&timing](const LineProfile &profile) { timing.setProfile(profile); });
     server.setCommandInput(STDIN_FILENO, [&commands](const QByteArray &line) {
         const BenchCommands::Reply reply = commands.run(QString::fromLocal8Bit(line));
         if (!reply.output.isEmpty()) {
@@ -254,9 +285,28 @@ int main(int argc, char *argv[])
     });
 
     installStopHandlers();
+#ifdef Q_OS_LINUX
+    // Killed, the program that started the bench takes it with it.
+    if (parser.isSet(parentDeath)) {
+        ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+        if (::getppid() == 1)
+            g_stop = 1;
+    }
+#endif
     std::printf("%s\n", qPrintable(server.slavePath()));
     std::fflush(stdout);
-    server.serve(&g_stop);
+    std::unique_ptr<LanguageSwitcher> translations;
+    int status = 0;
+    if (parser.isSet(window)) {
+        translations = std::make_unique<LanguageSwitcher>();
+        translations->load(Languages::indexOf(parser.value(language).toUpper()));
+        // F1 on the panel opens the guide at the virtual validator, as in the program.
+        HelpKey help(translations.get());
+        app.installEventFilter(&help);
+        status = runWithPanel(server, device, commands, timing.profile(), &g_stop);
+    } else {
+        server.serve(&g_stop);
+    }
 
     if (parser.isSet(costs)) {
         const LineTiming::Costs &spent = timing.costs();
@@ -264,7 +314,6 @@ int main(int argc, char *argv[])
                      "tarvik-sim: line costs: %d answers, %.1f ms turnaround, %.1f ms adapter\n",
                      spent.answers, spent.turnaroundMs, spent.adapterMs);
     }
-    int status = 0;
     if (parser.isSet(save) && !saveConfigFile(parser.value(save), device.memory(), &error))
         status = fail(QStringLiteral("cannot save %1: %2").arg(parser.value(save), error));
     if (parser.isSet(firmwareOut)) {

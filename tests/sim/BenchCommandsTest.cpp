@@ -1,6 +1,7 @@
 // The bench commands tarvik-sim takes on its standard input, run on the device in-process.
 
 #include "BenchCommands.h"
+#include "BenchPanelModel.h"
 #include "VirtualValidator.h"
 
 #include <gtest/gtest.h>
@@ -51,6 +52,61 @@ TEST(BenchCommandsTest, CommandsActOnTheDeviceAndMistakesChangeNothing)
     EXPECT_EQ(device.queuedCoins(), 3);
     EXPECT_TRUE(device.connected());
     EXPECT_FALSE(device.doorOpen());
+}
+
+// The panel's own actions are bench lines too, and every line it sends is understood; a line
+// profile goes out as text and comes back the same.
+TEST(BenchCommandsTest, ThePanelsActionsAreBenchLines)
+{
+    VirtualValidator device;
+    std::optional<LineProfile> taken;
+    BenchCommands bench(&device, [&](const LineProfile &line) { taken = line; });
+    QStringList refused;
+    BenchPanelModel model(
+        [&](const QString &line) {
+            const BenchCommands::Reply reply = bench.run(line);
+            if (!reply.error.isEmpty())
+                refused << line + QStringLiteral(": ") + reply.error;
+        },
+        [&] { return BenchStatus::of(device); }, LineProfile::bench());
+
+    model.setDoorOpen(true);
+    model.fitValidator(3, 4242);
+    EXPECT_EQ(device.memory().familyByte(), 0x33);
+    EXPECT_EQ(device.memory().serialNumber(), 4242u);
+    EXPECT_TRUE(device.doorOpen()); // a new validator in the same place
+    for (int k = 0; k < CoinGenerator::kindCount(); ++k)
+        model.insertCoin(CoinKind(k));
+    EXPECT_EQ(model.status().queuedCoins, CoinGenerator::kindCount());
+    model.setMiniProgrammer(true);
+    model.requestFirmware();
+    EXPECT_TRUE(device.firmwareRequested());
+    EXPECT_TRUE(model.status().miniProgrammer);
+    model.setCablePlugged(false);
+    EXPECT_FALSE(model.status().connected);
+
+    LineProfile rough = LineProfile::bench();
+    rough.turnaroundMinMs = 400; // typed upside down
+    rough.turnaroundMaxMs = 20;
+    rough.splitAt = 5;
+    rough.splitGapMs = 30;
+    rough.seed = 77;
+    model.setLine(rough);
+    ASSERT_TRUE(taken);
+    EXPECT_EQ(taken->turnaroundMinMs, 20);
+    EXPECT_EQ(taken->turnaroundMaxMs, 400);
+    EXPECT_EQ(*taken, model.line());
+    model.setLine(LineProfile::instant());
+    EXPECT_EQ(*taken, LineProfile::instant());
+    EXPECT_TRUE(refused.isEmpty()) << qPrintable(refused.join(u'\n'));
+
+    EXPECT_EQ(bench.run(QStringLiteral("status")).output,
+              QStringLiteral("coins 8, test mode off, mini-programmer on, door open, cable out, "
+                             "family 0x33, serial 4242\n"));
+    for (const char *mistake : {"fit", "fit 0x13", "fit 0x100 5", "fit 0x13 -1", "mini", "line",
+                                "line fast", "firmware", "status now"})
+        EXPECT_FALSE(bench.run(QString::fromLatin1(mistake)).error.isEmpty()) << mistake;
+    EXPECT_FALSE(BenchCommands(&device).run(QStringLiteral("line bench")).error.isEmpty());
 }
 
 } // namespace
