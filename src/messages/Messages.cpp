@@ -155,7 +155,7 @@ constexpr Entry kTable[] = {
     {Msg::UnwrittenChangesOpen,
      QT_TRANSLATE_NOOP("Messages",
                        "The validator does not have %d changes this editor holds (see Changes); "
-                       "opening puts them aside in the editor. Open all the same?")},
+                       "opening replaces them in the editor. Open all the same?")},
     {Msg::Verified,
      QT_TRANSLATE_NOOP("Messages", "Verified: the validator holds the configuration.")},
     {Msg::VerificationMismatch,
