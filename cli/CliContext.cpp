@@ -33,6 +33,13 @@ UserPrompt::Answer CliPrompt::ask(const QString &text, Kind, Buttons buttons)
     return a;
 }
 
+int CliPrompt::choose(const QString &text, Kind, const QStringList &, const QString &dismiss)
+{
+    m_told.append(text);
+    m_err << text << " -> " << dismiss.toLower() << Qt::endl;
+    return -1;
+}
+
 CliContext::CliContext(const GlobalOptions &options, QTextStream &out, QTextStream &err,
                        bool progressToTerminal)
     : m_options(options), m_out(out), m_err(err), m_progress(progressToTerminal), m_prompt(err)

@@ -27,6 +27,9 @@ public:
     explicit CliPrompt(QTextStream &err) : m_err(err) {}
     void tell(const QString &text, Kind kind) override;
     Answer ask(const QString &text, Kind kind, Buttons buttons) override;
+    // A box with buttons of its own is dismissed: a script decides what comes next itself.
+    int choose(const QString &text, Kind kind, const QStringList &choices,
+               const QString &dismiss) override;
     void setAnswer(Answer a) { m_answer = a; }
     const QStringList &told() const { return m_told; }
 

@@ -5,6 +5,7 @@
 #include "EditorServices.h"
 #include "Encodings.h"
 
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -33,6 +34,7 @@ public:
     {
         // The changes indented under their group's name.
         const bool any = !changes.changes().isEmpty();
+        m_cli.err() << changes.since() << '\n';
         for (const ChangesModel::Line &line : changes.lines())
             m_cli.err() << (any && !line.heading ? "  " : "") << line.text << '\n';
         m_cli.err() << Qt::flush;
@@ -173,7 +175,8 @@ int editCommand(CliContext &cli, const QStringList &arguments)
     if (args.isEmpty())
         return kExitUsage;
     ConfigImage image = ConfigImage::blank();
-    if (!readImageInput(cli, args.takeFirst(), image))
+    const QString input = args.takeFirst();
+    if (!readImageInput(cli, input, image))
         return kExitFailed;
 
     TMonnayeur *link = nullptr;
@@ -184,7 +187,7 @@ int editCommand(CliContext &cli, const QStringList &arguments)
     }
     cli.prompt().setAnswer(answer);
     FileEditor editor(cli, link);
-    editor.model.loadImage(image, false);
+    editor.model.loadImage(image, false, BaselineSource::Kind::File, QFileInfo(input).fileName());
     for (const QString &action : args) {
         QString error;
         // Checked when its turn comes, against the bases and type the actions before it left.

@@ -755,6 +755,42 @@
         <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
         <translation>Millisekunden in Schritten von 10, höchstens 630; leer: nicht gesetzt</translation>
     </message>
+<message>
+        <source>Since read from validator %s at %s</source>
+        <translation>Seit dem Lesen des Münzprüfers %s um %s</translation>
+    </message>
+    <message>
+        <source>Since written to validator %s at %s</source>
+        <translation>Seit dem Schreiben in den Münzprüfer %s um %s</translation>
+    </message>
+    <message>
+        <source>Since opened from %s (the validator was not read)</source>
+        <translation>Seit dem Öffnen von %s (der Münzprüfer wurde nicht gelesen)</translation>
+    </message>
+    <message>
+        <source>Since opened from file %s (the validator was not read)</source>
+        <translation>Seit dem Öffnen der Datei %s (der Münzprüfer wurde nicht gelesen)</translation>
+    </message>
+    <message>
+        <source>Since the editor opened (the validator was not read)</source>
+        <translation>Seit dem Öffnen des Editors (der Münzprüfer wurde nicht gelesen)</translation>
+    </message>
+    <message>
+        <source>Write again</source>
+        <translation>Erneut schreiben</translation>
+    </message>
+    <message>
+        <source>Put back as it was</source>
+        <translation>Wiederherstellen wie vorher</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Fortfahren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1397,6 +1433,18 @@
     <message>
         <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
         <translation>Fenster unverändert kopiert: die Quelle oder dieser Münzprüfer hat keinen Referenzkanal, um sie zu korrigieren.</translation>
+    </message>
+<message>
+        <source>Verifying... do not unplug the validator</source>
+        <translation>Überprüfung... den Münzprüfer nicht abziehen</translation>
+    </message>
+    <message>
+        <source>The validator does not have %d changes this editor holds (see Changes). Store in the tables all the same?</source>
+        <translation>Der Münzprüfer hat %d Änderungen dieses Editors nicht (siehe Änderungen). Trotzdem in den Tabellen speichern?</translation>
+    </message>
+    <message>
+        <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
+        <translation>Der Münzprüfer hat %d Änderungen dieses Editors nicht (siehe Änderungen); das Öffnen ersetzt sie im Editor. Trotzdem öffnen?</translation>
     </message>
 </context>
 <context>

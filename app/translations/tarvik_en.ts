@@ -755,6 +755,42 @@
         <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
         <translation>Milliseconds in steps of 10, at most 630; empty: not set</translation>
     </message>
+<message>
+        <source>Since read from validator %s at %s</source>
+        <translation>Since read from validator %s at %s</translation>
+    </message>
+    <message>
+        <source>Since written to validator %s at %s</source>
+        <translation>Since written to validator %s at %s</translation>
+    </message>
+    <message>
+        <source>Since opened from %s (the validator was not read)</source>
+        <translation>Since opened from %s (the validator was not read)</translation>
+    </message>
+    <message>
+        <source>Since opened from file %s (the validator was not read)</source>
+        <translation>Since opened from file %s (the validator was not read)</translation>
+    </message>
+    <message>
+        <source>Since the editor opened (the validator was not read)</source>
+        <translation>Since the editor opened (the validator was not read)</translation>
+    </message>
+    <message>
+        <source>Write again</source>
+        <translation>Write again</translation>
+    </message>
+    <message>
+        <source>Put back as it was</source>
+        <translation>Put back as it was</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Go on</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1397,6 +1433,18 @@
     <message>
         <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
         <translation>Windows copied as they are: the source or this validator has no reference channel to correct them by.</translation>
+    </message>
+<message>
+        <source>Verifying... do not unplug the validator</source>
+        <translation>Verifying... do not unplug the validator</translation>
+    </message>
+    <message>
+        <source>The validator does not have %d changes this editor holds (see Changes). Store in the tables all the same?</source>
+        <translation>The validator does not have %d changes this editor holds (see Changes). Store in the tables all the same?</translation>
+    </message>
+    <message>
+        <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
+        <translation>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</translation>
     </message>
 </context>
 <context>

@@ -755,6 +755,42 @@
         <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
         <translation>Millisecondes par pas de 10, au plus 630 ; vide : non défini</translation>
     </message>
+    <message>
+        <source>Since read from validator %s at %s</source>
+        <translation>Depuis la lecture du monnayeur %s à %s</translation>
+    </message>
+    <message>
+        <source>Since written to validator %s at %s</source>
+        <translation>Depuis l'écriture dans le monnayeur %s à %s</translation>
+    </message>
+    <message>
+        <source>Since opened from %s (the validator was not read)</source>
+        <translation>Depuis l'ouverture de %s (le monnayeur n'a pas été lu)</translation>
+    </message>
+    <message>
+        <source>Since opened from file %s (the validator was not read)</source>
+        <translation>Depuis l'ouverture du fichier %s (le monnayeur n'a pas été lu)</translation>
+    </message>
+    <message>
+        <source>Since the editor opened (the validator was not read)</source>
+        <translation>Depuis l'ouverture de l'éditeur (le monnayeur n'a pas été lu)</translation>
+    </message>
+    <message>
+        <source>Write again</source>
+        <translation>Écrire à nouveau</translation>
+    </message>
+    <message>
+        <source>Put back as it was</source>
+        <translation>Remettre comme avant</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1397,6 +1433,18 @@
     <message>
         <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
         <translation>Fenêtres copiées telles quelles : la source ou ce monnayeur n'a pas de canal de référence pour les corriger.</translation>
+    </message>
+    <message>
+        <source>Verifying... do not unplug the validator</source>
+        <translation>Vérification... ne débranchez pas le monnayeur</translation>
+    </message>
+    <message>
+        <source>The validator does not have %d changes this editor holds (see Changes). Store in the tables all the same?</source>
+        <translation>Le monnayeur n'a pas %d modifications que cet éditeur contient (voir Modifications). Enregistrer dans les tables quand même ?</translation>
+    </message>
+    <message>
+        <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
+        <translation>Le monnayeur n'a pas %d modifications que cet éditeur contient (voir Modifications) ; l'ouverture les remplace dans l'éditeur. Ouvrir quand même ?</translation>
     </message>
 </context>
 <context>

@@ -755,6 +755,42 @@
         <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
         <translation>Millisecondi a passi di 10, al massimo 630; vuoto: non impostato</translation>
     </message>
+    <message>
+        <source>Since read from validator %s at %s</source>
+        <translation>Dalla lettura della gettoniera %s alle %s</translation>
+    </message>
+    <message>
+        <source>Since written to validator %s at %s</source>
+        <translation>Dalla scrittura nella gettoniera %s alle %s</translation>
+    </message>
+    <message>
+        <source>Since opened from %s (the validator was not read)</source>
+        <translation>Dall'apertura di %s (la gettoniera non è stata letta)</translation>
+    </message>
+    <message>
+        <source>Since opened from file %s (the validator was not read)</source>
+        <translation>Dall'apertura del file %s (la gettoniera non è stata letta)</translation>
+    </message>
+    <message>
+        <source>Since the editor opened (the validator was not read)</source>
+        <translation>Dall'apertura dell'editor (la gettoniera non è stata letta)</translation>
+    </message>
+    <message>
+        <source>Write again</source>
+        <translation>Scrivi di nuovo</translation>
+    </message>
+    <message>
+        <source>Put back as it was</source>
+        <translation>Ripristina com'era</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continua</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1397,6 +1433,18 @@
     <message>
         <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
         <translation>Finestre copiate così come sono: la sorgente o questa gettoniera non ha un canale di riferimento per correggerle.</translation>
+    </message>
+    <message>
+        <source>Verifying... do not unplug the validator</source>
+        <translation>Verifica in corso... non scollegare la gettoniera</translation>
+    </message>
+    <message>
+        <source>The validator does not have %d changes this editor holds (see Changes). Store in the tables all the same?</source>
+        <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche). Salvare comunque nelle tabelle?</translation>
+    </message>
+    <message>
+        <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
+        <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche); l'apertura le sostituisce nell'editor. Aprire comunque?</translation>
     </message>
 </context>
 <context>

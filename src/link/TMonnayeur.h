@@ -62,6 +62,8 @@ public:
 
     Transport *transport() const { return m_transport; }
     UserPrompt *prompt() const { return m_prompt; }
+    // Another prompt for what follows (a write that gathers its messages into one box).
+    void setPrompt(UserPrompt *prompt) { m_prompt = prompt; }
     quint8 comPortNumber() const { return m_comPortNumber; }
 
     // The reply window of one exchange, in milliseconds.

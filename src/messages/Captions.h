@@ -195,6 +195,16 @@ enum class Cap
     // the Changes window
     Changes,
     NoChanges,
+    SinceRead,
+    SinceWritten,
+    SinceRecord,
+    SinceFile,
+    SinceStart,
+    // the buttons of the box that ends a failed write, and of the question before storing
+    WriteAgain,
+    PutBack,
+    GoOn,
+    CancelChoice,
     // the windows chart
     ChartTitle,
     ChartEmpty,

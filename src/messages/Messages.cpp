@@ -149,6 +149,16 @@ constexpr Entry kTable[] = {
     {Msg::LearnChannelHolds,
      QT_TRANSLATE_NOOP("Messages", "Channel %d of the validator now holds %s.")},
     {Msg::Verifying, QT_TRANSLATE_NOOP("Messages", "Verifying...")},
+    {Msg::VerifyingDoNotUnplug,
+     QT_TRANSLATE_NOOP("Messages", "Verifying... do not unplug the validator")},
+    {Msg::UnwrittenChangesStore,
+     QT_TRANSLATE_NOOP("Messages",
+                       "The validator does not have %d changes this editor holds (see Changes). "
+                       "Store in the tables all the same?")},
+    {Msg::UnwrittenChangesOpen,
+     QT_TRANSLATE_NOOP("Messages",
+                       "The validator does not have %d changes this editor holds (see Changes); "
+                       "opening replaces them in the editor. Open all the same?")},
     {Msg::Verified,
      QT_TRANSLATE_NOOP("Messages", "Verified: the validator holds the configuration.")},
     {Msg::VerificationMismatch,

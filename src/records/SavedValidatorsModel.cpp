@@ -156,6 +156,8 @@ bool SavedValidatorsModel::BtnOpenClick()
     if (m_current < 0 || !m_editor)
         return false;
     const QString ident = m_table.row(m_current).identification;
+    if (!m_editor->unwrittenChangesAccepted(true))
+        return false;
     ConfigImage image = m_editor->image();
     ValidatorStore::LoadReport report;
     if (!m_store.loadInto(ident, image, nullptr, &report)) {
@@ -163,7 +165,7 @@ bool SavedValidatorsModel::BtnOpenClick()
         return false;
     }
     // What the validator holds differs from what the editor now shows.
-    m_editor->loadImage(image, true);
+    m_editor->loadImage(image, true, BaselineSource::Kind::Record, ident);
     const int count = image.channelCount();
     QList<int> missing;
     for (int c : report.missing) {

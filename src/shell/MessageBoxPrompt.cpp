@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace {
 
@@ -81,4 +82,25 @@ UserPrompt::Answer MessageBoxPrompt::ask(const QString &text, Kind kind, Buttons
     QMessageBox box(iconFor(kind), QApplication::applicationName(), text, buttonsFor(buttons),
                     m_parent);
     return answerFor(box.exec());
+}
+
+int MessageBoxPrompt::choose(const QString &text, Kind kind, const QStringList &choices,
+                             const QString &dismiss)
+{
+    if (g_diverted)
+        return g_diverted->choose(text, kind, choices, dismiss);
+    QMessageBox box(iconFor(kind), QApplication::applicationName(), text, QMessageBox::NoButton,
+                    m_parent);
+    QList<QAbstractButton *> buttons;
+    for (const QString &choice : choices) {
+        QPushButton *button = box.addButton(choice, QMessageBox::AcceptRole);
+        button->setAccessibleName(choice);
+        buttons.append(button);
+    }
+    QPushButton *close = box.addButton(dismiss, QMessageBox::RejectRole);
+    close->setAccessibleName(dismiss);
+    box.setEscapeButton(close);
+    box.setDefaultButton(buttons.isEmpty() ? close : qobject_cast<QPushButton *>(buttons.first()));
+    box.exec();
+    return int(buttons.indexOf(box.clickedButton()));
 }

@@ -13,6 +13,8 @@ public:
 
     void tell(const QString &text, Kind kind = Kind::Information) override;
     Answer ask(const QString &text, Kind kind, Buttons buttons) override;
+    int choose(const QString &text, Kind kind, const QStringList &choices,
+               const QString &dismiss) override;
 
     // Every message box of every MessageBoxPrompt goes to target instead (nullptr: shown).
     static void divertTo(UserPrompt *target);

@@ -368,9 +368,10 @@ TEST_F(Cli, EditorEditsAndWritesAValidatorOverAPseudoTerminal)
         "Channels data\n  Channel 6: HFU low min \\d+ → 44\nEnable table\n  Channel 2: "
         "enabled → disabled\n"))))
         << qPrintable(edit.err);
-    EXPECT_TRUE(edit.err.contains("Finished operation!\nVerified: the validator holds the "
-                                  "configuration.\nNo changes since the configuration was "
-                                  "last read, opened or written."))
+    EXPECT_TRUE(edit.err.contains(QRegularExpression(QStringLiteral(
+        "Finished operation!\nVerified: the validator holds the configuration.\nSince written to "
+        "validator 2002 at \\d\\d:\\d\\d\nNo changes since the configuration was last read, "
+        "opened or written."))))
         << qPrintable(edit.err);
     ASSERT_EQ(runTarvikCli({"--device", sim.path(), "read", "-o", back}).exitCode, 0);
     ConfigImage reread;

@@ -228,6 +228,33 @@ private Q_SLOTS:
         connect->close();
     }
 
+    void aBoxWithButtonsOfItsOwnAnswersTheOnePressed()
+    {
+        MessageBoxPrompt::divertTo(nullptr);
+        MessageBoxPrompt prompt;
+        const QStringList choices{QStringLiteral("Write again"),
+                                  QStringLiteral("Put back as it was")};
+        // Press a button by its accessible name once the box shows.
+        auto press = [](const QString &name) {
+            QTimer::singleShot(0, [name] {
+                QWidget *box = QApplication::activeModalWidget();
+                QVERIFY(box);
+                for (auto *button : box->findChildren<QPushButton *>()) {
+                    if (button->accessibleName() == name)
+                        button->click();
+                }
+            });
+        };
+        press(choices.at(1));
+        QCOMPARE(prompt.choose(QStringLiteral("Fault"), UserPrompt::Kind::Error, choices,
+                               QStringLiteral("Close")),
+                 1);
+        press(QStringLiteral("Close"));
+        QCOMPARE(prompt.choose(QStringLiteral("Fault"), UserPrompt::Kind::Error, choices,
+                               QStringLiteral("Close")),
+                 -1);
+    }
+
     void firmwareWindowReportsHowTheTransferEnded_data()
     {
         QTest::addColumn<int>("stopAfterBlock");

@@ -4,14 +4,18 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 TFormChanges::TFormChanges(ChangesModel &model, QWidget *parent)
-    : QDialog(parent), m_model(model), m_list(new QListWidget(this)), m_close(new QPushButton(this))
+    : QDialog(parent), m_model(model), m_since(new QLabel(this)), m_list(new QListWidget(this)),
+      m_close(new QPushButton(this))
 {
     setObjectName(QStringLiteral("TFormChanges"));
+    m_since->setObjectName(QStringLiteral("LabelSince"));
+    m_since->setWordWrap(true);
     m_list->setObjectName(QStringLiteral("ListChanges"));
     m_close->setObjectName(QStringLiteral("BtnClose"));
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
@@ -25,6 +29,7 @@ TFormChanges::TFormChanges(ChangesModel &model, QWidget *parent)
     buttons->addStretch();
     buttons->addWidget(m_close);
     auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_since);
     layout->addWidget(m_list, 1);
     layout->addLayout(buttons);
     m_close->setDefault(true);
@@ -40,6 +45,8 @@ void TFormChanges::showModel()
     m_list->setAccessibleName(m_model.title());
     m_close->setText(m_model.closeCaption());
     m_close->setAccessibleName(m_model.closeCaption());
+    m_since->setText(m_model.since());
+    m_since->setAccessibleName(m_model.since());
     m_list->clear();
     QFont heading = m_list->font();
     heading.setBold(true);

@@ -3,6 +3,7 @@
 #include <QDialog>
 
 class ChangesModel;
+class QLabel;
 class QListWidget;
 class QPushButton;
 
@@ -21,6 +22,7 @@ private:
     void showModel();
 
     ChangesModel &m_model;
+    QLabel *m_since;
     QListWidget *m_list;
     QPushButton *m_close;
 };

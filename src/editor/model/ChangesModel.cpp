@@ -16,8 +16,32 @@ void ChangesModel::open()
     list();
 }
 
+namespace {
+
+QString sinceText(const BaselineSource &from)
+{
+    const QString serial = QString::number(from.serial);
+    const QString at = from.at.toString(QStringLiteral("HH:mm"));
+    switch (from.kind) {
+    case BaselineSource::Kind::Read:
+        return captionText(Cap::SinceRead, {serial, at});
+    case BaselineSource::Kind::Written:
+        return captionText(Cap::SinceWritten, {serial, at});
+    case BaselineSource::Kind::Record:
+        return captionText(Cap::SinceRecord, {from.name});
+    case BaselineSource::Kind::File:
+        return captionText(Cap::SinceFile, {from.name});
+    case BaselineSource::Kind::None:
+        break;
+    }
+    return captionText(Cap::SinceStart);
+}
+
+} // namespace
+
 void ChangesModel::list()
 {
+    m_since = sinceText(m_editor.baselineFrom);
     m_changes = configDifferences(m_editor.baseline, m_editor.image);
     m_lines.clear();
     if (m_changes.isEmpty()) {

@@ -33,6 +33,9 @@ public:
     // The group names and the changes under them, one line each; when there is no change,
     // the one line that says so.
     const QList<Line> &lines() const { return m_lines; }
+    // What the list compares with, one line above it: "Since read from validator 1001 at
+    // 10:42", or where the configuration was opened from when the validator was not read.
+    const QString &since() const { return m_since; }
     QString title() const;
     QString closeCaption() const;
 
@@ -41,4 +44,5 @@ private:
     std::function<void()> m_copyForm;
     QList<ConfigChange> m_changes;
     QList<Line> m_lines;
+    QString m_since;
 };

@@ -11,113 +11,8 @@
 #include "WriteSequence.h"
 #include "WriteVerification.h"
 
+#include <QFileInfo>
 #include <utility>
-
-void EditorModel::SpeedButton8Click()
-{
-    if (!m_link)
-        return;
-    exclusive([&] {
-        EHFUBMIN0Exit();
-        FullWriteOptions options;
-        options.serialOverride = m_s.flags.serialOverride;
-        options.codeTableCheck = m_s.outputType() == 0 && m_s.checked(QStringLiteral("ChkCode"));
-        options.lastChannelWarning = [&](const QString &warning) {
-            return !m_services || m_services->continueDespite(warning);
-        };
-        // The label and the gauge show when the gauge starts, after the connect loop and the
-        // warnings.
-        bool shown = false;
-        WriteObserver observer;
-        observer.progress = [&](int gauge) {
-            if (!std::exchange(shown, true))
-                showProgress(true, messageText(Msg::SavingInProgress));
-            setGauge(gauge);
-            flush();
-        };
-        SentBlocks sent;
-        const WriteOutcome outcome = fullWrite(*m_link, m_s.image, options, observer, &sent);
-        m_s.flags.serialOverride = options.serialOverride;
-        showProgress(false);
-        if (outcome == WriteOutcome::Finished) {
-            // The validator now holds the image, unless the read-back shows otherwise: then
-            // closing offers to write it again, and Changes counts from what it holds.
-            const std::optional<VerifyResult> verified = verifyAfterWrite(sent);
-            const bool differs = verified && verified->outcome == VerifyOutcome::Mismatches;
-            // Without the read-back, a refused step still leaves something to write again.
-            const bool refused = !verified && !stepsRefused(sent.steps).isEmpty();
-            m_s.flags.configModified = differs || refused;
-            if (!refused)
-                m_s.baseline = differs ? verified->readBack : m_s.image;
-        }
-        display();
-    });
-}
-
-void EditorModel::SpeedButton2Click()
-{
-    if (!m_link)
-        return;
-    exclusive([&] {
-        EHFUBMIN0Exit();
-        const std::optional<CloneGroups> groups =
-            m_services ? m_services->chooseCloneGroups() : CloneGroups{};
-        if (!groups || !groups->any())
-            return;
-        // The target's own configuration is read and kept first, as a read keeps it.
-        const QString backups = m_services && m_services->backupBeforeCloning()
-                                    ? m_services->backupDirectory()
-                                    : QString();
-        if (!backups.isEmpty()) {
-            showProgress(true, messageText(Msg::ValidatorReadingInProgress));
-            ReadObserver reading;
-            reading.progress = [&](int gauge) {
-                setGauge(gauge);
-                flush();
-            };
-            const bool goOn = keepCloneTarget(*m_link, backups, reading).goOn;
-            showProgress(false);
-            if (!goOn) {
-                display();
-                return;
-            }
-        }
-        showProgress(true, messageText(Msg::SavingInProgress));
-        WriteObserver observer;
-        observer.progress = [&](int gauge) {
-            setGauge(gauge);
-            flush();
-        };
-        SentBlocks sent;
-        const WriteOutcome outcome = cloneWrite(*m_link, m_s.image, *groups, observer, &sent);
-        showProgress(false);
-        if (outcome == WriteOutcome::Finished)
-            verifyAfterWrite(sent);
-        display();
-    });
-}
-
-std::optional<VerifyResult> EditorModel::verifyAfterWrite(const SentBlocks &sent)
-{
-    if (m_services && !m_services->verifyAfterWrite())
-        return std::nullopt;
-    showProgress(true, messageText(Msg::Verifying));
-    ReadObserver observer;
-    observer.progress = [&](int gauge) {
-        setGauge(gauge);
-        flush();
-    };
-    // A read into an image of its own: the editor keeps what it shows.
-    // A message box must fit the screen: the first lines, then how many more.
-    constexpr int kVerificationLines = 20;
-    const VerifyResult result = verifyWrite(*m_link, sent, observer);
-    showProgress(false);
-    if (m_s.prompt)
-        m_s.prompt->tell(verificationMessage(result, kVerificationLines),
-                         result.outcome == VerifyOutcome::Verified ? UserPrompt::Kind::Information
-                                                                   : UserPrompt::Kind::Warning);
-    return result;
-}
 
 void EditorModel::SpeedButton4Click()
 {
@@ -134,6 +29,8 @@ void EditorModel::SpeedButton4Click()
             m_s.tell(messageText(Msg::TablesUnavailable));
             return;
         }
+        if (!unwrittenChangesAccepted(false))
+            return;
         tables->storeValidator(m_s.image, identification,
                                m_s.text(QStringLiteral("EDescription")).trimmed());
     });
@@ -181,6 +78,9 @@ bool EditorModel::FormCloseQuery()
 void EditorModel::BtnOpenFileClick()
 {
     exclusive([&] {
+        EHFUBMIN0Exit();
+        if (!unwrittenChangesAccepted(true))
+            return;
         const QString path = m_services ? m_services->openConfigFileName() : QString();
         if (path.isEmpty())
             return;
@@ -193,7 +93,7 @@ void EditorModel::BtnOpenFileClick()
             return;
         }
         // The validator does not hold what the file holds: closing offers to write it.
-        loadImage(image, true);
+        loadImage(image, true, BaselineSource::Kind::File, QFileInfo(path).fileName());
     });
 }
 

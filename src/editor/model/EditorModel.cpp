@@ -184,9 +184,14 @@ void EditorModel::showSheetButtons()
         m_s.controls.setEnabled(QLatin1String(name), m_holdsConfiguration);
 }
 
-void EditorModel::loadImage(const ConfigImage &image, bool modified)
+void EditorModel::loadImage(const ConfigImage &image, bool modified, BaselineSource::Kind kind,
+                            const QString &from)
 {
-    m_s.baseline = image;
+    // The validator did not receive what was opened: Changes keeps counting from what it held.
+    if (!m_s.baselineFrom.fromValidator()) {
+        m_s.baseline = image;
+        m_s.baselineFrom = {kind, from, 0, {}};
+    }
     showImage(image);
     m_s.flags.configModified = modified;
     flush();
@@ -293,7 +298,8 @@ void EditorModel::SpeedButton1Click()
         display();
         m_s.flags.promptFlag = true;
         m_s.flags.configModified = false;
-        m_s.baseline = m_s.image;
+        validatorHolds(m_s.image, BaselineSource::Kind::Read);
+        m_lastRead = m_s.image;
         keepBackup();
     });
 }

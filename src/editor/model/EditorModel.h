@@ -59,9 +59,16 @@ public:
     const ConfigImage &image() const { return m_s.image; }
     // The image as last read, opened or written, which the Changes window compares with.
     const ConfigImage &baseline() const { return m_s.baseline; }
-    // Takes an image from a file or a saved validator and shows it; the Changes window then
-    // compares with it.
-    void loadImage(const ConfigImage &image, bool modified);
+    // Takes an image from a file or a saved validator (named by from) and shows it. The Changes
+    // window goes on comparing with what the connected validator was last read or written
+    // holding; when it was neither, with the image opened.
+    void loadImage(const ConfigImage &image, bool modified,
+                   BaselineSource::Kind kind = BaselineSource::Kind::File,
+                   const QString &from = {});
+    // Before storing in the tables or opening another configuration: when the editor holds
+    // changes the validator it read or wrote lacks, asks whether to go on; true to go on.
+    bool unwrittenChangesAccepted(bool opening);
+    const BaselineSource &baselineFrom() const { return m_s.baselineFrom; }
     // Takes an image another window changed (the value tables) and shows it as an edit.
     void editImage(const ConfigImage &image);
     EditorFlags &flags() { return m_s.flags; }
@@ -119,9 +126,35 @@ private:
     void setGauge(int value);
     void showProgress(bool shown, const QString &label = {});
     void stopExchange();
-    // Reads the validator back after a write that finished, when the setting is on, and says
-    // what it holds; nothing when the setting is off.
+    // A write and its one box at the end: the write's own result, what the validator refused
+    // and the read-back's result together; after a fault, the link's error and what reached
+    // the validator, with "Write again" and "Put back as it was" (the last read).
+    struct WriteJob
+    {
+        enum class Kind
+        {
+            Full,
+            Clone,
+            PutBack
+        };
+        Kind kind = Kind::Full;
+        CloneGroups groups;
+    };
+    // What a write hands to its ending: the gauge started (what was said before it, the
+    // warnings, shows at once), and the read-back's result.
+    struct WriteEnding
+    {
+        std::function<void()> started;
+        std::function<void(const VerifyResult &)> verified;
+    };
+    void writeWithEnding(WriteJob job);
+    WriteOutcome oneWrite(const WriteJob &job, const WriteEnding &ending);
+    WriteOutcome writeImage(ConfigImage &image, FullWriteOptions &options, SentBlocks &sent,
+                            const WriteEnding &ending);
+    // Reads the validator back after a write that finished, when the setting is on; nothing
+    // when the setting is off.
     std::optional<VerifyResult> verifyAfterWrite(const SentBlocks &sent);
+    void validatorHolds(const ConfigImage &image, BaselineSource::Kind kind);
     const Control *lookup(const QString &name, QString *error) const;
     bool canAct(const Control &control, QString *error) const;
     void keepBackup();
@@ -142,6 +175,8 @@ private:
     SerialTestModel m_test;
     ChannelCopyModel m_copy;
     ChangesModel m_changes;
+    // The configuration last read from the validator: what "Put back as it was" writes.
+    std::optional<ConfigImage> m_lastRead;
     bool m_busy = false;
     bool m_holdsConfiguration = false;
 };

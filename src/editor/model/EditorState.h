@@ -5,6 +5,7 @@
 #include "Encodings.h"
 
 #include <QDate>
+#include <QDateTime>
 
 class UserPrompt;
 
@@ -21,6 +22,25 @@ struct EditorFlags
     bool filling = false;        // the form is being refilled from the image
 };
 
+// Where the image the Changes window compares with came from.
+struct BaselineSource
+{
+    enum class Kind
+    {
+        None,    // the blank image the editor starts with
+        Read,    // read from the connected validator (or read back after a write)
+        Written, // written to it by a write that finished
+        Record,  // opened from a saved validator, the validator not read
+        File     // opened from a configuration file, the validator not read
+    };
+    Kind kind = Kind::None;
+    QString name;       // the saved validator's identification, or the file's name
+    quint32 serial = 0; // the validator's serial number
+    QDateTime at;       // when it was read or written
+    // Whether the image is what the connected validator held.
+    bool fromValidator() const { return kind == Kind::Read || kind == Kind::Written; }
+};
+
 // What every group of the editor works on: the controls, the image, the flags and the person.
 struct EditorState
 {
@@ -28,6 +48,7 @@ struct EditorState
     ConfigImage image = ConfigImage::blank();
     // The image as last read, opened or written: what the Changes window compares with.
     ConfigImage baseline = ConfigImage::blank();
+    BaselineSource baselineFrom;
     EditorFlags flags;
     UserPrompt *prompt = nullptr;
 

@@ -85,6 +85,9 @@ private Q_SLOTS:
         QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("BtnOpen")), Qt::LeftButton);
         QCOMPARE(editor.image().channels, shop.channels);
         QVERIFY(editor.flags().configModified);
+        // Changes then says where it counts from, the validator not being read.
+        QCOMPARE(editor.baselineFrom().kind, BaselineSource::Kind::Record);
+        QCOMPARE(editor.baselineFrom().name, QStringLiteral("SHOP-12"));
     }
 
     void theValueTableFormResetsAndApplies()

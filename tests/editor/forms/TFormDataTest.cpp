@@ -17,6 +17,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -209,8 +210,12 @@ private Q_SLOTS:
         form.model().leave(QStringLiteral("Sub2"));
         QCOMPARE(box->text(), QStringLiteral(" 12"));
 
+        // The validator lacks the edit: opening asks first; "Go on" opens.
         FileDialog::setNextFileName(file);
+        prompt.setNextChoices({0});
         QTest::mouseClick(open, Qt::LeftButton);
+        QCOMPARE(prompt.asked().size(), 1);
+        prompt.clear();
         QCOMPARE(box->text(), QStringLiteral("  9"));
         QCOMPARE(form.model().image().channels[2][Rec::Substitute], 9);
         QVERIFY(prompt.told().isEmpty());
@@ -245,10 +250,13 @@ private Q_SLOTS:
             QTest::keyClicks(edit, QLatin1String(text));
         }
         QStringList listed;
+        QString since;
         QTimer::singleShot(0, &form, [&] {
             QWidget *window = QApplication::activeModalWidget();
             if (!window)
                 return;
+            if (auto *label = window->findChild<QLabel *>(QStringLiteral("LabelSince")))
+                since = label->text();
             auto *list = window->findChild<QListWidget *>(QStringLiteral("ListChanges"));
             for (int row = 0; list && row < list->count(); ++row)
                 listed.append(list->item(row)->text());
@@ -261,6 +269,11 @@ private Q_SLOTS:
                                       QStringLiteral("Channel 5: HFU low min %1 → 70").arg(was),
                                       QStringLiteral("Prices table"),
                                       QStringLiteral("Value P1: (empty) → 1.20")}));
+        // Above the list, what it compares with.
+        QVERIFY2(since.contains(QRegularExpression(
+                     QStringLiteral("^Since read from validator %1 at \\d\\d:\\d\\d$")
+                         .arg(device.memory().serialNumber()))),
+                 qPrintable(since));
         form.model().flags().configModified = false;
     }
 

@@ -1,0 +1,291 @@
+// The editor's writes and how each one ends: one box that says everything, after the read-back.
+#include "Captions.h"
+#include "CloneTarget.h"
+#include "EditorModel.h"
+#include "EditorServices.h"
+#include "Messages.h"
+#include "TMonnayeur.h"
+#include "UserPrompt.h"
+#include "WriteReport.h"
+#include "WriteSequence.h"
+#include "WriteVerification.h"
+
+#include <utility>
+
+namespace {
+
+int severity(UserPrompt::Kind kind)
+{
+    switch (kind) {
+    case UserPrompt::Kind::Error:
+        return 2;
+    case UserPrompt::Kind::Warning:
+        return 1;
+    default:
+        return 0;
+    }
+}
+
+// Keeps what a write tells (the link's errors, the write's result, what it left), each text
+// once, to be said in one box at the end; questions still go to the person at once.
+class GatheringPrompt final : public UserPrompt
+{
+public:
+    explicit GatheringPrompt(UserPrompt *person) : m_person(person) {}
+
+    void tell(const QString &text, Kind kind) override
+    {
+        raise(kind);
+        if (!m_texts.contains(text))
+            m_texts.append(text);
+    }
+    Answer ask(const QString &text, Kind kind, Buttons buttons) override
+    {
+        if (m_person)
+            return m_person->ask(text, kind, buttons);
+        return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+    }
+    int choose(const QString &text, Kind kind, const QStringList &choices,
+               const QString &dismiss) override
+    {
+        return m_person ? m_person->choose(text, kind, choices, dismiss) : -1;
+    }
+
+    void raise(Kind kind)
+    {
+        if (severity(kind) > severity(m_kind))
+            m_kind = kind;
+    }
+    // Says at once what was kept so far, in one box, and starts again.
+    void release()
+    {
+        if (m_person && !m_texts.isEmpty())
+            m_person->tell(text(), m_kind);
+        m_texts.clear();
+        m_kind = Kind::Information;
+    }
+    Kind kind() const { return m_kind; }
+    QString text() const { return m_texts.join(QLatin1Char('\n')); }
+
+private:
+    UserPrompt *m_person;
+    QStringList m_texts;
+    Kind m_kind = Kind::Information;
+};
+
+// The link speaks through another prompt while this lives.
+class PromptSwap
+{
+public:
+    PromptSwap(TMonnayeur &link, UserPrompt *prompt) : m_link(link), m_was(link.prompt())
+    {
+        link.setPrompt(prompt);
+    }
+    ~PromptSwap() { m_link.setPrompt(m_was); }
+    Q_DISABLE_COPY_MOVE(PromptSwap)
+
+private:
+    TMonnayeur &m_link;
+    UserPrompt *m_was;
+};
+
+// A message box must fit the screen: the read-back's first lines, then how many more.
+constexpr int kVerificationLines = 20;
+
+} // namespace
+
+void EditorModel::SpeedButton8Click()
+{
+    if (!m_link)
+        return;
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        writeWithEnding({WriteJob::Kind::Full, {}});
+        display();
+    });
+}
+
+void EditorModel::SpeedButton2Click()
+{
+    if (!m_link)
+        return;
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        const std::optional<CloneGroups> groups =
+            m_services ? m_services->chooseCloneGroups() : CloneGroups{};
+        if (!groups || !groups->any())
+            return;
+        // The target's own configuration is read and kept first, as a read keeps it.
+        const QString backups = m_services && m_services->backupBeforeCloning()
+                                    ? m_services->backupDirectory()
+                                    : QString();
+        if (!backups.isEmpty()) {
+            showProgress(true, messageText(Msg::ValidatorReadingInProgress));
+            ReadObserver reading;
+            reading.progress = [&](int gauge) {
+                setGauge(gauge);
+                flush();
+            };
+            const bool goOn = keepCloneTarget(*m_link, backups, reading).goOn;
+            showProgress(false);
+            if (!goOn) {
+                display();
+                return;
+            }
+        }
+        writeWithEnding({WriteJob::Kind::Clone, *groups});
+        display();
+    });
+}
+
+void EditorModel::writeWithEnding(WriteJob job)
+{
+    for (;;) {
+        GatheringPrompt gathered(m_s.prompt);
+        WriteOutcome outcome = WriteOutcome::Cancelled;
+        {
+            PromptSwap swap(*m_link, &gathered);
+            WriteEnding ending;
+            ending.started = [&] { gathered.release(); };
+            ending.verified = [&](const VerifyResult &result) {
+                gathered.tell(verificationMessage(result, kVerificationLines),
+                              result.outcome == VerifyOutcome::Verified
+                                  ? UserPrompt::Kind::Information
+                                  : UserPrompt::Kind::Warning);
+            };
+            outcome = oneWrite(job, ending);
+        }
+        if (!m_s.prompt)
+            return;
+        if (outcome != WriteOutcome::Fault) {
+            if (!gathered.text().isEmpty())
+                m_s.prompt->tell(gathered.text(), gathered.kind());
+            return;
+        }
+        // A clone's target was not the validator read: its last read is no backup of it.
+        QStringList choices{captionText(Cap::WriteAgain)};
+        const bool putBack = m_lastRead.has_value() && job.kind != WriteJob::Kind::Clone;
+        if (putBack)
+            choices.append(captionText(Cap::PutBack));
+        const int chosen = m_s.prompt->choose(gathered.text(), UserPrompt::Kind::Error, choices,
+                                              captionText(Cap::Close));
+        if (chosen < 0)
+            return;
+        if (chosen == 1)
+            job.kind = WriteJob::Kind::PutBack;
+    }
+}
+
+WriteOutcome EditorModel::writeImage(ConfigImage &image, FullWriteOptions &options,
+                                     SentBlocks &sent, const WriteEnding &ending)
+{
+    // The label and the gauge show when the gauge starts, after the connect loop and the
+    // warnings.
+    bool shown = false;
+    WriteObserver observer;
+    observer.progress = [&](int gauge) {
+        if (!std::exchange(shown, true)) {
+            ending.started();
+            showProgress(true, messageText(Msg::SavingInProgress));
+        }
+        setGauge(gauge);
+        flush();
+    };
+    const WriteOutcome outcome = fullWrite(*m_link, image, options, observer, &sent);
+    showProgress(false);
+    return outcome;
+}
+
+WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &ending)
+{
+    SentBlocks sent;
+    if (job.kind == WriteJob::Kind::Clone) {
+        showProgress(true, messageText(Msg::SavingInProgress));
+        bool started = false;
+        WriteObserver observer;
+        observer.progress = [&](int gauge) {
+            if (!std::exchange(started, true))
+                ending.started();
+            setGauge(gauge);
+            flush();
+        };
+        const WriteOutcome outcome = cloneWrite(*m_link, m_s.image, job.groups, observer, &sent);
+        showProgress(false);
+        // The image stays the source's: Changes and the modified flag are left as they were.
+        if (outcome == WriteOutcome::Finished) {
+            if (const std::optional<VerifyResult> result = verifyAfterWrite(sent))
+                ending.verified(*result);
+        }
+        return outcome;
+    }
+
+    FullWriteOptions options;
+    ConfigImage backup = m_lastRead ? *m_lastRead : m_s.image;
+    const bool putBack = job.kind == WriteJob::Kind::PutBack;
+    if (putBack) {
+        // The validator's own configuration goes back whatever its last channel now holds.
+        options.lastChannelWarning = [](const QString &) { return true; };
+    } else {
+        options.serialOverride = m_s.flags.serialOverride;
+        options.codeTableCheck = m_s.outputType() == 0 && m_s.checked(QStringLiteral("ChkCode"));
+        options.lastChannelWarning = [&](const QString &warning) {
+            return !m_services || m_services->continueDespite(warning);
+        };
+    }
+    ConfigImage &image = putBack ? backup : m_s.image;
+    const WriteOutcome outcome = writeImage(image, options, sent, ending);
+    if (!putBack)
+        m_s.flags.serialOverride = options.serialOverride;
+    if (outcome != WriteOutcome::Finished)
+        return outcome;
+    // The validator now holds the image, unless the read-back shows otherwise: then closing
+    // offers to write it again, and Changes counts from what it holds.
+    const std::optional<VerifyResult> result = verifyAfterWrite(sent);
+    if (result)
+        ending.verified(*result);
+    const bool differs = result && result->outcome == VerifyOutcome::Mismatches;
+    // Without the read-back, a refused step still leaves something to write again.
+    const bool refused = !result && !stepsRefused(sent.steps).isEmpty();
+    if (!refused)
+        validatorHolds(differs ? result->readBack : image, BaselineSource::Kind::Written);
+    // After a put back the editor keeps its own configuration, which the validator now lacks.
+    m_s.flags.configModified =
+        differs || refused || (putBack && !configDifferences(m_s.baseline, m_s.image).isEmpty());
+    return outcome;
+}
+
+std::optional<VerifyResult> EditorModel::verifyAfterWrite(const SentBlocks &sent)
+{
+    if (m_services && !m_services->verifyAfterWrite())
+        return std::nullopt;
+    // The technician must not take the write for over while the validator is read back.
+    showProgress(true, messageText(Msg::VerifyingDoNotUnplug));
+    ReadObserver observer;
+    observer.progress = [&](int gauge) {
+        setGauge(gauge);
+        flush();
+    };
+    // A read into an image of its own: the editor keeps what it shows.
+    const VerifyResult result = verifyWrite(*m_link, sent, observer);
+    showProgress(false);
+    return result;
+}
+
+void EditorModel::validatorHolds(const ConfigImage &image, BaselineSource::Kind kind)
+{
+    m_s.baseline = image;
+    m_s.baselineFrom = {kind, {}, image.serialNumber(), QDateTime::currentDateTime()};
+}
+
+bool EditorModel::unwrittenChangesAccepted(bool opening)
+{
+    if (!m_s.baselineFrom.fromValidator() || !m_s.prompt)
+        return true;
+    const qsizetype count = configDifferences(m_s.baseline, m_s.image).size();
+    if (count == 0)
+        return true;
+    const Msg question = opening ? Msg::UnwrittenChangesOpen : Msg::UnwrittenChangesStore;
+    return m_s.prompt->choose(messageText(question, {QString::number(count)}),
+                              UserPrompt::Kind::Confirmation, {captionText(Cap::GoOn)},
+                              captionText(Cap::CancelChoice)) == 0;
+}
