@@ -592,7 +592,7 @@
         <translation>gesperrt</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
+        <source>Option &apos;%s&apos;</source>
         <translation>Option „%s“</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>vom Münzprüfer abgelehnt</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
+        <source>Validator&apos;s own block</source>
         <translation>Eigener Block des Münzprüfers</translation>
     </message>
     <message>
@@ -755,7 +755,7 @@
         <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
         <translation>Millisekunden in Schritten von 10, höchstens 630; leer: nicht gesetzt</translation>
     </message>
-<message>
+    <message>
         <source>Since read from validator %s at %s</source>
         <translation>Seit dem Lesen des Münzprüfers %s um %s</translation>
     </message>
@@ -807,7 +807,7 @@
         <translation>Lesefehler vom Münzprüfer</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>Der Kommunikationsanschluss COM%d ist nicht frei oder falsch eingestellt.</translation>
     </message>
     <message>
@@ -875,8 +875,8 @@
         <translation>Wert unter dem Minimum, er wird korrigiert.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' ist kein gültiger Ganzzahlwert</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; ist kein gültiger Ganzzahlwert</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -1007,7 +1007,7 @@
         <translation>Aktualisierung... Bitte warten !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
+        <source>Don&apos;t Stop or disconnect !!!</source>
         <translation>Nicht abbrechen oder trennen !!!</translation>
     </message>
     <message>
@@ -1107,7 +1107,7 @@
         <translation>Schlüssel %s fehlt oder passt nicht zu seinem Feld</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
+        <source>its language driver differs from the table&apos;s</source>
         <translation>sein Sprachtreiber weicht von dem der Tabelle ab</translation>
     </message>
     <message>
@@ -1283,11 +1283,11 @@
         <translation>Der Datenträger meldete einen Fehler (%s): es wurde nichts geschrieben</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>„%s“ kann nicht in %s gespeichert werden: seine Codepage kennt %s nicht. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>„%s“ ist zu lang für %s: es fasst höchstens %s Zeichen. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
@@ -1402,7 +1402,7 @@
         <source>%s: %s channel rows of no stored validator removed (copies in %s)</source>
         <translation>%s: %s Kanalzeilen ohne gespeicherten Münzprüfer entfernt (Kopien in %s)</translation>
     </message>
-<message>
+    <message>
         <source>Coin ignored: choose a channel first</source>
         <translation>Münze ignoriert: zuerst einen Kanal wählen</translation>
     </message>
@@ -1415,26 +1415,26 @@
         <translation>Überschneidung mit %s</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
         <translation>Die eigene Konfiguration des Münzprüfers konnte vor dem Klonen nicht gelesen werden: nichts wurde geklont.</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
         <translation>Die eigene Konfiguration des Münzprüfers konnte vor dem Klonen nicht gesichert werden: %s. Trotzdem klonen?</translation>
     </message>
     <message>
-        <source>The validator's own configuration was kept in %s.</source>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
         <translation>Die eigene Konfiguration des Münzprüfers wurde in %s gesichert.</translation>
     </message>
     <message>
-        <source>Windows corrected for this validator's sensors: %s.</source>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
         <translation>Fenster für die Sensoren dieses Münzprüfers korrigiert: %s.</translation>
     </message>
     <message>
         <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
         <translation>Fenster unverändert kopiert: die Quelle oder dieser Münzprüfer hat keinen Referenzkanal, um sie zu korrigieren.</translation>
     </message>
-<message>
+    <message>
         <source>Verifying... do not unplug the validator</source>
         <translation>Überprüfung... den Münzprüfer nicht abziehen</translation>
     </message>
@@ -1739,7 +1739,7 @@
         <translation>Port-&amp;Zeitlimit...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
         <translation>Wie lange auf das erste Byte des Prüfers gewartet wird: für Bluetooth- oder Funk-Seriell-Adapter erhöhen</translation>
     </message>
     <message>
@@ -1747,10 +1747,10 @@
         <translation>Port-Zeitlimit</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
         <translation>Wartezeit auf das Echo der Anzahl oder das erste Byte einer Antwort, in Millisekunden (Vorgabe %1):</translation>
     </message>
-<message>
+    <message>
         <source>&amp;Back up before cloning</source>
         <translation>Vor dem Klonen si&amp;chern</translation>
     </message>
@@ -2027,10 +2027,6 @@
     <message>
         <source>AMP</source>
         <translation>AMP</translation>
-    </message>
-<message>
-        <source>Coin calibration</source>
-        <translation>Münzkalibrierung</translation>
     </message>
     <message>
         <source>%1 minimum: the lowest reading the channel takes</source>

@@ -592,8 +592,8 @@
         <translation>disabled</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
-        <translation>Option '%s'</translation>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Option &apos;%s&apos;</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -684,8 +684,8 @@
         <translation>refused by the validator</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
-        <translation>Validator's own block</translation>
+        <source>Validator&apos;s own block</source>
+        <translation>Validator&apos;s own block</translation>
     </message>
     <message>
         <source>%s (channels %s)</source>
@@ -755,7 +755,7 @@
         <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
         <translation>Milliseconds in steps of 10, at most 630; empty: not set</translation>
     </message>
-<message>
+    <message>
         <source>Since read from validator %s at %s</source>
         <translation>Since read from validator %s at %s</translation>
     </message>
@@ -807,8 +807,8 @@
         <translation>Reading Error fron validator</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
-        <translation>Comunication Port COM%d isn't free or Setting error.</translation>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <translation>Comunication Port COM%d isn&apos;t free or Setting error.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
@@ -875,8 +875,8 @@
         <translation>Value under the minimum, it will be correct.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' is not a valid integer value</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; is not a valid integer value</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -1007,8 +1007,8 @@
         <translation>Updating... Please Wait !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
-        <translation>Don't Stop or disconnect !!!</translation>
+        <source>Don&apos;t Stop or disconnect !!!</source>
+        <translation>Don&apos;t Stop or disconnect !!!</translation>
     </message>
     <message>
         <source>Please connect the mini-programer.</source>
@@ -1107,8 +1107,8 @@
         <translation>tag %s is missing or does not match its field</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
-        <translation>its language driver differs from the table's</translation>
+        <source>its language driver differs from the table&apos;s</source>
+        <translation>its language driver differs from the table&apos;s</translation>
     </message>
     <message>
         <source>The data directory %s has been created with empty tables</source>
@@ -1283,12 +1283,12 @@
         <translation>The disk reported an error (%s): nothing was written</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
-        <translation>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
-        <translation>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</translation>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</translation>
     </message>
     <message>
         <source>%s counts %s records in its header, but its index and its length prove %s</source>
@@ -1402,7 +1402,7 @@
         <source>%s: %s channel rows of no stored validator removed (copies in %s)</source>
         <translation>%s: %s channel rows of no stored validator removed (copies in %s)</translation>
     </message>
-<message>
+    <message>
         <source>Coin ignored: choose a channel first</source>
         <translation>Coin ignored: choose a channel first</translation>
     </message>
@@ -1415,26 +1415,26 @@
         <translation>Overlap with %s</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
-        <translation>The validator's own configuration could not be read before cloning: nothing was cloned.</translation>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
+        <translation>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
-        <translation>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</translation>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <translation>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</translation>
     </message>
     <message>
-        <source>The validator's own configuration was kept in %s.</source>
-        <translation>The validator's own configuration was kept in %s.</translation>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
+        <translation>The validator&apos;s own configuration was kept in %s.</translation>
     </message>
     <message>
-        <source>Windows corrected for this validator's sensors: %s.</source>
-        <translation>Windows corrected for this validator's sensors: %s.</translation>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
+        <translation>Windows corrected for this validator&apos;s sensors: %s.</translation>
     </message>
     <message>
         <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
         <translation>Windows copied as they are: the source or this validator has no reference channel to correct them by.</translation>
     </message>
-<message>
+    <message>
         <source>Verifying... do not unplug the validator</source>
         <translation>Verifying... do not unplug the validator</translation>
     </message>
@@ -1739,18 +1739,18 @@
         <translation>Port &amp;time-out...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
-        <translation>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</translation>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
+        <translation>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</translation>
     </message>
     <message>
         <source>Port time-out</source>
         <translation>Port time-out</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
-        <translation>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</translation>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
+        <translation>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</translation>
     </message>
-<message>
+    <message>
         <source>&amp;Back up before cloning</source>
         <translation>&amp;Back up before cloning</translation>
     </message>
@@ -2027,10 +2027,6 @@
     <message>
         <source>AMP</source>
         <translation>AMP</translation>
-    </message>
-<message>
-        <source>Coin calibration</source>
-        <translation>Coin calibration</translation>
     </message>
     <message>
         <source>%1 minimum: the lowest reading the channel takes</source>

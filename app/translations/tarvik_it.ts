@@ -592,8 +592,8 @@
         <translation>disabilitato</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
-        <translation>Opzione '%s'</translation>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Opzione &apos;%s&apos;</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -669,7 +669,7 @@
     </message>
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>Nessuna modifica dall'ultima lettura, apertura o scrittura della configurazione.</translation>
+        <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
     </message>
     <message>
         <source>Channel windows</source>
@@ -684,7 +684,7 @@
         <translation>rifiutato dalla gettoniera</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
+        <source>Validator&apos;s own block</source>
         <translation>Blocco proprio della gettoniera</translation>
     </message>
     <message>
@@ -749,7 +749,7 @@
     </message>
     <message>
         <source>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</source>
-        <translation>A decine, da 0 a 2540 (l'ultima cifra viene scartata); vuoto: non impostato</translation>
+        <translation>A decine, da 0 a 2540 (l&apos;ultima cifra viene scartata); vuoto: non impostato</translation>
     </message>
     <message>
         <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
@@ -765,15 +765,15 @@
     </message>
     <message>
         <source>Since opened from %s (the validator was not read)</source>
-        <translation>Dall'apertura di %s (la gettoniera non è stata letta)</translation>
+        <translation>Dall&apos;apertura di %s (la gettoniera non è stata letta)</translation>
     </message>
     <message>
         <source>Since opened from file %s (the validator was not read)</source>
-        <translation>Dall'apertura del file %s (la gettoniera non è stata letta)</translation>
+        <translation>Dall&apos;apertura del file %s (la gettoniera non è stata letta)</translation>
     </message>
     <message>
         <source>Since the editor opened (the validator was not read)</source>
-        <translation>Dall'apertura dell'editor (la gettoniera non è stata letta)</translation>
+        <translation>Dall&apos;apertura dell&apos;editor (la gettoniera non è stata letta)</translation>
     </message>
     <message>
         <source>Write again</source>
@@ -781,7 +781,7 @@
     </message>
     <message>
         <source>Put back as it was</source>
-        <translation>Ripristina com'era</translation>
+        <translation>Ripristina com&apos;era</translation>
     </message>
     <message>
         <source>Go on</source>
@@ -807,12 +807,12 @@
         <translation>Errore di lettura dalla gettoniera</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>La porta di comunicazione COM%d non è libera o è impostata in modo errato.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
-        <translation>Questo utente non ha il permesso di aprire la porta seriale. Aggiungere l'utente al gruppo dialout (sudo usermod -aG dialout $USER), poi chiudere la sessione e accedere di nuovo.</translation>
+        <translation>Questo utente non ha il permesso di aprire la porta seriale. Aggiungere l&apos;utente al gruppo dialout (sudo usermod -aG dialout $USER), poi chiudere la sessione e accedere di nuovo.</translation>
     </message>
     <message>
         <source>Select port !!!</source>
@@ -875,8 +875,8 @@
         <translation>Valore inferiore al minimo, sarà corretto.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' non è un valore intero valido</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; non è un valore intero valido</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -1000,14 +1000,14 @@
     </message>
     <message>
         <source>Operation cancelled by operator</source>
-        <translation>Operazione annullata dall'operatore</translation>
+        <translation>Operazione annullata dall&apos;operatore</translation>
     </message>
     <message>
         <source>Updating... Please Wait !</source>
         <translation>Aggiornamento in corso... Attendere !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
+        <source>Don&apos;t Stop or disconnect !!!</source>
         <translation>Non interrompere né scollegare !!!</translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@
     </message>
     <message>
         <source>The user guide %s is not installed.</source>
-        <translation>La guida dell'utente %s non è installata.</translation>
+        <translation>La guida dell&apos;utente %s non è installata.</translation>
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
@@ -1040,11 +1040,11 @@
     </message>
     <message>
         <source>%s has a damaged header: its header length, record length and field widths do not add up</source>
-        <translation>%s ha un'intestazione danneggiata: lunghezza dell'intestazione, lunghezza del record e larghezze dei campi non corrispondono</translation>
+        <translation>%s ha un&apos;intestazione danneggiata: lunghezza dell&apos;intestazione, lunghezza del record e larghezze dei campi non corrispondono</translation>
     </message>
     <message>
         <source>%s has a damaged header: field %s is not valid</source>
-        <translation>%s ha un'intestazione danneggiata: il campo %s non è valido</translation>
+        <translation>%s ha un&apos;intestazione danneggiata: il campo %s non è valido</translation>
     </message>
     <message>
         <source>%s is truncated: it holds %s of its %s records</source>
@@ -1076,11 +1076,11 @@
     </message>
     <message>
         <source>The index %s was not usable (%s) and has been rebuilt from %s</source>
-        <translation>L'indice %s non era utilizzabile (%s) ed è stato ricostruito da %s</translation>
+        <translation>L&apos;indice %s non era utilizzabile (%s) ed è stato ricostruito da %s</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s) and cannot be rebuilt now</source>
-        <translation>L'indice %s non è utilizzabile (%s) e non può essere ricostruito ora</translation>
+        <translation>L&apos;indice %s non è utilizzabile (%s) e non può essere ricostruito ora</translation>
     </message>
     <message>
         <source>it is missing</source>
@@ -1107,7 +1107,7 @@
         <translation>il tag %s manca o non corrisponde al suo campo</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
+        <source>its language driver differs from the table&apos;s</source>
         <translation>il suo driver di lingua differisce da quello della tabella</translation>
     </message>
     <message>
@@ -1124,7 +1124,7 @@
     </message>
     <message>
         <source>The settings could not be read; the defaults are used until a setting is changed.</source>
-        <translation>Non è stato possibile leggere le impostazioni; si usano i valori predefiniti finché non si modifica un'impostazione.</translation>
+        <translation>Non è stato possibile leggere le impostazioni; si usano i valori predefiniti finché non si modifica un&apos;impostazione.</translation>
     </message>
     <message>
         <source>The file %s could not be read.</source>
@@ -1132,7 +1132,7 @@
     </message>
     <message>
         <source>The sheet could not be written to %s: %s. Nothing else was changed.</source>
-        <translation>Non è stato possibile scrivere la scheda in %s: %s. Nient'altro è stato modificato.</translation>
+        <translation>Non è stato possibile scrivere la scheda in %s: %s. Nient&apos;altro è stato modificato.</translation>
     </message>
     <message>
         <source>The sheet could not be printed.</source>
@@ -1212,7 +1212,7 @@
     </message>
     <message>
         <source>%s. Nothing of it can be read; the file is left as it is.</source>
-        <translation>%s. Non se ne può leggere nulla; il file viene lasciato com'è.</translation>
+        <translation>%s. Non se ne può leggere nulla; il file viene lasciato com&apos;è.</translation>
     </message>
     <message>
         <source>%s is not open: nothing can be read from it or stored in it</source>
@@ -1236,7 +1236,7 @@
     </message>
     <message>
         <source>The index %s is not usable (%s)</source>
-        <translation>L'indice %s non è utilizzabile (%s)</translation>
+        <translation>L&apos;indice %s non è utilizzabile (%s)</translation>
     </message>
     <message>
         <source>Verifying...</source>
@@ -1283,11 +1283,11 @@
         <translation>Il disco ha segnalato un errore (%s): non è stato scritto nulla</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>«%s» non può essere memorizzato in %s: la sua tabella codici non ha %s. Non è stato scritto nulla.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>«%s» è troppo lungo per %s: contiene al massimo %s caratteri. Non è stato scritto nulla.</translation>
     </message>
     <message>
@@ -1316,7 +1316,7 @@
     </message>
     <message>
         <source>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</source>
-        <translation>La gettoniera contiene ora una configurazione scritta in parte (scritto: %s); nulla di quanto già scritto è stato annullato. Scriverla di nuovo prima dell'uso.</translation>
+        <translation>La gettoniera contiene ora una configurazione scritta in parte (scritto: %s); nulla di quanto già scritto è stato annullato. Scriverla di nuovo prima dell&apos;uso.</translation>
     </message>
     <message>
         <source>Nothing was written: the validator holds what it held before.</source>
@@ -1328,7 +1328,7 @@
     </message>
     <message>
         <source>No answer came after sending %s: the validator may or may not hold it.</source>
-        <translation>Nessuna risposta dopo l'invio di %s: la gettoniera potrebbe contenerlo oppure no.</translation>
+        <translation>Nessuna risposta dopo l&apos;invio di %s: la gettoniera potrebbe contenerlo oppure no.</translation>
     </message>
     <message>
         <source>Channel %d was not saved into the validator.</source>
@@ -1364,7 +1364,7 @@
     </message>
     <message>
         <source>The mini-programmer must be in its upgrade mode before the file is sent. Send %s now?</source>
-        <translation>Il mini-programmatore deve essere in modalità aggiornamento prima dell'invio del file. Inviare %s ora?</translation>
+        <translation>Il mini-programmatore deve essere in modalità aggiornamento prima dell&apos;invio del file. Inviare %s ora?</translation>
     </message>
     <message>
         <source>%s holds %d bytes: sent byte by byte at 9600 baud, it takes hours. Send it all the same?</source>
@@ -1372,7 +1372,7 @@
     </message>
     <message>
         <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
-        <translation>La porta è stata persa durante il trasferimento: %d byte su %d hanno lasciato la porta: l'aggiornamento non è completo.</translation>
+        <translation>La porta è stata persa durante il trasferimento: %d byte su %d hanno lasciato la porta: l&apos;aggiornamento non è completo.</translation>
     </message>
     <message>
         <source>%s is locked by %s: waiting at most %s s</source>
@@ -1402,7 +1402,7 @@
         <source>%s: %s channel rows of no stored validator removed (copies in %s)</source>
         <translation>%s: %s righe di canali di nessuna gettoniera memorizzata rimosse (copie in %s)</translation>
     </message>
-<message>
+    <message>
         <source>Coin ignored: choose a channel first</source>
         <translation>Moneta ignorata: scegliere prima un canale</translation>
     </message>
@@ -1415,19 +1415,19 @@
         <translation>Sovrapposizione con %s</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
         <translation>Non è stato possibile leggere la configurazione della gettoniera prima della clonazione: nulla è stato clonato.</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
         <translation>Non è stato possibile conservare la configurazione della gettoniera prima della clonazione: %s. Clonare comunque?</translation>
     </message>
     <message>
-        <source>The validator's own configuration was kept in %s.</source>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
         <translation>La configurazione della gettoniera è stata conservata in %s.</translation>
     </message>
     <message>
-        <source>Windows corrected for this validator's sensors: %s.</source>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
         <translation>Finestre corrette per i sensori di questa gettoniera: %s.</translation>
     </message>
     <message>
@@ -1444,7 +1444,7 @@
     </message>
     <message>
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
-        <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche); l'apertura le sostituisce nell'editor. Aprire comunque?</translation>
+        <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche); l&apos;apertura le sostituisce nell&apos;editor. Aprire comunque?</translation>
     </message>
 </context>
 <context>
@@ -1527,7 +1527,7 @@
     </message>
     <message>
         <source>Adapter bursts every (ms) :</source>
-        <translation>Pacchetti dell'adattatore ogni (ms) :</translation>
+        <translation>Pacchetti dell&apos;adattatore ogni (ms) :</translation>
     </message>
     <message>
         <source>Pause in replies after byte, for (ms) :</source>
@@ -1739,7 +1739,7 @@
         <translation>&amp;Timeout della porta...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
         <translation>Quanto attendere il primo byte della gettoniera: aumentarlo per adattatori seriali Bluetooth o radio</translation>
     </message>
     <message>
@@ -1747,10 +1747,10 @@
         <translation>Timeout della porta</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
-        <translation>Attesa dell'eco del conteggio o del primo byte di una risposta, in millisecondi (%1 predefinito):</translation>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
+        <translation>Attesa dell&apos;eco del conteggio o del primo byte di una risposta, in millisecondi (%1 predefinito):</translation>
     </message>
-<message>
+    <message>
         <source>&amp;Back up before cloning</source>
         <translation>&amp;Backup prima della clonazione</translation>
     </message>
@@ -2028,10 +2028,6 @@
         <source>AMP</source>
         <translation>AMP</translation>
     </message>
-<message>
-        <source>Coin calibration</source>
-        <translation>Calibrazione moneta</translation>
-    </message>
     <message>
         <source>%1 minimum: the lowest reading the channel takes</source>
         <translation>%1 minimo: la lettura più bassa che il canale accetta</translation>
@@ -2042,7 +2038,7 @@
     </message>
     <message>
         <source>%1: the reading of the last coin</source>
-        <translation>%1: la lettura dell'ultima moneta</translation>
+        <translation>%1: la lettura dell&apos;ultima moneta</translation>
     </message>
     <message>
         <source>%1: the width of the window (maximum - minimum)</source>
@@ -2050,19 +2046,19 @@
     </message>
     <message>
         <source>%1: the last reading minus the minimum (below 0: under the window)</source>
-        <translation>%1: l'ultima lettura meno il minimo (sotto 0: sotto la finestra)</translation>
+        <translation>%1: l&apos;ultima lettura meno il minimo (sotto 0: sotto la finestra)</translation>
     </message>
     <message>
         <source>%1: the last reading minus the maximum (above 0: over the window)</source>
-        <translation>%1: l'ultima lettura meno il massimo (sopra 0: sopra la finestra)</translation>
+        <translation>%1: l&apos;ultima lettura meno il massimo (sopra 0: sopra la finestra)</translation>
     </message>
     <message>
         <source>%1: the last reading, and the window as a band</source>
-        <translation>%1: l'ultima lettura, e la finestra come banda</translation>
+        <translation>%1: l&apos;ultima lettura, e la finestra come banda</translation>
     </message>
     <message>
         <source>The first stored channel whose windows hold the last coin</source>
-        <translation>Il primo canale memorizzato le cui finestre contengono l'ultima moneta</translation>
+        <translation>Il primo canale memorizzato le cui finestre contengono l&apos;ultima moneta</translation>
     </message>
     <message>
         <source>Coins counted for the chosen channel</source>
