@@ -166,6 +166,8 @@ private Q_SLOTS:
             auto *form = qobject_cast<TFormProgCoin *>(QApplication::activeModalWidget());
             QVERIFY(form);
             // The form is modal: in this process nothing else takes a click, the bench does.
+            // A coin counts once a channel is chosen.
+            form->findChild<QSpinBox *>(QStringLiteral("SpinEdit1"))->setValue(20);
             bench.send("coin 2.00");
             auto *coins = form->findChild<QLabel *>(QStringLiteral("LabelCoins"));
             arrived = QTest::qWaitFor([&] { return coins->text() == QLatin1String("1"); }, 60000);
