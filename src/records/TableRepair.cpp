@@ -39,9 +39,12 @@ QString indexPathOf(const QString &path, const TableSchema *schema)
                                             : info.completeBaseName() + QStringLiteral(".MDX"));
 }
 
-// Whether the rebuilt table reads back as a sound table with every row kept, each field of
-// each row readable: no table is written whose rows cannot be read.
-bool readsBack(const QByteArray &rebuilt, const DbfLayout &layout, const TableSchema *schema)
+} // namespace
+
+// No table is written whose rows cannot be read.
+
+bool TableRepair::readsBack(const QByteArray &rebuilt, const DbfLayout &layout,
+                            const TableSchema *schema)
 {
     const DbfLayout again = DbfLayout::read(rebuilt, QStringLiteral("rebuilt"), schema);
     if (again.state != DbfLayout::State::Sound || again.rows != layout.rows)
@@ -60,8 +63,6 @@ bool readsBack(const QByteArray &rebuilt, const DbfLayout &layout, const TableSc
     }
     return true;
 }
-
-} // namespace
 
 bool TableRepair::Result::sound() const
 {

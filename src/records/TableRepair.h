@@ -18,9 +18,16 @@
 //
 // Each table is mended under its exclusive lock (TableLock), so that programs holding the
 // tables open meanwhile wait for it, then read the mended table.
+struct DbfLayout;
+
 class TableRepair final
 {
 public:
+    // Whether a rebuilt table reads back sound, with the layout's rows and every number and date
+    // readable: the repair writes nothing else.
+    static bool readsBack(const QByteArray &rebuilt, const DbfLayout &layout,
+                          const TableSchema *schema);
+
     enum class State
     {
         Sound,         // nothing to repair

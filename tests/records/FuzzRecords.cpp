@@ -6,6 +6,7 @@
 #include "DbfLayout.h"
 #include "DbfTable.h"
 #include "MdxIndex.h"
+#include "TableRepair.h"
 #include "TableSchema.h"
 
 #include <QDate>
@@ -65,12 +66,15 @@ void writeSeeds(const QString &out)
     }
 }
 
-// The repair's rewriting of a damaged table: the table it writes opens clean, with exactly
-// the rows that could be read, field by field, and needs no second repair.
+// The repair's rewriting of a damaged table: a table it would write (one that reads back) opens
+// clean, with exactly the rows that could be read, field by field, and needs no second repair;
+// one that does not read back is refused and never written.
 void checkRepair(const DbfTable &damaged, const QByteArray &table, const TableSchema *schema)
 {
     const DbfLayout layout = DbfLayout::read(table, QStringLiteral("fuzz.dbf"), schema);
     const QByteArray repaired = layout.rebuilt(table, QDate(2024, 2, 29));
+    if (!TableRepair::readsBack(repaired, layout, schema))
+        return;
     DbfTable t;
     if (!t.openBytes(repaired, {}, schema) || t.isDamaged() ||
         t.recordCount() != damaged.recordCount() || t.fieldCount() != damaged.fieldCount() ||
