@@ -50,12 +50,11 @@ QString reason(int osError)
 QString destination(const QString &path)
 {
     const QFileInfo info(path);
-    if (info.isSymLink()) {
-        const QString target = info.symLinkTarget();
-        if (!target.isEmpty())
-            return target;
-    }
-    return path;
+    if (!info.isSymLink())
+        return path;
+    // A chain of links ends at one file; a link to nothing names where that file would be.
+    const QString target = info.canonicalFilePath();
+    return target.isEmpty() ? info.symLinkTarget() : target;
 }
 
 #ifdef Q_OS_WIN

@@ -5,6 +5,7 @@
 #include "DurableFile.h"
 #include "LanguageDriver.h"
 #include "TableLock.h"
+#include "WholeFile.h"
 
 #include <QDate>
 #include <QDir>
@@ -33,11 +34,7 @@ QString DbfTable::findInDirectory(const QString &dir, const QString &name)
 
 QString DbfTable::targetOf(const QString &path)
 {
-    const QFileInfo info(path);
-    if (!info.isSymLink())
-        return path;
-    const QString target = info.canonicalFilePath();
-    return target.isEmpty() ? info.symLinkTarget() : target;
+    return WholeFile::destination(path);
 }
 
 void DbfTable::setCommitHook(CommitHook hook)
