@@ -272,6 +272,23 @@ bool TMonnayeur::WriteValueTable(const ValueTableBytes &table, int *slicesAccept
     return true;
 }
 
+bool TMonnayeur::ReadValueSlice(quint8 slice, quint8 *out)
+{
+    quint8 reply[256];
+    if (!SendCommand(&slice, Cmd::ReadValues, kValueSlice, 1, reply, true, true))
+        return false;
+    std::memcpy(out, reply, kValueSlice);
+    return true;
+}
+
+bool TMonnayeur::WriteValueSlice(quint8 slice, const quint8 *bytes)
+{
+    quint8 data[16];
+    data[0] = slice;
+    std::memcpy(data + 1, bytes, kValueSlice);
+    return writeAccepted(Cmd::WriteValues, data, 16);
+}
+
 bool TMonnayeur::ExecuteCommand(quint8 command)
 {
     quint8 reply[256] = {};

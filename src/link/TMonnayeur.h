@@ -44,6 +44,9 @@ public:
     // Writes the five slices in turn, stopping at the first that fails; slicesAccepted, when
     // given, receives how many the validator accepted.
     bool WriteValueTable(const ValueTableBytes &table, int *slicesAccepted = nullptr);
+    // One 15-byte slice (0 to 4) of the value table, read or written alone.
+    bool ReadValueSlice(quint8 slice, quint8 *out);
+    bool WriteValueSlice(quint8 slice, const quint8 *bytes);
     bool ExecuteCommand(quint8 command);
 
     // Short and long channel records.

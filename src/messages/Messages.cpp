@@ -187,6 +187,27 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages",
                        "The file holds a %s validator but a %s validator is connected: nothing "
                        "was written.")},
+    {Msg::ChangesBaselineOther,
+     QT_TRANSLATE_NOOP("Messages",
+                       "What the validator holds is the configuration of a %s validator with %s "
+                       "channels, the one to write is of a %s validator with %s channels: "
+                       "nothing was written.")},
+    {Msg::ChangesOtherValidator,
+     QT_TRANSLATE_NOOP("Messages", "This validator (serial %s) is not the one read (serial %s): "
+                                   "nothing was written.")},
+    {Msg::ChangesOtherFamily,
+     QT_TRANSLATE_NOOP("Messages", "This validator (serial %s) has %s firmware, the one read "
+                                   "(serial %s) had %s: nothing was written.")},
+    {Msg::ChangesWrittenSince,
+     QT_TRANSLATE_NOOP("Messages",
+                       "Validator %s was programmed (%s) after what it holds was read: it was "
+                       "written elsewhere since. Read it again; nothing was written.")},
+    {Msg::ChangesNothing,
+     QT_TRANSLATE_NOOP("Messages",
+                       "The validator already holds this configuration: nothing was written.")},
+    {Msg::ChangesNoBaseline,
+     QT_TRANSLATE_NOOP("Messages", "What validator %s holds is not known (it was not read "
+                                   "here): only the whole configuration can be written.")},
     {Msg::SavedChannelsMissing,
      QT_TRANSLATE_NOOP("Messages", "%s has no row for channels %s: they open empty.")},
     {Msg::SavedChannelsDuplicated,

@@ -109,6 +109,13 @@ enum class Msg
     CloneNotCorrected,
     TablesUnavailable,
     FamilyMismatch,
+    // the changes write
+    ChangesBaselineOther,
+    ChangesOtherValidator,
+    ChangesOtherFamily,
+    ChangesWrittenSince,
+    ChangesNothing,
+    ChangesNoBaseline,
     SavedChannelsMissing,
     SavedChannelsDuplicated,
     DeleteSavedValidator,
