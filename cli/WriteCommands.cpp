@@ -1,3 +1,5 @@
+#include "Backups.h"
+#include "ChangesWrite.h"
 #include "CliContext.h"
 #include "CloneTarget.h"
 #include "Commands.h"
@@ -10,6 +12,7 @@
 #include "WriteSequence.h"
 #include "WriteVerification.h"
 
+#include <QDir>
 #include <QFile>
 
 namespace {
@@ -67,6 +70,76 @@ bool sameFamily(CliContext &cli, TMonnayeur &link, const ConfigImage &image)
     return false;
 }
 
+// What the validator holds without --since: the newest read backup of its serial number.
+bool newestBaseline(CliContext &cli, TMonnayeur &link, ConfigImage &baseline)
+{
+    IdentRecord theirs{};
+    if (!link.CheckPresence(true) || !link.ReadBlock(Cmd::ReadIdent, theirs.data()))
+        return false;
+    ConfigImage connected = ConfigImage::blank();
+    connected.ident = theirs;
+    const QString serial = QString::number(connected.serialNumber());
+    const QString dir = DataDirectory::resolve(cli.options().dataDir) + QStringLiteral("/backups");
+    const QString newest = newestBackup(dir, connected.serialNumber());
+    if (newest.isEmpty()) {
+        cli.prompt().tell(messageText(Msg::ChangesNoBaseline, {serial}), UserPrompt::Kind::Error);
+        cli.err() << "tarvik-cli: no read backup of validator " << serial << " in "
+                  << QDir::toNativeSeparators(dir)
+                  << ": give --since BASE, or write without --changes" << Qt::endl;
+        return false;
+    }
+    cli.err() << "Changes since " << QDir::toNativeSeparators(newest) << Qt::endl;
+    return readImageInput(cli, newest, baseline);
+}
+
+// write FILE --changes: only what differs from what the validator holds, then its read-back.
+int writeChanges(CliContext &cli, const QString &file, const QString &since,
+                 ChangesWriteOptions options, bool verify, quint32 serial)
+{
+    ConfigImage wanted;
+    ConfigImage baseline;
+    // Both files are read before the validator is spoken to.
+    if (!readImageInput(cli, file, wanted) ||
+        (!since.isEmpty() && !readImageInput(cli, since, baseline)))
+        return kExitFailed;
+    if (options.serialOverride)
+        wanted.setSerialNumber(serial);
+    TMonnayeur *link = cli.openLink();
+    if (!link)
+        return kExitFailed;
+    if (since.isEmpty() && !newestBaseline(cli, *link, baseline))
+        return kExitFailed;
+    cli.prompt().setAnswer(UserPrompt::Answer::Cancel);
+    options.askConnect = false;
+    options.sending = [&](const ChangesPlan &plan) {
+        for (const ConfigChange &change : changesSent(baseline, wanted, plan))
+            cli.out() << change.text() << Qt::endl;
+        cli.out() << plan.blocks() << (plan.blocks() == 1 ? " block" : " blocks") << " to write"
+                  << Qt::endl;
+    };
+    const ChangesWriteResult result =
+        changesWrite(*link, baseline, wanted, options, gaugeOnTerminal(cli));
+    cli.endProgress();
+    if (result.refusal == ChangesRefusal::WrittenSince)
+        cli.err() << "tarvik-cli: --force writes the changes all the same" << Qt::endl;
+    if (result.refusal == ChangesRefusal::NothingChanged)
+        return kExitOk;
+    if (result.outcome != WriteOutcome::Finished)
+        return kExitFailed;
+    int code = kExitOk;
+    if (verify) {
+        ReadObserver observer;
+        observer.progress = [&cli](int gauge) {
+            cli.showProgress(messageText(Msg::Verifying), gauge);
+        };
+        const VerifyResult checked = verifySentBlocks(*link, baseline, result.sent, observer);
+        cli.endProgress();
+        cli.out() << verificationMessage(checked) << Qt::endl;
+        code = checked.outcome == VerifyOutcome::Verified ? kExitOk : kExitFailed;
+    }
+    return stepsRefused(result.sent.steps).isEmpty() ? code : kExitFailed;
+}
+
 int writeCommand(CliContext &cli, const QStringList &args)
 {
     QString file;
@@ -75,9 +148,15 @@ int writeCommand(CliContext &cli, const QStringList &args)
     quint32 serial = 0;
     bool force = false;
     bool verify = true;
+    bool changes = false;
+    QString since;
     for (int i = 0; i < args.size(); ++i) {
         if (args[i] == QLatin1String("--force")) {
             force = true;
+        } else if (args[i] == QLatin1String("--changes")) {
+            changes = true;
+        } else if (args[i] == QLatin1String("--since") && i + 1 < args.size()) {
+            since = args[++i];
         } else if (args[i] == QLatin1String("--no-verify")) {
             verify = false;
         } else if (args[i] == QLatin1String("--serial") && i + 1 < args.size()) {
@@ -94,8 +173,14 @@ int writeCommand(CliContext &cli, const QStringList &args)
             return kExitUsage;
         }
     }
-    if (file.isEmpty())
+    if (file.isEmpty() || (!since.isEmpty() && !changes))
         return kExitUsage;
+    if (changes) {
+        ChangesWriteOptions changing;
+        changing.force = force;
+        changing.serialOverride = options.serialOverride;
+        return writeChanges(cli, file, since, changing, verify, serial);
+    }
     if (!readImageInput(cli, file, image))
         return kExitFailed;
     if (options.serialOverride)
@@ -262,11 +347,16 @@ int firmwareCommand(CliContext &cli, const QStringList &args)
 void registerWriteCommands(CliCommandTable &table)
 {
     table.insert(QStringLiteral("write"),
-                 {QStringLiteral("write FILE [--serial N] [--force] [--no-verify]"),
+                 {QStringLiteral("write FILE [--changes [--since BASE]] [--serial N] [--force] "
+                                 "[--no-verify]"),
                   QStringLiteral("writes the whole configuration in FILE to the validator; a "
                                  "file of another firmware family is refused unless --force; "
                                  "then reads it back and prints what it does not hold (exit 1) "
-                                 "unless --no-verify"),
+                                 "unless --no-verify. With --changes only what differs from "
+                                 "BASE (what the validator holds; by default its newest read "
+                                 "backup) is written, each difference printed, and only that is "
+                                 "read back; a validator that is not BASE's is refused, one "
+                                 "programmed since BASE unless --force"),
                   writeCommand});
     table.insert(QStringLiteral("clone"),
                  {QStringLiteral("clone FILE [--groups channels,values,prices,config,enable] "

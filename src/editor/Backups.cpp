@@ -39,3 +39,20 @@ QString keepBackup(const QString &dir, const ConfigImage &image, const QDateTime
         backups.remove(kept.at(i));
     return path;
 }
+
+QString newestBackup(const QString &dir, quint32 serial)
+{
+    // Names start with the time: the last in name order is the newest. A second backup of the
+    // same millisecond carries "-2" after the serial number.
+    const QString serialPart = QStringLiteral("-serial") + QString::number(serial);
+    const QFileInfoList files =
+        QDir(dir).entryInfoList({QStringLiteral("*") + serialPart + QStringLiteral("*.json")},
+                                QDir::Files, QDir::Name | QDir::Reversed);
+    for (const QFileInfo &file : files) {
+        const QString rest = file.completeBaseName().section(serialPart, 1);
+        const bool exact = rest.isEmpty() || (rest.startsWith(u'-') && rest.mid(1).toInt() > 0);
+        if (exact && file.size() > 0)
+            return file.filePath();
+    }
+    return {};
+}

@@ -80,6 +80,26 @@ ChangesPlan planChanges(const ConfigImage &baseline, const ConfigImage &wanted, 
     return plan;
 }
 
+QList<ConfigChange> changesSent(const ConfigImage &baseline, const ConfigImage &wanted,
+                                const ChangesPlan &plan)
+{
+    QList<ConfigChange> sent;
+    const QList<ConfigChange> all = configDifferences(baseline, wanted);
+    for (const ConfigChange &change : all) {
+        bool goes = true;
+        if (change.group == ChangeGroup::Identification)
+            goes = plan.ident && change.key == QLatin1String("ident.serial");
+        else if (change.group == ChangeGroup::Counters)
+            goes =
+                change.key == QLatin1String("counting") || change.key == QLatin1String("erasable")
+                    ? plan.options
+                    : plan.counters;
+        if (goes)
+            sent.append(change);
+    }
+    return sent;
+}
+
 bool programmedSince(const IdentRecord &baseline, const IdentRecord &theirs)
 {
     if (baseline[0] == theirs[0] && baseline[1] == theirs[1])
@@ -108,12 +128,12 @@ ChangesWriteResult changesWrite(TMonnayeur &link, const ConfigImage &baseline,
     // A baseline of another model says nothing of what this configuration would change.
     if (baseline.familyNibble() != wanted.familyNibble() ||
         baseline.channelCount() != wanted.channelCount())
-        return refuse(ChangesRefusal::BaselineOther,
-                      messageText(Msg::ChangesBaselineOther,
-                                  {familyName(baseline.familyByte()),
-                                   QString::number(baseline.channelCount()),
-                                   familyName(wanted.familyByte()),
-                                   QString::number(wanted.channelCount())}));
+        return refuse(
+            ChangesRefusal::BaselineOther,
+            messageText(Msg::ChangesBaselineOther,
+                        {familyName(baseline.familyByte()),
+                         QString::number(baseline.channelCount()), familyName(wanted.familyByte()),
+                         QString::number(wanted.channelCount())}));
 
     if (!connectLoop(link, options.askConnect)) {
         result.refusal = ChangesRefusal::NotConnected;
@@ -157,6 +177,9 @@ ChangesWriteResult changesWrite(TMonnayeur &link, const ConfigImage &baseline,
         return result;
     }
 
+    if (options.sending)
+        options.sending(result.plan);
+
     // The gauge counts the blocks accepted out of the blocks planned: 100 when all were.
     const ChangesPlan &plan = result.plan;
     SentBlocks &sent = result.sent;
@@ -196,8 +219,8 @@ ChangesWriteResult changesWrite(TMonnayeur &link, const ConfigImage &baseline,
             if (!plan.valueSlices[std::size_t(slice)])
                 continue;
             StepEnd end = StepEnd::NotRun;
-            ran(end, link.WriteValueSlice(quint8(slice),
-                                          wanted.values.data() + slice * kValueSlice));
+            ran(end,
+                link.WriteValueSlice(quint8(slice), wanted.values.data() + slice * kValueSlice));
             if (end == StepEnd::Accepted)
                 ++sent.steps.valueParts;
             else if (sent.steps.values == StepEnd::Accepted)
@@ -240,8 +263,8 @@ ChangesWriteResult changesWrite(TMonnayeur &link, const ConfigImage &baseline,
     return result;
 }
 
-VerifyResult verifySentBlocks(TMonnayeur &link, const ConfigImage &baseline,
-                              const SentBlocks &sent, const ReadObserver &observer)
+VerifyResult verifySentBlocks(TMonnayeur &link, const ConfigImage &baseline, const SentBlocks &sent,
+                              const ReadObserver &observer)
 {
     // What was not read back stays as the write expects it, so that only what was read counts.
     ConfigImage readBack = expectedAfterWrite(baseline, sent);
@@ -272,8 +295,8 @@ VerifyResult verifySentBlocks(TMonnayeur &link, const ConfigImage &baseline,
             std::copy(record.begin(), record.end(), readBack.channels[std::size_t(k)].begin());
     }
     for (int slice : slices)
-        ok = ok && read(link.ReadValueSlice(quint8(slice),
-                                            readBack.values.data() + slice * kValueSlice));
+        ok = ok &&
+             read(link.ReadValueSlice(quint8(slice), readBack.values.data() + slice * kValueSlice));
     if (sent.options)
         ok = ok && read(link.ReadBlock(Cmd::ReadOptions, readBack.options.data()));
     if (sent.prices)

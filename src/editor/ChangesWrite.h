@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ConfigDiff.h"
 #include "ConfigImage.h"
 #include "ReadSequence.h"
 #include "WriteSequence.h"
@@ -8,6 +9,7 @@
 #include <QDate>
 #include <QString>
 #include <array>
+#include <functional>
 
 class TMonnayeur;
 
@@ -34,6 +36,12 @@ struct ChangesPlan
 ChangesPlan planChanges(const ConfigImage &baseline, const ConfigImage &wanted,
                         bool serialOverride = false);
 
+// The differences a plan sends, in the words of the Changes window: what the write leaves
+// alone (the version, the serial number without the override, counters that do not travel) is
+// left out.
+QList<ConfigChange> changesSent(const ConfigImage &baseline, const ConfigImage &wanted,
+                                const ChangesPlan &plan);
+
 // Why a changes write wrote nothing before it began.
 enum class ChangesRefusal
 {
@@ -55,6 +63,9 @@ struct ChangesWriteOptions
     bool askConnect = true;
     // The programming date, when the identification is written.
     QDate today = QDate::currentDate();
+    // Told the plan once the validator has been found to be the baseline's, before anything
+    // is sent.
+    std::function<void(const ChangesPlan &)> sending;
 };
 
 struct ChangesWriteResult
@@ -80,5 +91,5 @@ ChangesWriteResult changesWrite(TMonnayeur &link, const ConfigImage &baseline,
 
 // Reads back the blocks a write sent, and the identification, and compares them as the
 // verification of a full write does. Blocks not sent are taken as the baseline holds them.
-VerifyResult verifySentBlocks(TMonnayeur &link, const ConfigImage &baseline,
-                              const SentBlocks &sent, const ReadObserver &observer = {});
+VerifyResult verifySentBlocks(TMonnayeur &link, const ConfigImage &baseline, const SentBlocks &sent,
+                              const ReadObserver &observer = {});

@@ -223,16 +223,15 @@ void PtyServer::sendDue()
 
 void PtyServer::report()
 {
-    if (!m_verbose) {
-        if (!m_device->exchangeInProgress())
-            m_device->clearExchangeLog(); // a long run keeps no history
-        return;
-    }
-    // An exchange still waiting for its data block is printed once it has its index.
+    // An exchange still waiting for its data block is told once it has its index.
     const QList<SimExchange> &log = m_device->exchangeLog();
     const bool open = m_device->exchangeInProgress();
     const int complete = int(log.size()) - (open ? 1 : 0);
     for (int i = m_printedExchanges; i < complete; ++i) {
+        if (m_exchanged)
+            m_exchanged(log[i]);
+        if (!m_verbose)
+            continue;
         if (log[i].index >= 0)
             std::fprintf(stderr, "tarvik-sim: command %d, index %d\n", log[i].command,
                          log[i].index);
@@ -241,9 +240,11 @@ void PtyServer::report()
     }
     m_printedExchanges = complete;
     if (!open) {
-        m_device->clearExchangeLog();
+        m_device->clearExchangeLog(); // a long run keeps no history
         m_printedExchanges = 0;
     }
+    if (!m_verbose)
+        return;
     if (m_device->miniProgrammer() && m_device->firmwareBlocks() != m_reportedBlocks) {
         m_reportedBlocks = m_device->firmwareBlocks();
         std::fprintf(stderr, "tarvik-sim: firmware block %d\n", m_reportedBlocks);

@@ -9,6 +9,7 @@
 #include <vector>
 
 class VirtualValidator;
+struct SimExchange;
 
 // Serves a virtual validator on a pseudo-terminal, so that the program (or any serial tool)
 // can open its slave side like a real port. The server keeps its own handle on the slave, so
@@ -26,6 +27,11 @@ public:
     const QString &slavePath() const { return m_slavePath; }
     // Prints each exchange to stderr.
     void setVerbose(bool on) { m_verbose = on; }
+    // Told every exchange the device answered, once it is complete.
+    void setExchangeSink(std::function<void(const SimExchange &)> sink)
+    {
+        m_exchanged = std::move(sink);
+    }
 
     // Runs `action` on the serving loop once `after` has passed, such as a request the device
     // makes unasked. Call before serve().
@@ -60,6 +66,7 @@ private:
     int m_slave = -1;
     QString m_slavePath;
     bool m_verbose = false;
+    std::function<void(const SimExchange &)> m_exchanged;
     int m_printedExchanges = 0;
     int m_reportedBlocks = 0;
     std::vector<TimedAction> m_actions;

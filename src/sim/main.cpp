@@ -178,7 +178,12 @@ int main(int argc, char *argv[])
     const QCommandLineOption parentDeath(
         {QStringLiteral("end-with-parent")},
         QStringLiteral("End when the process that started this one ends (Linux)."));
-    parser.addOptions({window, language, parentDeath});
+    const QCommandLineOption exchanges(
+        {QStringLiteral("exchanges")},
+        QStringLiteral("On exit, write every exchange answered to FILE, one a line: the command "
+                       "code, then the channel or slice it named."),
+        QStringLiteral("file"));
+    parser.addOptions({window, language, parentDeath, exchanges});
     parser.addOptions({family,      serial,    load,     save,  line,        instant,
                        pace,        latency,   doorOpen, mini,  stopAfter,   silentAck,
                        firmwareOut, wrongEcho, refuse,   delay, silentAfter, requestFirmware,
@@ -265,6 +270,13 @@ int main(int argc, char *argv[])
 
     PtyServer server(&device, &timing);
     server.setVerbose(!parser.isSet(quiet));
+    // The exchanges answered, one a line: "3 5" is command 3 on channel 5 (-1: none named).
+    QByteArray exchangeLines;
+    if (parser.isSet(exchanges))
+        server.setExchangeSink([&exchangeLines](const SimExchange &exchange) {
+            exchangeLines += QByteArray::number(exchange.command) + ' ' +
+                             QByteArray::number(exchange.index) + '\n';
+        });
     QString error;
     if (!server.open(&error))
         return fail(QStringLiteral("cannot open a pseudo-terminal: %1").arg(error));
@@ -314,6 +326,9 @@ int main(int argc, char *argv[])
                      "tarvik-sim: line costs: %d answers, %.1f ms turnaround, %.1f ms adapter\n",
                      spent.answers, spent.turnaroundMs, spent.adapterMs);
     }
+    if (parser.isSet(exchanges) &&
+        !WholeFile::write(parser.value(exchanges), exchangeLines, &error))
+        status = fail(QStringLiteral("cannot write %1").arg(error));
     if (parser.isSet(save) && !saveConfigFile(parser.value(save), device.memory(), &error))
         status = fail(QStringLiteral("cannot save %1: %2").arg(parser.value(save), error));
     if (parser.isSet(firmwareOut)) {
