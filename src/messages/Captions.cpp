@@ -48,6 +48,7 @@ constexpr Entry kTable[] = {
     {Cap::Description, QT_TRANSLATE_NOOP("Captions", "Description :")},
     {Cap::ReadValidator, QT_TRANSLATE_NOOP("Captions", "Read validator")},
     {Cap::WriteValidator, QT_TRANSLATE_NOOP("Captions", "Write validator")},
+    {Cap::WriteChanges, QT_TRANSLATE_NOOP("Captions", "Write changes")},
     {Cap::Clone, QT_TRANSLATE_NOOP("Captions", "Clone")},
     {Cap::StoreInTables, QT_TRANSLATE_NOOP("Captions", "Store in tables")},
     {Cap::Close, QT_TRANSLATE_NOOP("Captions", "Close")},

@@ -46,6 +46,7 @@ enum class Cap
     // buttons
     ReadValidator,
     WriteValidator,
+    WriteChanges,
     Clone,
     StoreInTables,
     Close,

@@ -186,6 +186,13 @@ bool GuiEditorServices::verifyAfterWrite()
     return settings.verifyAfterWrite();
 }
 
+bool GuiEditorServices::directWrite()
+{
+    Settings settings;
+    settings.load();
+    return settings.directWrite();
+}
+
 bool GuiEditorServices::backupBeforeCloning()
 {
     Settings settings;

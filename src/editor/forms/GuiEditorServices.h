@@ -40,6 +40,7 @@ public:
     QString backupDirectory() override;
     // The "Verify" setting as the main window left it.
     bool verifyAfterWrite() override;
+    bool directWrite() override;
     // The "Back up before cloning" setting.
     bool backupBeforeCloning() override;
 

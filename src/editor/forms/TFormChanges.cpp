@@ -11,12 +11,13 @@
 
 TFormChanges::TFormChanges(ChangesModel &model, QWidget *parent)
     : QDialog(parent), m_model(model), m_since(new QLabel(this)), m_list(new QListWidget(this)),
-      m_close(new QPushButton(this))
+      m_write(new QPushButton(this)), m_close(new QPushButton(this))
 {
     setObjectName(QStringLiteral("TFormChanges"));
     m_since->setObjectName(QStringLiteral("LabelSince"));
     m_since->setWordWrap(true);
     m_list->setObjectName(QStringLiteral("ListChanges"));
+    m_write->setObjectName(QStringLiteral("BtnWriteChanges"));
     m_close->setObjectName(QStringLiteral("BtnClose"));
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->setMinimumSize(420, 260);
@@ -27,6 +28,7 @@ TFormChanges::TFormChanges(ChangesModel &model, QWidget *parent)
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
+    buttons->addWidget(m_write);
     buttons->addWidget(m_close);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_since);
@@ -36,6 +38,11 @@ TFormChanges::TFormChanges(ChangesModel &model, QWidget *parent)
     // The list is read, not worked in: the focus starts on Close.
     m_close->setFocus();
     connect(m_close, &QPushButton::clicked, this, &QDialog::accept);
+    // The editor writes once the window has closed.
+    connect(m_write, &QPushButton::clicked, this, [this] {
+        m_model.requestWrite();
+        accept();
+    });
     showModel();
 }
 
@@ -45,6 +52,9 @@ void TFormChanges::showModel()
     m_list->setAccessibleName(m_model.title());
     m_close->setText(m_model.closeCaption());
     m_close->setAccessibleName(m_model.closeCaption());
+    m_write->setText(m_model.writeCaption());
+    m_write->setAccessibleName(m_model.writeCaption());
+    m_write->setVisible(m_model.writable());
     m_since->setText(m_model.since());
     m_since->setAccessibleName(m_model.since());
     m_list->clear();

@@ -24,5 +24,6 @@ private:
     ChangesModel &m_model;
     QLabel *m_since;
     QListWidget *m_list;
+    QPushButton *m_write;
     QPushButton *m_close;
 };

@@ -62,6 +62,11 @@ QString ChangesModel::title() const
     return captionText(Cap::Changes);
 }
 
+QString ChangesModel::writeCaption() const
+{
+    return captionText(Cap::WriteChanges);
+}
+
 QString ChangesModel::closeCaption() const
 {
     return captionText(Cap::Close);

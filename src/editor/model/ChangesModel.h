@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 #include <functional>
+#include <utility>
 
 struct EditorState;
 
@@ -39,10 +40,20 @@ public:
     QString title() const;
     QString closeCaption() const;
 
+    // "Write changes": offered while the editor could write what is listed; pressing it closes
+    // the window and the editor writes.
+    void setWritable(bool writable) { m_writable = writable; }
+    bool writable() const { return m_writable && !m_changes.isEmpty(); }
+    QString writeCaption() const;
+    void requestWrite() { m_writeRequested = writable(); }
+    bool takeWriteRequest() { return std::exchange(m_writeRequested, false); }
+
 private:
     const EditorState &m_editor;
     std::function<void()> m_copyForm;
     QList<ConfigChange> m_changes;
     QList<Line> m_lines;
     QString m_since;
+    bool m_writable = false;
+    bool m_writeRequested = false;
 };

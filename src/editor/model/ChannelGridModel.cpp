@@ -184,6 +184,15 @@ int ChannelGridModel::channelIndex(const QString &name, const char *prefix)
     return channelOf(name, prefix);
 }
 
+int ChannelGridModel::channelOfBox(const QString &name)
+{
+    for (const Column &column : kColumnTable) {
+        if (const int k = channelOf(name, column.prefix); k >= 0)
+            return k;
+    }
+    return -1;
+}
+
 bool ChannelGridModel::isEnableBox(const QString &name)
 {
     return channelOf(name, kColumnTable[kEnableColumn].prefix) >= 0;

@@ -46,6 +46,8 @@ public:
     static bool isEnableBox(const QString &name);
     // The channel index of a per-channel control with the given prefix ("Value", "Sub"), or -1.
     static int channelIndex(const QString &name, const char *prefix);
+    // The channel of any of the 17 boxes of a channel's row, or -1.
+    static int channelOfBox(const QString &name);
 
 private:
     EditorState &m_s;

@@ -155,9 +155,14 @@ void EditorModel::BtnChangesClick()
 {
     exclusive([&] {
         m_changes.open();
+        showWriteChanges();
+        m_changes.setWritable(m_s.controls.state(QStringLiteral("BtnWriteChanges")).enabled);
         if (m_services)
             m_services->showChanges(m_changes);
     });
+    // The window's "Write changes" closed it: the editor writes, with its gauge.
+    if (m_changes.takeWriteRequest())
+        BtnWriteChangesClick();
 }
 
 SheetOptions EditorModel::sheetOptions() const

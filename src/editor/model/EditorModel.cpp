@@ -23,6 +23,7 @@ struct Button
 constexpr Button kButtons[] = {
     {"SpeedButton1", Cap::ReadValidator, true},
     {"SpeedButton8", Cap::WriteValidator, true},
+    {"BtnWriteChanges", Cap::WriteChanges, true},
     // Beside the write: what it would change.
     {"BtnChanges", Cap::Changes, true},
     {"SpeedButton2", Cap::Clone, true},
@@ -134,6 +135,7 @@ void EditorModel::retranslate()
 
 void EditorModel::flush()
 {
+    showWriteChanges();
     if (!m_s.controls.hasChanges())
         return;
     const QStringList names = m_s.controls.takeChanged();
@@ -401,6 +403,7 @@ bool EditorModel::type(const QString &name, const QString &text, QString *error)
     if (!isTableBox(name))
         EHFUBMIN0Change();
     m_s.controls.takeChanged(); // the box already shows what was typed
+    flush();                    // "Write changes" may have become enabled
     return true;
 }
 
@@ -415,6 +418,8 @@ bool EditorModel::leave(const QString &name, QString *error)
         return false;
     }
     exitBox(name);
+    if (const int k = ChannelGridModel::channelOfBox(name); k >= 0)
+        writeChannelAtOnce(k);
     flush();
     const QString focus = m_money.takeFocusRequest();
     if (!focus.isEmpty() && focusRequested)
@@ -474,6 +479,8 @@ bool EditorModel::click(const QString &name, QString *error)
         SpeedButton1Click();
     } else if (name == QLatin1String("SpeedButton8")) {
         SpeedButton8Click();
+    } else if (name == QLatin1String("BtnWriteChanges")) {
+        BtnWriteChangesClick();
     } else if (name == QLatin1String("SpeedButton2")) {
         SpeedButton2Click();
     } else if (name == QLatin1String("SpeedButton4")) {

@@ -80,6 +80,10 @@ public:
     void FormActivate();
     void SpeedButton1Click(); // read
     void SpeedButton8Click(); // full write
+    // Writes only what Changes lists to the validator the editor read or wrote, then reads
+    // that back; enabled while Changes lists something and the validator's configuration is
+    // known.
+    void BtnWriteChangesClick();
     void SpeedButton2Click(); // clone
     void SpeedButton4Click(); // store in the tables
     void BitBtn1Click();      // close
@@ -155,6 +159,12 @@ private:
     // when the setting is off.
     std::optional<VerifyResult> verifyAfterWrite(const SentBlocks &sent);
     void validatorHolds(const ConfigImage &image, BaselineSource::Kind kind);
+    // The changes write of wanted over what the validator holds, with its read-back; quiet:
+    // a write that went well says nothing (Direct write), only trouble shows.
+    void writeChanges(const ConfigImage &wanted, bool quiet);
+    // Direct write: the change of channel k, once its box is left.
+    void writeChannelAtOnce(int k);
+    void showWriteChanges();
     const Control *lookup(const QString &name, QString *error) const;
     bool canAct(const Control &control, QString *error) const;
     void keepBackup();

@@ -59,6 +59,9 @@ public:
     virtual QString backupDirectory() = 0;
     // The "Verify after write" switch: a write that finished is read back and compared.
     virtual bool verifyAfterWrite() { return true; }
+    // The "Direct write" switch: leaving a box of a channel's row writes that channel's change
+    // at once, and checks it.
+    virtual bool directWrite() { return false; }
     // The "Back up before cloning" switch: a clone reads the target and keeps its own
     // configuration in the backup directory before writing over it.
     virtual bool backupBeforeCloning() { return true; }

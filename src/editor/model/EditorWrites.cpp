@@ -1,5 +1,6 @@
 // The editor's writes and how each one ends: one box that says everything, after the read-back.
 #include "Captions.h"
+#include "ChangesWrite.h"
 #include "CloneTarget.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
@@ -288,4 +289,109 @@ bool EditorModel::unwrittenChangesAccepted(bool opening)
     return m_s.prompt->choose(messageText(question, {QString::number(count)}),
                               UserPrompt::Kind::Confirmation, {captionText(Cap::GoOn)},
                               captionText(Cap::CancelChoice)) == 0;
+}
+
+// ---- writing only what changed ------------------------------------------------------------
+
+void EditorModel::showWriteChanges()
+{
+    // A box typed into but not yet left counts: its exit comes before the write.
+    const bool known = m_link && m_s.baselineFrom.fromValidator();
+    m_s.controls.setEnabled(
+        QStringLiteral("BtnWriteChanges"),
+        known && (m_s.flags.editChanged || !planChanges(m_s.baseline, m_s.image).empty()));
+}
+
+void EditorModel::BtnWriteChangesClick()
+{
+    if (!m_link)
+        return;
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        if (!m_s.baselineFrom.fromValidator()) {
+            // Nothing says what the validator holds: the whole configuration is offered.
+            const QString serial = QString::number(m_s.image.serialNumber());
+            if (m_s.prompt &&
+                m_s.prompt->choose(messageText(Msg::ChangesNoBaseline, {serial}),
+                                   UserPrompt::Kind::Warning, {captionText(Cap::WriteValidator)},
+                                   captionText(Cap::CancelChoice)) == 0)
+                writeWithEnding({WriteJob::Kind::Full, {}});
+        } else {
+            writeChanges(m_s.image, false);
+        }
+        display();
+    });
+}
+
+void EditorModel::writeChannelAtOnce(int k)
+{
+    if (!m_link || m_busy || !m_services || !m_services->directWrite() ||
+        !m_s.baselineFrom.fromValidator() || k >= m_s.image.channelCount())
+        return;
+    // What the validator holds with this channel's record, value and enable bit as edited:
+    // the other changes wait for a write.
+    ConfigImage wanted = m_s.baseline;
+    const auto at = std::size_t(k);
+    std::copy_n(m_s.image.channels[at].begin(), 15, wanted.channels[at].begin());
+    wanted.values[std::size_t(Val::Channel0 + k)] = m_s.image.valueByte(k);
+    const auto byte = std::size_t(7 - k / 8);
+    const quint8 bit = quint8(1u << (k % 8));
+    wanted.enable[byte] = quint8((wanted.enable[byte] & ~bit) | (m_s.image.enable[byte] & bit));
+    if (planChanges(m_s.baseline, wanted).empty())
+        return; // left without a change: nothing to say
+    exclusive([&] { writeChanges(wanted, true); });
+}
+
+void EditorModel::writeChanges(const ConfigImage &wanted, bool quiet)
+{
+    GatheringPrompt gathered(m_s.prompt);
+    ChangesWriteResult result;
+    std::optional<VerifyResult> verified;
+    {
+        PromptSwap swap(*m_link, &gathered);
+        ChangesWriteOptions options;
+        options.serialOverride = m_s.flags.serialOverride;
+        bool shown = false;
+        WriteObserver observer;
+        observer.progress = [&](int gauge) {
+            if (!std::exchange(shown, true))
+                showProgress(true, messageText(Msg::SavingInProgress));
+            setGauge(gauge);
+            flush();
+        };
+        result = changesWrite(*m_link, m_s.baseline, wanted, options, observer);
+        showProgress(false);
+        const bool wrote =
+            result.outcome == WriteOutcome::Finished && result.refusal == ChangesRefusal::None;
+        if (wrote && (!m_services || m_services->verifyAfterWrite())) {
+            showProgress(true, messageText(Msg::VerifyingDoNotUnplug));
+            ReadObserver reading;
+            reading.progress = [&](int gauge) {
+                setGauge(gauge);
+                flush();
+            };
+            verified = verifySentBlocks(*m_link, m_s.baseline, result.sent, reading);
+            showProgress(false);
+            gathered.tell(verificationMessage(*verified, kVerificationLines),
+                          verified->outcome == VerifyOutcome::Verified
+                              ? UserPrompt::Kind::Information
+                              : UserPrompt::Kind::Warning);
+        }
+        if (wrote) {
+            if (result.plan.ident)
+                m_s.flags.serialOverride = false;
+            // The validator holds what was sent, or what the read-back found; a refused step
+            // leaves the baseline as it was, so that the next write sends it again.
+            const bool differs = verified && verified->outcome == VerifyOutcome::Mismatches;
+            if (stepsRefused(result.sent.steps).isEmpty())
+                validatorHolds(differs ? verified->readBack
+                                       : expectedAfterWrite(m_s.baseline, result.sent),
+                               BaselineSource::Kind::Written);
+            m_s.flags.configModified = !configDifferences(m_s.baseline, m_s.image).isEmpty();
+        }
+    }
+    const bool good = result.outcome == WriteOutcome::Finished &&
+                      gathered.kind() == UserPrompt::Kind::Information;
+    if (m_s.prompt && !(quiet && good) && !gathered.text().isEmpty())
+        m_s.prompt->tell(gathered.text(), gathered.kind());
 }
