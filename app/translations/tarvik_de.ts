@@ -791,6 +791,10 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>Write changes</source>
+        <translation>Änderungen schreiben</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1446,6 +1450,30 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>Der Münzprüfer hat %d Änderungen dieses Editors nicht (siehe Änderungen); das Öffnen ersetzt sie im Editor. Trotzdem öffnen?</translation>
     </message>
+    <message>
+        <source>What the validator holds is the configuration of a %s validator with %s channels, the one to write is of a %s validator with %s channels: nothing was written.</source>
+        <translation>Der Münzprüfer enthält die Konfiguration eines Münzprüfers %s mit %s Kanälen, die zu schreibende die eines Münzprüfers %s mit %s Kanälen: Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>This validator (serial %s) is not the one read (serial %s): nothing was written.</source>
+        <translation>Dieser Münzprüfer (Seriennummer %s) ist nicht der gelesene (Seriennummer %s): Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>This validator (serial %s) has %s firmware, the one read (serial %s) had %s: nothing was written.</source>
+        <translation>Dieser Münzprüfer (Seriennummer %s) hat die Firmware %s, der gelesene (Seriennummer %s) hatte %s: Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>Validator %s was programmed (%s) after what it holds was read: it was written elsewhere since. Read it again; nothing was written.</source>
+        <translation>Der Münzprüfer %s wurde (%s) programmiert, nachdem sein Inhalt gelesen wurde: Er wurde seitdem anderswo beschrieben. Lesen Sie ihn erneut; es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>The validator already holds this configuration: nothing was written.</source>
+        <translation>Der Münzprüfer enthält diese Konfiguration bereits: Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
+        <translation>Der Inhalt des Münzprüfers %s ist nicht bekannt (er wurde hier nicht gelesen): Nur die ganze Konfiguration kann geschrieben werden.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1703,10 +1731,6 @@
         <translation>&amp;Direktes Schreiben</translation>
     </message>
     <message>
-        <source>Only for calibration</source>
-        <translation>Nur für die Kalibrierung</translation>
-    </message>
-    <message>
         <source>&amp;Langage</source>
         <translation>&amp;Sprache</translation>
     </message>
@@ -1757,6 +1781,10 @@
     <message>
         <source>Reads the validator a clone writes to and keeps its own configuration among the backups first</source>
         <translation>Liest den Münzprüfer, auf den ein Klon schreibt, und sichert zuerst dessen eigene Konfiguration bei den Sicherungen</translation>
+    </message>
+    <message>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
+        <translation>Nur zur Kalibrierung: Das Verlassen eines Fenster-, Wert-, Ersatz- oder Freigabefelds eines Kanals schreibt dessen Änderung sofort in den Münzprüfer und prüft sie</translation>
     </message>
 </context>
 <context>

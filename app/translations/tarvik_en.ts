@@ -791,6 +791,10 @@
         <source>Cancel</source>
         <translation>Cancel</translation>
     </message>
+    <message>
+        <source>Write changes</source>
+        <translation>Write changes</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1446,6 +1450,30 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</translation>
     </message>
+    <message>
+        <source>What the validator holds is the configuration of a %s validator with %s channels, the one to write is of a %s validator with %s channels: nothing was written.</source>
+        <translation>What the validator holds is the configuration of a %s validator with %s channels, the one to write is of a %s validator with %s channels: nothing was written.</translation>
+    </message>
+    <message>
+        <source>This validator (serial %s) is not the one read (serial %s): nothing was written.</source>
+        <translation>This validator (serial %s) is not the one read (serial %s): nothing was written.</translation>
+    </message>
+    <message>
+        <source>This validator (serial %s) has %s firmware, the one read (serial %s) had %s: nothing was written.</source>
+        <translation>This validator (serial %s) has %s firmware, the one read (serial %s) had %s: nothing was written.</translation>
+    </message>
+    <message>
+        <source>Validator %s was programmed (%s) after what it holds was read: it was written elsewhere since. Read it again; nothing was written.</source>
+        <translation>Validator %s was programmed (%s) after what it holds was read: it was written elsewhere since. Read it again; nothing was written.</translation>
+    </message>
+    <message>
+        <source>The validator already holds this configuration: nothing was written.</source>
+        <translation>The validator already holds this configuration: nothing was written.</translation>
+    </message>
+    <message>
+        <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
+        <translation>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1703,10 +1731,6 @@
         <translation>&amp;Direct write</translation>
     </message>
     <message>
-        <source>Only for calibration</source>
-        <translation>Only for calibration</translation>
-    </message>
-    <message>
         <source>&amp;Langage</source>
         <translation>&amp;Langage</translation>
     </message>
@@ -1757,6 +1781,10 @@
     <message>
         <source>Reads the validator a clone writes to and keeps its own configuration among the backups first</source>
         <translation>Reads the validator a clone writes to and keeps its own configuration among the backups first</translation>
+    </message>
+    <message>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
+        <translation>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</translation>
     </message>
 </context>
 <context>

@@ -791,6 +791,10 @@
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>Write changes</source>
+        <translation>Écrire les modifications</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1446,6 +1450,30 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>Le monnayeur n&apos;a pas %d modifications que cet éditeur contient (voir Modifications) ; l&apos;ouverture les remplace dans l&apos;éditeur. Ouvrir quand même ?</translation>
     </message>
+    <message>
+        <source>What the validator holds is the configuration of a %s validator with %s channels, the one to write is of a %s validator with %s channels: nothing was written.</source>
+        <translation>Le monnayeur contient la configuration d&apos;un monnayeur %s à %s canaux, celle à écrire est d&apos;un monnayeur %s à %s canaux : rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>This validator (serial %s) is not the one read (serial %s): nothing was written.</source>
+        <translation>Ce monnayeur (numéro de série %s) n&apos;est pas celui qui a été lu (numéro de série %s) : rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>This validator (serial %s) has %s firmware, the one read (serial %s) had %s: nothing was written.</source>
+        <translation>Ce monnayeur (numéro de série %s) a un micrologiciel %s, celui qui a été lu (numéro de série %s) avait %s : rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>Validator %s was programmed (%s) after what it holds was read: it was written elsewhere since. Read it again; nothing was written.</source>
+        <translation>Le monnayeur %s a été programmé (%s) après la lecture de son contenu : il a été écrit ailleurs depuis. Relisez-le ; rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>The validator already holds this configuration: nothing was written.</source>
+        <translation>Le monnayeur contient déjà cette configuration : rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
+        <translation>Le contenu du monnayeur %s n&apos;est pas connu (il n&apos;a pas été lu ici) : seule la configuration entière peut être écrite.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1703,10 +1731,6 @@
         <translation>&amp;Écriture directe</translation>
     </message>
     <message>
-        <source>Only for calibration</source>
-        <translation>Uniquement pour l&apos;étalonnage</translation>
-    </message>
-    <message>
         <source>&amp;Langage</source>
         <translation>&amp;Langue</translation>
     </message>
@@ -1757,6 +1781,10 @@
     <message>
         <source>Reads the validator a clone writes to and keeps its own configuration among the backups first</source>
         <translation>Lit le monnayeur sur lequel un clonage écrit et conserve d&apos;abord sa propre configuration parmi les sauvegardes</translation>
+    </message>
+    <message>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
+        <translation>Uniquement pour l&apos;étalonnage : quitter une case de fenêtre, de valeur, de substitut ou d&apos;activation d&apos;un canal écrit aussitôt la modification de ce canal dans le monnayeur et la vérifie</translation>
     </message>
 </context>
 <context>

@@ -791,6 +791,10 @@
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
+    <message>
+        <source>Write changes</source>
+        <translation>Scrivi le modifiche</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1446,6 +1450,30 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche); l&apos;apertura le sostituisce nell&apos;editor. Aprire comunque?</translation>
     </message>
+    <message>
+        <source>What the validator holds is the configuration of a %s validator with %s channels, the one to write is of a %s validator with %s channels: nothing was written.</source>
+        <translation>La gettoniera contiene la configurazione di una gettoniera %s con %s canali, quella da scrivere è di una gettoniera %s con %s canali: non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>This validator (serial %s) is not the one read (serial %s): nothing was written.</source>
+        <translation>Questa gettoniera (numero di serie %s) non è quella letta (numero di serie %s): non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>This validator (serial %s) has %s firmware, the one read (serial %s) had %s: nothing was written.</source>
+        <translation>Questa gettoniera (numero di serie %s) ha il firmware %s, quella letta (numero di serie %s) aveva %s: non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>Validator %s was programmed (%s) after what it holds was read: it was written elsewhere since. Read it again; nothing was written.</source>
+        <translation>La gettoniera %s è stata programmata (%s) dopo la lettura del suo contenuto: da allora è stata scritta altrove. Rileggerla; non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>The validator already holds this configuration: nothing was written.</source>
+        <translation>La gettoniera contiene già questa configurazione: non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
+        <translation>Il contenuto della gettoniera %s non è noto (non è stata letta qui): si può scrivere solo l&apos;intera configurazione.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1703,10 +1731,6 @@
         <translation>Scrittura &amp;diretta</translation>
     </message>
     <message>
-        <source>Only for calibration</source>
-        <translation>Solo per la calibrazione</translation>
-    </message>
-    <message>
         <source>&amp;Langage</source>
         <translation>&amp;Lingua</translation>
     </message>
@@ -1757,6 +1781,10 @@
     <message>
         <source>Reads the validator a clone writes to and keeps its own configuration among the backups first</source>
         <translation>Legge la gettoniera su cui scrive una clonazione e conserva prima la sua configurazione tra i backup</translation>
+    </message>
+    <message>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
+        <translation>Solo per la taratura: lasciare una casella di finestra, valore, sostituto o abilitazione di un canale scrive subito la modifica di quel canale nella gettoniera e la verifica</translation>
     </message>
 </context>
 <context>

@@ -69,6 +69,7 @@ struct Icon
 constexpr Icon kIcons[] = {
     {"SpeedButton1", QStyle::SP_ArrowDown},
     {"SpeedButton8", QStyle::SP_ArrowUp},
+    {"BtnWriteChanges", QStyle::SP_DialogApplyButton},
     {"BtnChanges", QStyle::SP_FileDialogContentsView},
     {"SpeedButton2", QStyle::SP_FileLinkIcon},
     {"SpeedButton4", QStyle::SP_DriveHDIcon},
