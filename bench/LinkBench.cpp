@@ -4,10 +4,13 @@
 // own bound: the bytes' time on the wire, the turnarounds the device drew and the adapter's
 // waits (tarvik-sim reports the last two on exit). A full write followed by its read-back is
 // held to the bound of both together. Then a 100 KB firmware transfer. First, the comparison
-// the read-back ends with, on two 60-channel images that differ in a few fields.
+// the read-back ends with, on two 60-channel images that differ in a few fields. Last, one
+// changed window written with a changes write and its check, against a full write with its
+// verification of the same configuration, with the blocks each wrote.
 //
-//   build/bin/link_bench [reads] [writes] [verified writes]   (default 100, 20, 10; the
-//   writes send the last image read, so give at least one read)
+//   build/bin/link_bench [reads] [writes] [verified writes] [changes]   (default 100, 20, 10,
+//   10; the writes send the last image read, so give at least one read)
+#include "ChangesWrite.h"
 #include "ConfigImage.h"
 #include "FirmwareTransfer.h"
 #include "ReadSequence.h"
@@ -19,8 +22,10 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -238,6 +243,93 @@ void compareTwoImages()
     std::fflush(stdout);
 }
 
+// The write commands tarvik-sim answered, from its --exchanges list.
+int blocksWritten(const QString &exchanges)
+{
+    QFile file(exchanges);
+    if (!file.open(QIODevice::ReadOnly))
+        return -1;
+    int blocks = 0;
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        const int command = line.split(' ').value(0).toInt();
+        if (!line.isEmpty() && (command == 3 || command == 6 || command == 12 || command == 14 ||
+                                command == 16 || command == 18 || command == 20 || command == 22))
+            ++blocks;
+    }
+    return blocks;
+}
+
+// One window of validator 1001 changed: the changes write and its check, or the full write and
+// its verification. The seconds it took and the blocks written; negative seconds: it failed.
+std::pair<double, int> writeOneWindow(bool changes, int seed)
+{
+    QTemporaryDir dir;
+    const QString exchanges = dir.filePath(QStringLiteral("exchanges.txt"));
+    const ConfigImage holds = VirtualValidator::factoryImage(0x13, 1001);
+    ConfigImage wanted = holds;
+    wanted.channels[3][Rec::HfuLowMin] = quint8(wanted.channels[3][Rec::HfuLowMin] + 2);
+    bool ok = false;
+    double seconds = 0;
+    {
+        Sim sim({"--family", "0x13", "--serial", "1001", "--exchanges", exchanges, "--line",
+                 kLine.arg(seed)});
+        SerialTransport serial;
+        if (!serial.open(sim.path))
+            return {-1, -1};
+        PacedHostTransport port(&serial);
+        RecordingPrompt prompt;
+        TMonnayeur link(&port, &prompt);
+        QElapsedTimer clock;
+        clock.start();
+        if (changes) {
+            const ChangesWriteResult result = changesWrite(link, holds, wanted, {});
+            ok = result.outcome == WriteOutcome::Finished &&
+                 verifySentBlocks(link, holds, result.sent).outcome == VerifyOutcome::Verified;
+        } else {
+            FullWriteOptions options;
+            SentBlocks sent;
+            ok = fullWrite(link, wanted, options, {}, &sent) == WriteOutcome::Finished &&
+                 verifyWrite(link, sent).outcome == VerifyOutcome::Verified;
+        }
+        seconds = double(clock.nsecsElapsed()) / 1e9;
+        serial.close();
+        sim.stopAndCost();
+    }
+    return {ok ? seconds : -1, blocksWritten(exchanges)};
+}
+
+void compareChangesWithFullWrite(int runs)
+{
+    std::vector<double> changes, full, ratios;
+    int changedBlocks = 0, fullBlocks = 0, failed = 0;
+    for (int i = 0; i < runs; ++i) {
+        const auto [c, cBlocks] = writeOneWindow(true, 4000 + i);
+        const auto [f, fBlocks] = writeOneWindow(false, 4000 + i);
+        if (c < 0 || f < 0) {
+            ++failed;
+            continue;
+        }
+        changes.push_back(c);
+        full.push_back(f);
+        ratios.push_back(c / f);
+        changedBlocks = std::max(changedBlocks, cBlocks);
+        fullBlocks = std::max(fullBlocks, fBlocks);
+    }
+    if (ratios.empty()) {
+        std::printf("one window changed: every run failed\n");
+        return;
+    }
+    for (auto *v : {&changes, &full, &ratios})
+        std::sort(v->begin(), v->end());
+    std::printf("one window changed, %zu runs: changes write + check median %.3f s (worst %.3f), "
+                "full write + verify median %.2f s; ratio median %.3f worst %.3f "
+                "(target <= 0.05) %s; blocks written %d against %d; failed runs %d\n",
+                ratios.size(), changes[changes.size() / 2], changes.back(), full[full.size() / 2],
+                ratios[ratios.size() / 2], ratios.back(), ratios.back() <= 0.05 ? "ok" : "OVER",
+                changedBlocks, fullBlocks, failed);
+    std::fflush(stdout);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -246,6 +338,7 @@ int main(int argc, char *argv[])
     const int reads = argc > 1 ? QString::fromLocal8Bit(argv[1]).toInt() : 100;
     const int writes = argc > 2 ? QString::fromLocal8Bit(argv[2]).toInt() : 20;
     const int verified = argc > 3 ? QString::fromLocal8Bit(argv[3]).toInt() : 10;
+    const int changes = argc > 4 ? QString::fromLocal8Bit(argv[4]).toInt() : 10;
     compareTwoImages();
     std::printf("line: %s\n", qPrintable(kLine.arg(QStringLiteral("N"))));
     ConfigImage image = ConfigImage::blank();
@@ -263,6 +356,8 @@ int main(int argc, char *argv[])
         if (!run(Run::VerifiedWrite, 3000 + i, image, verifiedTally))
             return 1;
     report("write+verify", verifiedTally);
+    if (changes > 0)
+        compareChangesWithFullWrite(changes);
 
     QByteArray firmware;
     while (firmware.size() < 100 * 1024)
