@@ -9,6 +9,7 @@
 #include "VirtualValidator.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -60,10 +61,12 @@ TEST(TarvikSimProcessTest, ServesTheProtocolOverAPseudoTerminal)
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
     const QString saved = dir.filePath(QStringLiteral("memory.json"));
+    const QString exchanges = dir.filePath(QStringLiteral("exchanges.txt"));
     QProcess sim;
-    const QString path = startSim(sim, {QStringLiteral("--family"), QStringLiteral("0x03"),
-                                        QStringLiteral("--serial"), QStringLiteral("77"),
-                                        QStringLiteral("--save"), saved});
+    const QString path =
+        startSim(sim, {QStringLiteral("--family"), QStringLiteral("0x03"),
+                       QStringLiteral("--serial"), QStringLiteral("77"), QStringLiteral("--save"),
+                       saved, QStringLiteral("--exchanges"), exchanges});
     ASSERT_TRUE(path.startsWith(QStringLiteral("/dev/"))) << qPrintable(path);
 
     RecordingPrompt prompt;
@@ -93,6 +96,10 @@ TEST(TarvikSimProcessTest, ServesTheProtocolOverAPseudoTerminal)
     QString error;
     ASSERT_TRUE(loadConfigFile(saved, image, &error)) << qPrintable(error);
     EXPECT_EQ(image.serialNumber(), 43u);
+    // Every exchange it answered, with the channel it named, both rounds.
+    QFile answered(exchanges);
+    ASSERT_TRUE(answered.open(QIODevice::ReadOnly));
+    EXPECT_EQ(answered.readAll(), QByteArray("1 -1\n10 -1\n4 0\n6 -1\n").repeated(2));
 }
 
 TEST(TarvikSimProcessTest, FirmwareRequestReachesAnIdleHost)
