@@ -10,6 +10,7 @@
 #include "RecordingPrompt.h"
 #include "ResourceFiles.h"
 #include "Screenshot.h"
+#include "Settings.h"
 #include "TCommunication.h"
 #include "TConnectForm.h"
 #include "TFormAvertissementDif.h"
@@ -170,11 +171,17 @@ void ScreenshotTour::buildSteps()
         {QStringLiteral("main-window"), QStringLiteral("TFormMain"), {}, {}, {}, true},
         {QStringLiteral("virtual-validator"), QStringLiteral("SimulatorPanel"), {}, {}, {}, true},
         {QStringLiteral("editor"), editor, {}, {}, {}, true},
-        // A window box and a price edited, then what the write would change.
+        // A window box and a price edited, then what the write would change, with "Write
+        // changes". Direct write (on for the value tables' picture) would write the window at
+        // once: it is off while the boxes are edited.
         {QStringLiteral("changes"), QStringLiteral("TFormChanges"),
          [this, editor] {
+             Settings settings;
+             settings.load();
+             settings.setDirectWrite(false);
              typeInEditor(QStringLiteral("EHFUBMIN4"), QStringLiteral("150"));
              typeInEditor(QStringLiteral("Eprix1"), QStringLiteral("1.20"));
+             settings.setDirectWrite(true);
              click(editor, QStringLiteral("BtnChanges"));
          }},
         {QStringLiteral("parameters"), QStringLiteral("TFormMain"),

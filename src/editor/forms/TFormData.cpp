@@ -46,7 +46,9 @@ constexpr Place kPlaces[] = {
     {"Label3", Area::Progress},
     {"Gauge1", Area::Progress},
     {"BitBtn1", Area::Closing},
-    // The tools that open other windows sit on a second bar.
+    // The tools that open other windows sit on a second bar; the validator setting leads it,
+    // so that the first bar holds the reads and writes in every language.
+    {"BtnInit", Area::Tools},
     {"BtnLearn", Area::Tools},
     {"BtnReference", Area::Tools},
     {"BtnControl", Area::Tools},
