@@ -111,6 +111,24 @@ TEST(EditorChangesWrite, WriteChangesSendsWhatChangesListsFromTheButtonOrTheChan
     EXPECT_TRUE(b.model.flags().configModified);
 }
 
+TEST(EditorChangesWrite, WithoutAReadTheChangesWindowOffersTheWholeWrite)
+{
+    Bench b;
+    ConfigImage opened = VirtualValidator::factoryImage(0x13, 1001);
+    opened.prices[0] = 30;
+    b.model.loadImage(opened, true, BaselineSource::Kind::File, QStringLiteral("x.json"));
+    b.edit(QStringLiteral("EHFUBMIN2"), QStringLiteral("90"));
+    EXPECT_FALSE(b.canWriteChanges());
+    b.pressWrite = true;
+    ASSERT_TRUE(b.model.click(QStringLiteral("BtnChanges")));
+    EXPECT_EQ(b.listed, 1);
+    // The whole configuration went, every channel and block.
+    EXPECT_EQ(b.received(3), kChannels);
+    EXPECT_EQ(b.device.memory().channels[2][Rec::HfuLowMin], 90);
+    EXPECT_EQ(b.device.memory().prices[0], 30);
+    EXPECT_EQ(b.prompt.told(), QStringList{kDone});
+}
+
 TEST(EditorChangesWrite, DirectWriteWritesALeftChannelBoxAtOnceAndNothingElse)
 {
     Bench b;

@@ -54,7 +54,7 @@ void TFormChanges::showModel()
     m_close->setAccessibleName(m_model.closeCaption());
     m_write->setText(m_model.writeCaption());
     m_write->setAccessibleName(m_model.writeCaption());
-    m_write->setVisible(m_model.writable());
+    m_write->setVisible(m_model.offer() != ChangesModel::Offer::None);
     m_since->setText(m_model.since());
     m_since->setAccessibleName(m_model.since());
     m_list->clear();

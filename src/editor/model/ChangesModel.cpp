@@ -64,7 +64,7 @@ QString ChangesModel::title() const
 
 QString ChangesModel::writeCaption() const
 {
-    return captionText(Cap::WriteChanges);
+    return captionText(m_offer == Offer::Whole ? Cap::WriteValidator : Cap::WriteChanges);
 }
 
 QString ChangesModel::closeCaption() const

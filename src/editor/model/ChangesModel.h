@@ -40,13 +40,20 @@ public:
     QString title() const;
     QString closeCaption() const;
 
-    // "Write changes": offered while the editor could write what is listed; pressing it closes
-    // the window and the editor writes.
-    void setWritable(bool writable) { m_writable = writable; }
-    bool writable() const { return m_writable && !m_changes.isEmpty(); }
+    // The write the window offers for what it lists: "Write changes" when the editor knows
+    // what the connected validator holds, the whole write ("Write validator") when it does
+    // not. Pressing it closes the window and the editor writes.
+    enum class Offer
+    {
+        None,
+        Changes,
+        Whole
+    };
+    void setOffer(Offer offer) { m_offer = offer; }
+    Offer offer() const { return m_changes.isEmpty() ? Offer::None : m_offer; }
     QString writeCaption() const;
-    void requestWrite() { m_writeRequested = writable(); }
-    bool takeWriteRequest() { return std::exchange(m_writeRequested, false); }
+    void requestWrite() { m_requested = offer(); }
+    Offer takeWriteRequest() { return std::exchange(m_requested, Offer::None); }
 
 private:
     const EditorState &m_editor;
@@ -54,6 +61,6 @@ private:
     QList<ConfigChange> m_changes;
     QList<Line> m_lines;
     QString m_since;
-    bool m_writable = false;
-    bool m_writeRequested = false;
+    Offer m_offer = Offer::None;
+    Offer m_requested = Offer::None;
 };

@@ -156,13 +156,28 @@ void EditorModel::BtnChangesClick()
     exclusive([&] {
         m_changes.open();
         showWriteChanges();
-        m_changes.setWritable(m_s.controls.state(QStringLiteral("BtnWriteChanges")).enabled);
+        // Without a validator's configuration to count from, only the whole write can go.
+        using Offer = ChangesModel::Offer;
+        const bool known = m_s.baselineFrom.fromValidator();
+        m_changes.setOffer(!m_link ? Offer::None
+                           : known ? (m_s.controls.state(QStringLiteral("BtnWriteChanges")).enabled
+                                          ? Offer::Changes
+                                          : Offer::None)
+                                   : Offer::Whole);
         if (m_services)
             m_services->showChanges(m_changes);
     });
-    // The window's "Write changes" closed it: the editor writes, with its gauge.
-    if (m_changes.takeWriteRequest())
+    // The window's button closed it: the editor writes, with its gauge.
+    switch (m_changes.takeWriteRequest()) {
+    case ChangesModel::Offer::Changes:
         BtnWriteChangesClick();
+        break;
+    case ChangesModel::Offer::Whole:
+        SpeedButton8Click();
+        break;
+    case ChangesModel::Offer::None:
+        break;
+    }
 }
 
 SheetOptions EditorModel::sheetOptions() const

@@ -304,21 +304,12 @@ void EditorModel::showWriteChanges()
 
 void EditorModel::BtnWriteChangesClick()
 {
-    if (!m_link)
+    // Disabled while what the validator holds is not known: Changes then offers the whole write.
+    if (!m_link || !m_s.baselineFrom.fromValidator())
         return;
     exclusive([&] {
         EHFUBMIN0Exit();
-        if (!m_s.baselineFrom.fromValidator()) {
-            // Nothing says what the validator holds: the whole configuration is offered.
-            const QString serial = QString::number(m_s.image.serialNumber());
-            if (m_s.prompt &&
-                m_s.prompt->choose(messageText(Msg::ChangesNoBaseline, {serial}),
-                                   UserPrompt::Kind::Warning, {captionText(Cap::WriteValidator)},
-                                   captionText(Cap::CancelChoice)) == 0)
-                writeWithEnding({WriteJob::Kind::Full, {}});
-        } else {
-            writeChanges(m_s.image, false);
-        }
+        writeChanges(m_s.image, false);
         display();
     });
 }
