@@ -199,6 +199,25 @@ TEST_F(ChangesWrite, AnotherValidatorABaselineOfAnotherModelOrOneProgrammedSince
     EXPECT_TRUE(received.exchanges.isEmpty());
 }
 
+TEST_F(ChangesWrite, AValidatorThatFallsSilentMidWriteIsSaidToHoldWhatReachedIt)
+{
+    ConfigImage two = m_base;
+    two.channels[1][Rec::HfuLowMin] = 80;
+    two.channels[2][Rec::HfuLowMin] = 80;
+    // Silent after the connect, its identification, its version and the first channel.
+    SimProcess sim({"--family", "0x13", "--serial", "1001", "--silent-after", "4", "--exchanges",
+                    path("ex.txt")});
+    const CliRun run = runTarvikCli({"--device", sim.path(), "write", save(two, "two.json"),
+                                     "--changes", "--since", path("base.json")});
+    const Received received = stopAndCount(sim, path("ex.txt"));
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.err.contains("Fault during save operation !")) << qPrintable(run.err);
+    EXPECT_TRUE(run.err.contains("(written: Channels data (channels 2))")) << qPrintable(run.err);
+    EXPECT_FALSE(run.out.contains("Verified")) << qPrintable(run.out);
+    EXPECT_EQ(received.count(3, 1), 1);
+    EXPECT_EQ(received.writes(), 1);
+}
+
 TEST_F(ChangesWrite, WithoutSinceTheNewestReadBackupOfTheValidatorIsTheBaseline)
 {
     SimProcess sim({"--family", "0x13", "--serial", "1001"});

@@ -1,5 +1,6 @@
 // "Write changes" and Direct write in the editor, over the virtual validator: what reaches it is
 // what Changes lists, and nothing else.
+#include "ChangesWrite.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
 #include "RecordingPrompt.h"
@@ -157,6 +158,37 @@ TEST(EditorChangesWrite, DirectWriteWritesALeftChannelBoxAtOnceAndNothingElse)
     EXPECT_EQ(b.received(22), 1);
     EXPECT_EQ(b.writes(), 2);
     EXPECT_FALSE(b.device.memory().enableBit(2));
+}
+
+TEST(ChangesPlan, WhatTheValidatorCannotHoldOrKeepsAsItsOwnIsNotAChange)
+{
+    // A short record has no amplitude window: changing it changes nothing on a family 0.
+    const ConfigImage old = VirtualValidator::factoryImage(0x03, 1001);
+    ConfigImage wanted = old;
+    wanted.channels[0][Rec::AmpMax] = 12;
+    EXPECT_TRUE(planChanges(old, wanted).empty());
+    wanted.channels[0][Rec::Substitute] = 3; // byte 12 of the short record
+    EXPECT_EQ(planChanges(old, wanted).blocks(), 1);
+
+    // Counters travel only when erasable; the serial number only with the override; a value
+    // of channel 11 is in the table's first slice.
+    ConfigImage base = VirtualValidator::factoryImage(0x13, 1001);
+    wanted = base;
+    wanted.counters[1] = 9;
+    wanted.setSerialNumber(4242);
+    wanted.values[Val::Channel0 + 10] = 7;
+    ChangesPlan plan = planChanges(base, wanted);
+    EXPECT_EQ(plan.blocks(), 1);
+    EXPECT_TRUE(plan.valueSlices[0]);
+    wanted.options[1] |= 0x20;
+    plan = planChanges(base, wanted, true);
+    EXPECT_TRUE(plan.counters && plan.ident && plan.options);
+    EXPECT_EQ(plan.blocks(), 4);
+    // The lines it sends: no version, counters as they travel.
+    const QList<ConfigChange> lines = changesSent(base, wanted, plan);
+    EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [](const ConfigChange &c) {
+        return c.key == QLatin1String("ident.serial");
+    }));
 }
 
 } // namespace
