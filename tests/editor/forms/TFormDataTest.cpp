@@ -277,6 +277,52 @@ private Q_SLOTS:
         form.model().flags().configModified = false;
     }
 
+    void writeChangesFromTheToolBarAndTheChangesWindow()
+    {
+        VirtualValidator device;
+        SimTransport port(&device);
+        RecordingPrompt prompt;
+        TMonnayeur link(&port, &prompt);
+        GuiEditorServices services(prompt, nullptr);
+        TFormData form(prompt, services, &link);
+        form.model().flags().readOnOpen = true;
+        form.show();
+        QVERIFY(QTest::qWaitFor([&] { return form.hasOpened(); }));
+        auto *onBar = form.findChild<QPushButton *>(QStringLiteral("BtnWriteChanges"));
+        QVERIFY(onBar && !onBar->isEnabled());
+        // Typing is enough: the box is taken in before the write.
+        auto *edit = form.findChild<QLineEdit *>(QStringLiteral("EHFUBMIN4"));
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClicks(edit, QStringLiteral("70"));
+        QVERIFY(onBar->isEnabled());
+        QString caption;
+        QTimer::singleShot(0, &form, [&] {
+            QWidget *window = QApplication::activeModalWidget();
+            auto *write = window
+                              ? window->findChild<QPushButton *>(QStringLiteral("BtnWriteChanges"))
+                              : nullptr;
+            if (!write)
+                return;
+            caption = write->text();
+            QTest::mouseClick(write, Qt::LeftButton);
+        });
+        device.clearExchangeLog();
+        QTest::mouseClick(form.findChild<QPushButton *>(QStringLiteral("BtnChanges")),
+                          Qt::LeftButton);
+        QCOMPARE(caption, QStringLiteral("Write changes"));
+        QCOMPARE(int(device.memory().channels[4][Rec::HfuLowMin]), 70);
+        const QList<SimExchange> &log = device.exchangeLog();
+        QCOMPARE(std::count_if(log.begin(), log.end(),
+                               [](const SimExchange &e) { return e.command == Cmd::WriteChannel; }),
+                 1);
+        QCOMPARE(prompt.told().constLast(),
+                 QStringLiteral("Finished operation!\nVerified: the validator holds the "
+                                "configuration."));
+        QVERIFY(!onBar->isEnabled());
+        QVERIFY(!form.model().flags().configModified);
+    }
+
     void aFailedReadClosesTheEditor()
     {
         Editor editor;
