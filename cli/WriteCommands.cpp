@@ -26,14 +26,29 @@ WriteObserver gaugeOnTerminal(CliContext &cli)
     return observer;
 }
 
+// What a read-back found is what the validator holds: it is kept among the backups, as a read
+// is, so that the next write --changes counts from it.
+void keepReadBack(CliContext &cli, const VerifyResult &result)
+{
+    if (result.outcome == VerifyOutcome::ReadBackFailed)
+        return;
+    const QString backups =
+        DataDirectory::resolve(cli.options().dataDir) + QStringLiteral("/backups");
+    QString error;
+    if (keepBackup(backups, result.readBack, QDateTime::currentDateTime(), &error).isEmpty())
+        cli.prompt().tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
+}
+
 // After a write that finished: reads the validator back, prints what it holds against what
 // was sent, and gives the exit code (1 when it differs or could not be read back).
-int verifyCommandWrite(CliContext &cli, TMonnayeur &link, const SentBlocks &sent)
+int verifyCommandWrite(CliContext &cli, TMonnayeur &link, const SentBlocks &sent, bool keep)
 {
     ReadObserver observer;
     observer.progress = [&cli](int gauge) { cli.showProgress(messageText(Msg::Verifying), gauge); };
     const VerifyResult result = verifyWrite(link, sent, observer);
     cli.endProgress();
+    if (keep)
+        keepReadBack(cli, result);
     cli.out() << verificationMessage(result) << Qt::endl;
     return result.outcome == VerifyOutcome::Verified ? kExitOk : kExitFailed;
 }
@@ -42,11 +57,11 @@ int verifyCommandWrite(CliContext &cli, TMonnayeur &link, const SentBlocks &sent
 // step refused (the write has said which) did not give the validator everything: exit 1, with or
 // without the read-back.
 int afterWrite(CliContext &cli, TMonnayeur &link, WriteOutcome outcome, bool verify,
-               const SentBlocks &sent)
+               const SentBlocks &sent, bool keep = true)
 {
     if (outcome != WriteOutcome::Finished)
         return kExitFailed;
-    const int verified = verify ? verifyCommandWrite(cli, link, sent) : kExitOk;
+    const int verified = verify ? verifyCommandWrite(cli, link, sent, keep) : kExitOk;
     return stepsRefused(sent.steps).isEmpty() ? verified : kExitFailed;
 }
 
@@ -134,6 +149,7 @@ int writeChanges(CliContext &cli, const QString &file, const QString &since,
         };
         const VerifyResult checked = verifySentBlocks(*link, baseline, result.sent, observer);
         cli.endProgress();
+        keepReadBack(cli, checked);
         cli.out() << verificationMessage(checked) << Qt::endl;
         code = checked.outcome == VerifyOutcome::Verified ? kExitOk : kExitFailed;
     }
@@ -273,7 +289,8 @@ int cloneCommand(CliContext &cli, const QStringList &args)
     SentBlocks sent;
     const WriteOutcome outcome = cloneWrite(*link, image, groups, gaugeOnTerminal(cli), &sent);
     cli.endProgress();
-    return afterWrite(cli, *link, outcome, verify, sent);
+    // A clone keeps what its read-back found too, unless the target is not to be kept.
+    return afterWrite(cli, *link, outcome, verify, sent, backup);
 }
 
 int firmwareCommand(CliContext &cli, const QStringList &args)

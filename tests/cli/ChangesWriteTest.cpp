@@ -236,6 +236,17 @@ TEST_F(ChangesWrite, WithoutSinceTheNewestReadBackupOfTheValidatorIsTheBaseline)
     EXPECT_EQ(run.exitCode, 0) << qPrintable(run.err);
     EXPECT_TRUE(run.out.startsWith("Channel 5: DIM min ")) << qPrintable(run.out);
     EXPECT_TRUE(run.err.contains("serial1001")) << qPrintable(run.err);
+
+    // Its read-back was kept: the same file again has nothing left to write, and another
+    // change counts from what the validator now holds.
+    run = runTarvikCli({"--device", sim.path(), "write", wanted, "--changes"});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.err);
+    EXPECT_TRUE(run.err.contains("already holds this configuration")) << qPrintable(run.err);
+    window.prices[2] = 5;
+    run = runTarvikCli({"--device", sim.path(), "write", save(window, "more.json"), "--changes"});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.err);
+    EXPECT_TRUE(run.out.startsWith("Value P3: ") && run.out.contains("1 block to write"))
+        << qPrintable(run.out);
 }
 
 } // namespace

@@ -302,17 +302,17 @@ void EditorModel::SpeedButton1Click()
         m_s.flags.configModified = false;
         validatorHolds(m_s.image, BaselineSource::Kind::Read);
         m_lastRead = m_s.image;
-        keepBackup();
+        keepBackup(m_s.image);
     });
 }
 
-void EditorModel::keepBackup()
+void EditorModel::keepBackup(const ConfigImage &holds)
 {
     const QString dir = m_services ? m_services->backupDirectory() : QString();
     if (dir.isEmpty())
         return;
     QString error;
-    if (::keepBackup(dir, m_s.image, QDateTime::currentDateTime(), &error).isEmpty() && m_s.prompt)
+    if (::keepBackup(dir, holds, QDateTime::currentDateTime(), &error).isEmpty() && m_s.prompt)
         m_s.prompt->tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
 }
 

@@ -167,7 +167,9 @@ private:
     void showWriteChanges();
     const Control *lookup(const QString &name, QString *error) const;
     bool canAct(const Control &control, QString *error) const;
-    void keepBackup();
+    // Keeps what the validator holds among the backups: after a read, and after a write's
+    // read-back, so that a changes write elsewhere counts from what it holds now.
+    void keepBackup(const ConfigImage &holds);
     void exitBox(const QString &name);
     bool clickSetting(const QString &name);
     void pickType(int item);

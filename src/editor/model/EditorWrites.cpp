@@ -214,8 +214,13 @@ WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &endin
         showProgress(false);
         // The image stays the source's: Changes and the modified flag are left as they were.
         if (outcome == WriteOutcome::Finished) {
-            if (const std::optional<VerifyResult> result = verifyAfterWrite(sent))
+            if (const std::optional<VerifyResult> result = verifyAfterWrite(sent)) {
                 ending.verified(*result);
+                // The target as the clone left it, where its state before is kept.
+                if (result->outcome != VerifyOutcome::ReadBackFailed &&
+                    (!m_services || m_services->backupBeforeCloning()))
+                    keepBackup(result->readBack);
+            }
         }
         return outcome;
     }
@@ -244,6 +249,8 @@ WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &endin
     const std::optional<VerifyResult> result = verifyAfterWrite(sent);
     if (result)
         ending.verified(*result);
+    if (result && result->outcome != VerifyOutcome::ReadBackFailed)
+        keepBackup(result->readBack);
     const bool differs = result && result->outcome == VerifyOutcome::Mismatches;
     // Without the read-back, a refused step still leaves something to write again.
     const bool refused = !result && !stepsRefused(sent.steps).isEmpty();
@@ -363,6 +370,8 @@ void EditorModel::writeChanges(const ConfigImage &wanted, bool quiet)
             };
             verified = verifySentBlocks(*m_link, m_s.baseline, result.sent, reading);
             showProgress(false);
+            if (verified->outcome != VerifyOutcome::ReadBackFailed)
+                keepBackup(verified->readBack);
             gathered.tell(verificationMessage(*verified, kVerificationLines),
                           verified->outcome == VerifyOutcome::Verified
                               ? UserPrompt::Kind::Information
