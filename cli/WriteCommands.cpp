@@ -370,7 +370,7 @@ void registerWriteCommands(CliCommandTable &table)
                                  "file of another firmware family is refused unless --force; "
                                  "then reads it back and prints what it does not hold (exit 1) "
                                  "unless --no-verify. With --changes only what differs from "
-                                 "BASE (what the validator holds; by default its newest read "
+                                 "BASE (what the validator holds; by default its newest "
                                  "backup) is written, each difference printed, and only that is "
                                  "read back; a validator that is not BASE's is refused, one "
                                  "programmed since BASE unless --force"),
