@@ -1,0 +1,118 @@
+// The Batch window over its model through one validator: the in-process virtual validator is
+// plugged while the batch polls, and the window's status, table, counters, sound and log follow;
+// Stop ends the run with the window ready for the next.
+#include "BatchModel.h"
+#include "ConfigFile.h"
+#include "RecordingPrompt.h"
+#include "SimTransport.h"
+#include "SoundPlayer.h"
+#include "TFormBatch.h"
+#include "TMonnayeur.h"
+#include "VirtualValidator.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+class HeardSounds final : public SoundPlayer
+{
+public:
+    void play(Sound sound) override { heard.append(sound); }
+    QList<Sound> heard;
+};
+
+} // namespace
+
+class BatchWindowTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void oneValidatorFromPlugToUnplug();
+};
+
+void BatchWindowTest::oneValidatorFromPlugToUnplug()
+{
+    QTemporaryDir data;
+    VirtualValidator device(0x13, 1003);
+    device.setConnected(false);
+    SimTransport port(&device);
+    port.setReadTimeout(20);
+    RecordingPrompt prompt;
+    TMonnayeur link(&port, &prompt);
+
+    ConfigImage source = VirtualValidator::factoryImage(0x13, 1000);
+    source.prices = PriceBlock{0x11, 0x12, 0x13, 0x14, 0x15, 0x16};
+    BatchModel::Sources sources;
+    sources.editorImage = source;
+    sources.dataDirectory = data.path();
+    HeardSounds sounds;
+    BatchModel model(&link, &prompt, &sounds, sources);
+    QList<BatchValidatorResult> results;
+    model.validatorDone = [&](const BatchValidatorResult &done) { results.append(done); };
+    TFormBatch form(model);
+    form.show();
+
+    auto *status = form.findChild<QLabel *>(QStringLiteral("LblStatus"));
+    auto *start = form.findChild<QPushButton *>(QStringLiteral("BtnStart"));
+    auto *stop = form.findChild<QPushButton *>(QStringLiteral("BtnStop"));
+    auto *close = form.findChild<QPushButton *>(QStringLiteral("BtnClose"));
+    auto *grid = form.findChild<QTableWidget *>(QStringLiteral("GridDone"));
+    QVERIFY(status && start && stop && close && grid);
+    QVERIFY(!stop->isEnabled());
+    QVERIFY(!grid->accessibleName().isEmpty());
+
+    QTest::mouseClick(start, Qt::LeftButton);
+    QTRY_COMPARE(status->text(), QStringLiteral("Plug the next validator"));
+    QVERIFY(!close->isEnabled());
+    QVERIFY(!start->isEnabled());
+    QVERIFY(results.isEmpty());
+
+    device.setConnected(true);
+    QTRY_COMPARE_WITH_TIMEOUT(status->text(), QStringLiteral("1003 verified: unplug it"), 60000);
+    QCOMPARE(grid->rowCount(), 1);
+    QCOMPARE(grid->item(0, 1)->text(), QStringLiteral("1003"));
+    QCOMPARE(grid->item(0, 3)->text(), QStringLiteral("Verified"));
+    QCOMPARE(grid->item(0, 3)->background().color(),
+             BatchModel::resultColour(BatchResult::Verified));
+    QCOMPARE(form.findChild<QLabel *>(QStringLiteral("LblVerified"))->text(),
+             QStringLiteral("Verified: 1"));
+    QCOMPARE(sounds.heard, QList<Sound>{Sound::Coin});
+    // Nothing was asked of anybody: the run's messages went to its log.
+    QVERIFY2(prompt.all().isEmpty(), qPrintable(prompt.all().join(u'\n')));
+
+    // The one place where the result is known: what it holds now, and its backup.
+    QCOMPARE(results.size(), 1);
+    QVERIFY(results[0].holds);
+    QCOMPARE(results[0].holds->prices, source.prices);
+    QCOMPARE(device.memory().prices, source.prices);
+    QCOMPARE(device.memory().serialNumber(), 1003u);
+    ConfigImage backup;
+    QVERIFY(loadConfigFile(results[0].backupFile, backup, nullptr));
+    QCOMPARE(backup.prices, VirtualValidator::factoryImage(0x13, 1003).prices);
+
+    // The log's row was on the disk as soon as the result showed.
+    QFile log(model.logPath());
+    QVERIFY(model.logPath().startsWith(QDir(data.path()).filePath(QStringLiteral("batches/"))));
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    const QStringList rows = QString::fromUtf8(log.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(rows.size(), 2);
+    QVERIFY2(rows[1].contains(QStringLiteral(",1003,0x13,verified,")), qPrintable(rows[1]));
+
+    // Unplugged, the next one is asked for; Stop ends the run and the settings come back.
+    device.setConnected(false);
+    QTRY_COMPARE(status->text(), QStringLiteral("Plug the next validator"));
+    QTest::mouseClick(stop, Qt::LeftButton);
+    QTRY_COMPARE(status->text(),
+                 QStringLiteral("Batch finished: 1 verified, 0 failed, 0 skipped."));
+    QVERIFY(start->isEnabled());
+    QVERIFY(close->isEnabled());
+    QVERIFY(!stop->isEnabled());
+}
+
+QTEST_MAIN(BatchWindowTest)
+#include "BatchWindowTest.moc"
