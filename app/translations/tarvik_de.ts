@@ -791,6 +791,122 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>Batch...</source>
+        <translation>Serie...</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Serie</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>The editor&apos;s configuration</source>
+        <translation>Die Konfiguration des Editors</translation>
+    </message>
+    <message>
+        <source>A configuration file</source>
+        <translation>Eine Konfigurationsdatei</translation>
+    </message>
+    <message>
+        <source>A saved validator</source>
+        <translation>Ein gespeicherter Münzprüfer</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>What to write</source>
+        <translation>Was geschrieben wird</translation>
+    </message>
+    <message>
+        <source>Full write (every block, as Write)</source>
+        <translation>Vollständig schreiben (alle Blöcke, wie Schreiben)</translation>
+    </message>
+    <message>
+        <source>How many (0: until Stop) :</source>
+        <translation>Wie viele (0: bis Anhalten) :</translation>
+    </message>
+    <message>
+        <source>Write a validator again when it comes back</source>
+        <translation>Einen wiederkehrenden Münzprüfer erneut schreiben</translation>
+    </message>
+    <message>
+        <source>A sound for each result</source>
+        <translation>Ein Ton für jedes Ergebnis</translation>
+    </message>
+    <message>
+        <source>A configuration sheet for each (PDF, beside the log)</source>
+        <translation>Ein Konfigurationsblatt für jeden (PDF, neben dem Protokoll)</translation>
+    </message>
+    <message>
+        <source>Verified: %d</source>
+        <translation>Geprüft: %d</translation>
+    </message>
+    <message>
+        <source>Failed: %d</source>
+        <translation>Fehlgeschlagen: %d</translation>
+    </message>
+    <message>
+        <source>Skipped: %d</source>
+        <translation>Übersprungen: %d</translation>
+    </message>
+    <message>
+        <source>Log: %s</source>
+        <translation>Protokoll: %s</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familie</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Einzelheiten</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>Geprüft</translation>
+    </message>
+    <message>
+        <source>Differs</source>
+        <translation>Abweichend</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Already done</source>
+        <translation>Bereits erledigt</translation>
+    </message>
+    <message>
+        <source>Other family</source>
+        <translation>Andere Familie</translation>
+    </message>
+    <message>
+        <source>Validators done</source>
+        <translation>Bearbeitete Münzprüfer</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1446,6 +1562,98 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>Der Münzprüfer hat %d Änderungen dieses Editors nicht (siehe Änderungen); das Öffnen ersetzt sie im Editor. Trotzdem öffnen?</translation>
     </message>
+    <message>
+        <source>Plug the next validator</source>
+        <translation>Den nächsten Münzprüfer anschließen</translation>
+    </message>
+    <message>
+        <source>Validator found: reading its identification...</source>
+        <translation>Münzprüfer gefunden: seine Kennung wird gelesen...</translation>
+    </message>
+    <message>
+        <source>Writing %s...</source>
+        <translation>%s wird geschrieben...</translation>
+    </message>
+    <message>
+        <source>Verifying %s...</source>
+        <translation>%s wird geprüft...</translation>
+    </message>
+    <message>
+        <source>%s verified: unplug it</source>
+        <translation>%s geprüft: abziehen</translation>
+    </message>
+    <message>
+        <source>%s does not hold what was written: unplug it</source>
+        <translation>%s enthält nicht, was geschrieben wurde: abziehen</translation>
+    </message>
+    <message>
+        <source>%s failed: unplug it</source>
+        <translation>%s fehlgeschlagen: abziehen</translation>
+    </message>
+    <message>
+        <source>%s was already done: unplug it</source>
+        <translation>%s war bereits erledigt: abziehen</translation>
+    </message>
+    <message>
+        <source>%s is of another family: unplug it</source>
+        <translation>%s gehört zu einer anderen Familie: abziehen</translation>
+    </message>
+    <message>
+        <source>Batch finished: %d verified, %d failed, %d skipped.</source>
+        <translation>Serie beendet: %d geprüft, %d fehlgeschlagen, %d übersprungen.</translation>
+    </message>
+    <message>
+        <source>No validator was plugged for %d s: the batch stopped.</source>
+        <translation>Seit %d s wurde kein Münzprüfer angeschlossen: die Serie wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>The batch log could not be written (%s): the batch stopped.</source>
+        <translation>Das Protokoll der Serie konnte nicht geschrieben werden (%s): die Serie wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>Already verified in this batch at %s: not written again.</source>
+        <translation>In dieser Serie bereits um %s geprüft: nicht erneut geschrieben.</translation>
+    </message>
+    <message>
+        <source>A %s validator, the configuration is for %s: nothing was written.</source>
+        <translation>Ein Münzprüfer %s, die Konfiguration ist für %s: nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be read: nothing was written.</source>
+        <translation>Seine eigene Konfiguration konnte nicht gelesen werden: nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be kept (%s): nothing was written.</source>
+        <translation>Seine eigene Konfiguration konnte nicht aufbewahrt werden (%s): nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>It no longer answered before the write: nothing was written.</source>
+        <translation>Er antwortete vor dem Schreiben nicht mehr: nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Written, but it could not be read back to verify it.</source>
+        <translation>Geschrieben, aber er konnte zur Prüfung nicht zurückgelesen werden.</translation>
+    </message>
+    <message>
+        <source>No validator is stored as %s.</source>
+        <translation>Kein Münzprüfer ist als %s gespeichert.</translation>
+    </message>
+    <message>
+        <source>Choose at least one group to write, or the full write.</source>
+        <translation>Mindestens eine Gruppe zum Schreiben wählen, oder das vollständige Schreiben.</translation>
+    </message>
+    <message>
+        <source>How many validators: a number from 0 to 9999.</source>
+        <translation>Wie viele Münzprüfer: eine Zahl von 0 bis 9999.</translation>
+    </message>
+    <message>
+        <source>Choose the configuration to write.</source>
+        <translation>Die zu schreibende Konfiguration wählen.</translation>
+    </message>
+    <message>
+        <source>The configuration sheet could not be written: %s</source>
+        <translation>Das Konfigurationsblatt konnte nicht geschrieben werden: %s</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1548,6 +1756,14 @@
     <message>
         <source>Pause in replies (ms)</source>
         <translation>Pause in Antworten (ms)</translation>
+    </message>
+    <message>
+        <source>Unplug</source>
+        <translation>Abziehen</translation>
+    </message>
+    <message>
+        <source>Plug in this serial</source>
+        <translation>Diese Seriennummer anschließen</translation>
     </message>
 </context>
 <context>

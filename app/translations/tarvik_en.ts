@@ -791,6 +791,122 @@
         <source>Cancel</source>
         <translation>Cancel</translation>
     </message>
+    <message>
+        <source>Batch...</source>
+        <translation>Batch...</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Batch</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>The editor&apos;s configuration</source>
+        <translation>The editor&apos;s configuration</translation>
+    </message>
+    <message>
+        <source>A configuration file</source>
+        <translation>A configuration file</translation>
+    </message>
+    <message>
+        <source>A saved validator</source>
+        <translation>A saved validator</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Browse...</translation>
+    </message>
+    <message>
+        <source>What to write</source>
+        <translation>What to write</translation>
+    </message>
+    <message>
+        <source>Full write (every block, as Write)</source>
+        <translation>Full write (every block, as Write)</translation>
+    </message>
+    <message>
+        <source>How many (0: until Stop) :</source>
+        <translation>How many (0: until Stop) :</translation>
+    </message>
+    <message>
+        <source>Write a validator again when it comes back</source>
+        <translation>Write a validator again when it comes back</translation>
+    </message>
+    <message>
+        <source>A sound for each result</source>
+        <translation>A sound for each result</translation>
+    </message>
+    <message>
+        <source>A configuration sheet for each (PDF, beside the log)</source>
+        <translation>A configuration sheet for each (PDF, beside the log)</translation>
+    </message>
+    <message>
+        <source>Verified: %d</source>
+        <translation>Verified: %d</translation>
+    </message>
+    <message>
+        <source>Failed: %d</source>
+        <translation>Failed: %d</translation>
+    </message>
+    <message>
+        <source>Skipped: %d</source>
+        <translation>Skipped: %d</translation>
+    </message>
+    <message>
+        <source>Log: %s</source>
+        <translation>Log: %s</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Family</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Seconds</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detail</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>Verified</translation>
+    </message>
+    <message>
+        <source>Differs</source>
+        <translation>Differs</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Failed</translation>
+    </message>
+    <message>
+        <source>Already done</source>
+        <translation>Already done</translation>
+    </message>
+    <message>
+        <source>Other family</source>
+        <translation>Other family</translation>
+    </message>
+    <message>
+        <source>Validators done</source>
+        <translation>Validators done</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1446,6 +1562,98 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</translation>
     </message>
+    <message>
+        <source>Plug the next validator</source>
+        <translation>Plug the next validator</translation>
+    </message>
+    <message>
+        <source>Validator found: reading its identification...</source>
+        <translation>Validator found: reading its identification...</translation>
+    </message>
+    <message>
+        <source>Writing %s...</source>
+        <translation>Writing %s...</translation>
+    </message>
+    <message>
+        <source>Verifying %s...</source>
+        <translation>Verifying %s...</translation>
+    </message>
+    <message>
+        <source>%s verified: unplug it</source>
+        <translation>%s verified: unplug it</translation>
+    </message>
+    <message>
+        <source>%s does not hold what was written: unplug it</source>
+        <translation>%s does not hold what was written: unplug it</translation>
+    </message>
+    <message>
+        <source>%s failed: unplug it</source>
+        <translation>%s failed: unplug it</translation>
+    </message>
+    <message>
+        <source>%s was already done: unplug it</source>
+        <translation>%s was already done: unplug it</translation>
+    </message>
+    <message>
+        <source>%s is of another family: unplug it</source>
+        <translation>%s is of another family: unplug it</translation>
+    </message>
+    <message>
+        <source>Batch finished: %d verified, %d failed, %d skipped.</source>
+        <translation>Batch finished: %d verified, %d failed, %d skipped.</translation>
+    </message>
+    <message>
+        <source>No validator was plugged for %d s: the batch stopped.</source>
+        <translation>No validator was plugged for %d s: the batch stopped.</translation>
+    </message>
+    <message>
+        <source>The batch log could not be written (%s): the batch stopped.</source>
+        <translation>The batch log could not be written (%s): the batch stopped.</translation>
+    </message>
+    <message>
+        <source>Already verified in this batch at %s: not written again.</source>
+        <translation>Already verified in this batch at %s: not written again.</translation>
+    </message>
+    <message>
+        <source>A %s validator, the configuration is for %s: nothing was written.</source>
+        <translation>A %s validator, the configuration is for %s: nothing was written.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be read: nothing was written.</source>
+        <translation>Its own configuration could not be read: nothing was written.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be kept (%s): nothing was written.</source>
+        <translation>Its own configuration could not be kept (%s): nothing was written.</translation>
+    </message>
+    <message>
+        <source>It no longer answered before the write: nothing was written.</source>
+        <translation>It no longer answered before the write: nothing was written.</translation>
+    </message>
+    <message>
+        <source>Written, but it could not be read back to verify it.</source>
+        <translation>Written, but it could not be read back to verify it.</translation>
+    </message>
+    <message>
+        <source>No validator is stored as %s.</source>
+        <translation>No validator is stored as %s.</translation>
+    </message>
+    <message>
+        <source>Choose at least one group to write, or the full write.</source>
+        <translation>Choose at least one group to write, or the full write.</translation>
+    </message>
+    <message>
+        <source>How many validators: a number from 0 to 9999.</source>
+        <translation>How many validators: a number from 0 to 9999.</translation>
+    </message>
+    <message>
+        <source>Choose the configuration to write.</source>
+        <translation>Choose the configuration to write.</translation>
+    </message>
+    <message>
+        <source>The configuration sheet could not be written: %s</source>
+        <translation>The configuration sheet could not be written: %s</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1548,6 +1756,14 @@
     <message>
         <source>Pause in replies (ms)</source>
         <translation>Pause in replies (ms)</translation>
+    </message>
+    <message>
+        <source>Unplug</source>
+        <translation>Unplug</translation>
+    </message>
+    <message>
+        <source>Plug in this serial</source>
+        <translation>Plug in this serial</translation>
     </message>
 </context>
 <context>

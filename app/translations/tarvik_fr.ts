@@ -791,6 +791,122 @@
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>Batch...</source>
+        <translation>Série...</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Série</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>The editor&apos;s configuration</source>
+        <translation>La configuration de l&apos;éditeur</translation>
+    </message>
+    <message>
+        <source>A configuration file</source>
+        <translation>Un fichier de configuration</translation>
+    </message>
+    <message>
+        <source>A saved validator</source>
+        <translation>Un monnayeur enregistré</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message>
+        <source>What to write</source>
+        <translation>Ce qui est écrit</translation>
+    </message>
+    <message>
+        <source>Full write (every block, as Write)</source>
+        <translation>Écriture complète (tous les blocs, comme Écrire)</translation>
+    </message>
+    <message>
+        <source>How many (0: until Stop) :</source>
+        <translation>Combien (0 : jusqu&apos;à Arrêter) :</translation>
+    </message>
+    <message>
+        <source>Write a validator again when it comes back</source>
+        <translation>Réécrire un monnayeur qui revient</translation>
+    </message>
+    <message>
+        <source>A sound for each result</source>
+        <translation>Un son pour chaque résultat</translation>
+    </message>
+    <message>
+        <source>A configuration sheet for each (PDF, beside the log)</source>
+        <translation>Une fiche de configuration pour chacun (PDF, à côté du journal)</translation>
+    </message>
+    <message>
+        <source>Verified: %d</source>
+        <translation>Vérifiés : %d</translation>
+    </message>
+    <message>
+        <source>Failed: %d</source>
+        <translation>Échoués : %d</translation>
+    </message>
+    <message>
+        <source>Skipped: %d</source>
+        <translation>Sautés : %d</translation>
+    </message>
+    <message>
+        <source>Log: %s</source>
+        <translation>Journal : %s</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Famille</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondes</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Détail</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>Vérifié</translation>
+    </message>
+    <message>
+        <source>Differs</source>
+        <translation>Diffère</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échoué</translation>
+    </message>
+    <message>
+        <source>Already done</source>
+        <translation>Déjà fait</translation>
+    </message>
+    <message>
+        <source>Other family</source>
+        <translation>Autre famille</translation>
+    </message>
+    <message>
+        <source>Validators done</source>
+        <translation>Monnayeurs traités</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1446,6 +1562,98 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>Le monnayeur n&apos;a pas %d modifications que cet éditeur contient (voir Modifications) ; l&apos;ouverture les remplace dans l&apos;éditeur. Ouvrir quand même ?</translation>
     </message>
+    <message>
+        <source>Plug the next validator</source>
+        <translation>Branchez le monnayeur suivant</translation>
+    </message>
+    <message>
+        <source>Validator found: reading its identification...</source>
+        <translation>Monnayeur trouvé : lecture de son identification...</translation>
+    </message>
+    <message>
+        <source>Writing %s...</source>
+        <translation>Écriture de %s...</translation>
+    </message>
+    <message>
+        <source>Verifying %s...</source>
+        <translation>Vérification de %s...</translation>
+    </message>
+    <message>
+        <source>%s verified: unplug it</source>
+        <translation>%s vérifié : débranchez-le</translation>
+    </message>
+    <message>
+        <source>%s does not hold what was written: unplug it</source>
+        <translation>%s ne contient pas ce qui a été écrit : débranchez-le</translation>
+    </message>
+    <message>
+        <source>%s failed: unplug it</source>
+        <translation>%s a échoué : débranchez-le</translation>
+    </message>
+    <message>
+        <source>%s was already done: unplug it</source>
+        <translation>%s était déjà fait : débranchez-le</translation>
+    </message>
+    <message>
+        <source>%s is of another family: unplug it</source>
+        <translation>%s est d&apos;une autre famille : débranchez-le</translation>
+    </message>
+    <message>
+        <source>Batch finished: %d verified, %d failed, %d skipped.</source>
+        <translation>Série terminée : %d vérifiés, %d échoués, %d sautés.</translation>
+    </message>
+    <message>
+        <source>No validator was plugged for %d s: the batch stopped.</source>
+        <translation>Aucun monnayeur branché depuis %d s : la série s&apos;est arrêtée.</translation>
+    </message>
+    <message>
+        <source>The batch log could not be written (%s): the batch stopped.</source>
+        <translation>Le journal de la série n&apos;a pas pu être écrit (%s) : la série s&apos;est arrêtée.</translation>
+    </message>
+    <message>
+        <source>Already verified in this batch at %s: not written again.</source>
+        <translation>Déjà vérifié dans cette série à %s : pas réécrit.</translation>
+    </message>
+    <message>
+        <source>A %s validator, the configuration is for %s: nothing was written.</source>
+        <translation>Un monnayeur %s, la configuration est pour %s : rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be read: nothing was written.</source>
+        <translation>Sa propre configuration n&apos;a pas pu être lue : rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be kept (%s): nothing was written.</source>
+        <translation>Sa propre configuration n&apos;a pas pu être conservée (%s) : rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>It no longer answered before the write: nothing was written.</source>
+        <translation>Il ne répondait plus avant l&apos;écriture : rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>Written, but it could not be read back to verify it.</source>
+        <translation>Écrit, mais il n&apos;a pas pu être relu pour le vérifier.</translation>
+    </message>
+    <message>
+        <source>No validator is stored as %s.</source>
+        <translation>Aucun monnayeur n&apos;est enregistré sous %s.</translation>
+    </message>
+    <message>
+        <source>Choose at least one group to write, or the full write.</source>
+        <translation>Choisissez au moins un groupe à écrire, ou l&apos;écriture complète.</translation>
+    </message>
+    <message>
+        <source>How many validators: a number from 0 to 9999.</source>
+        <translation>Combien de monnayeurs : un nombre de 0 à 9999.</translation>
+    </message>
+    <message>
+        <source>Choose the configuration to write.</source>
+        <translation>Choisissez la configuration à écrire.</translation>
+    </message>
+    <message>
+        <source>The configuration sheet could not be written: %s</source>
+        <translation>La fiche de configuration n&apos;a pas pu être écrite : %s</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1548,6 +1756,14 @@
     <message>
         <source>Pause in replies (ms)</source>
         <translation>Pause dans les réponses (ms)</translation>
+    </message>
+    <message>
+        <source>Unplug</source>
+        <translation>Débrancher</translation>
+    </message>
+    <message>
+        <source>Plug in this serial</source>
+        <translation>Brancher ce numéro de série</translation>
     </message>
 </context>
 <context>

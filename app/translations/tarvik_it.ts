@@ -791,6 +791,122 @@
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
+    <message>
+        <source>Batch...</source>
+        <translation>Serie...</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Serie</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Origine</translation>
+    </message>
+    <message>
+        <source>The editor&apos;s configuration</source>
+        <translation>La configurazione dell&apos;editor</translation>
+    </message>
+    <message>
+        <source>A configuration file</source>
+        <translation>Un file di configurazione</translation>
+    </message>
+    <message>
+        <source>A saved validator</source>
+        <translation>Una gettoniera salvata</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia...</translation>
+    </message>
+    <message>
+        <source>What to write</source>
+        <translation>Cosa scrivere</translation>
+    </message>
+    <message>
+        <source>Full write (every block, as Write)</source>
+        <translation>Scrittura completa (tutti i blocchi, come Scrivi)</translation>
+    </message>
+    <message>
+        <source>How many (0: until Stop) :</source>
+        <translation>Quante (0: fino a Ferma) :</translation>
+    </message>
+    <message>
+        <source>Write a validator again when it comes back</source>
+        <translation>Riscrivere una gettoniera che ritorna</translation>
+    </message>
+    <message>
+        <source>A sound for each result</source>
+        <translation>Un suono per ogni risultato</translation>
+    </message>
+    <message>
+        <source>A configuration sheet for each (PDF, beside the log)</source>
+        <translation>Una scheda di configurazione per ciascuna (PDF, accanto al registro)</translation>
+    </message>
+    <message>
+        <source>Verified: %d</source>
+        <translation>Verificate: %d</translation>
+    </message>
+    <message>
+        <source>Failed: %d</source>
+        <translation>Fallite: %d</translation>
+    </message>
+    <message>
+        <source>Skipped: %d</source>
+        <translation>Saltate: %d</translation>
+    </message>
+    <message>
+        <source>Log: %s</source>
+        <translation>Registro: %s</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Famiglia</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondi</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Dettaglio</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>Verificata</translation>
+    </message>
+    <message>
+        <source>Differs</source>
+        <translation>Differisce</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fallita</translation>
+    </message>
+    <message>
+        <source>Already done</source>
+        <translation>Già fatta</translation>
+    </message>
+    <message>
+        <source>Other family</source>
+        <translation>Altra famiglia</translation>
+    </message>
+    <message>
+        <source>Validators done</source>
+        <translation>Gettoniere trattate</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1446,6 +1562,98 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche); l&apos;apertura le sostituisce nell&apos;editor. Aprire comunque?</translation>
     </message>
+    <message>
+        <source>Plug the next validator</source>
+        <translation>Collegare la gettoniera successiva</translation>
+    </message>
+    <message>
+        <source>Validator found: reading its identification...</source>
+        <translation>Gettoniera trovata: lettura della sua identificazione...</translation>
+    </message>
+    <message>
+        <source>Writing %s...</source>
+        <translation>Scrittura di %s...</translation>
+    </message>
+    <message>
+        <source>Verifying %s...</source>
+        <translation>Verifica di %s...</translation>
+    </message>
+    <message>
+        <source>%s verified: unplug it</source>
+        <translation>%s verificata: scollegarla</translation>
+    </message>
+    <message>
+        <source>%s does not hold what was written: unplug it</source>
+        <translation>%s non contiene ciò che è stato scritto: scollegarla</translation>
+    </message>
+    <message>
+        <source>%s failed: unplug it</source>
+        <translation>%s fallita: scollegarla</translation>
+    </message>
+    <message>
+        <source>%s was already done: unplug it</source>
+        <translation>%s era già fatta: scollegarla</translation>
+    </message>
+    <message>
+        <source>%s is of another family: unplug it</source>
+        <translation>%s è di un&apos;altra famiglia: scollegarla</translation>
+    </message>
+    <message>
+        <source>Batch finished: %d verified, %d failed, %d skipped.</source>
+        <translation>Serie terminata: %d verificate, %d fallite, %d saltate.</translation>
+    </message>
+    <message>
+        <source>No validator was plugged for %d s: the batch stopped.</source>
+        <translation>Nessuna gettoniera collegata da %d s: la serie si è fermata.</translation>
+    </message>
+    <message>
+        <source>The batch log could not be written (%s): the batch stopped.</source>
+        <translation>Il registro della serie non ha potuto essere scritto (%s): la serie si è fermata.</translation>
+    </message>
+    <message>
+        <source>Already verified in this batch at %s: not written again.</source>
+        <translation>Già verificata in questa serie alle %s: non riscritta.</translation>
+    </message>
+    <message>
+        <source>A %s validator, the configuration is for %s: nothing was written.</source>
+        <translation>Una gettoniera %s, la configurazione è per %s: non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be read: nothing was written.</source>
+        <translation>La sua configurazione non ha potuto essere letta: non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be kept (%s): nothing was written.</source>
+        <translation>La sua configurazione non ha potuto essere conservata (%s): non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>It no longer answered before the write: nothing was written.</source>
+        <translation>Non rispondeva più prima della scrittura: non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>Written, but it could not be read back to verify it.</source>
+        <translation>Scritta, ma non ha potuto essere riletta per verificarla.</translation>
+    </message>
+    <message>
+        <source>No validator is stored as %s.</source>
+        <translation>Nessuna gettoniera è salvata come %s.</translation>
+    </message>
+    <message>
+        <source>Choose at least one group to write, or the full write.</source>
+        <translation>Scegliere almeno un gruppo da scrivere, o la scrittura completa.</translation>
+    </message>
+    <message>
+        <source>How many validators: a number from 0 to 9999.</source>
+        <translation>Quante gettoniere: un numero da 0 a 9999.</translation>
+    </message>
+    <message>
+        <source>Choose the configuration to write.</source>
+        <translation>Scegliere la configurazione da scrivere.</translation>
+    </message>
+    <message>
+        <source>The configuration sheet could not be written: %s</source>
+        <translation>La scheda di configurazione non ha potuto essere scritta: %s</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>
@@ -1548,6 +1756,14 @@
     <message>
         <source>Pause in replies (ms)</source>
         <translation>Pausa nelle risposte (ms)</translation>
+    </message>
+    <message>
+        <source>Unplug</source>
+        <translation>Scollega</translation>
+    </message>
+    <message>
+        <source>Plug in this serial</source>
+        <translation>Collega questo numero di serie</translation>
     </message>
 </context>
 <context>
