@@ -194,6 +194,11 @@ void BatchModel::showRun()
     c.setText(name("LblStatus"), m_run ? m_run->status() : QString());
     c.setAccessibleName(name("LblStatus"), c.state(name("LblStatus")).text);
     c.setVisible(name("Gauge"), busy);
+    // The gauge belongs to the validator in hand: empty while the batch waits.
+    const bool working =
+        m_run && (m_run->phase() == BatchPhase::Writing || m_run->phase() == BatchPhase::Verifying);
+    if (!working)
+        c.setValue(name("Gauge"), 0);
     const int verified = m_run ? m_run->verified() : 0;
     const int failed = m_run ? m_run->failed() : 0;
     const int skipped = m_run ? m_run->skipped() : 0;

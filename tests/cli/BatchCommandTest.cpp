@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QThread>
+#include <csignal>
 #include <gtest/gtest.h>
 
 namespace {
@@ -40,11 +41,24 @@ public:
             m_process.waitForReadyRead(200);
         return QString::fromUtf8(m_process.readLine()).trimmed();
     }
+    // Waits until the standard error has said text.
+    bool waitForErr(const QString &text, int timeoutMs = 60000)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        while (!m_err.contains(text) && clock.elapsed() < timeoutMs &&
+               m_process.state() != QProcess::NotRunning) {
+            m_process.waitForReadyRead(100);
+            m_err += QString::fromUtf8(m_process.readAllStandardError());
+        }
+        return m_err.contains(text);
+    }
+    void signal(int number) { ::kill(pid_t(m_process.processId()), number); }
     int finish()
     {
         if (!m_process.waitForFinished(30000))
             return -1;
-        m_err = QString::fromUtf8(m_process.readAllStandardError());
+        m_err += QString::fromUtf8(m_process.readAllStandardError());
         return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
     }
     const QString &err() const { return m_err; }
@@ -190,6 +204,44 @@ TEST_F(BatchCommand, StopsWhenNoneIsPluggedAndRefusesWhatItCannotDo)
     EXPECT_EQ(runInProcess({"batch", file}).code, kExitUsage);
     EXPECT_EQ(runInProcess({"batch", file, "--full", "--groups", "prices"}).code, kExitUsage);
     EXPECT_EQ(runInProcess({"batch", file, "--groups", "coins"}).code, kExitUsage);
+}
+
+TEST_F(BatchCommand, CtrlCFinishesTheOneInHandAndAKillKeepsTheRowsWritten)
+{
+    const QString file = path("source.json");
+    ASSERT_TRUE(saveConfigFile(file, VirtualValidator::factoryImage(0x13, 1000), nullptr));
+    const QString log = path("stopped.csv");
+    SimProcess sim({"--family", "0x13", "--serial", "1"});
+    sim.send("unplug");
+    {
+        BatchProcess batch({"--port-timeout", "100", "--device", sim.path(), "batch", file,
+                            "--groups", "channels,prices", "--log", log});
+        sim.send("plug 2001 0x13");
+        // Ctrl+C in the middle of the write: the validator is finished, then the batch ends.
+        ASSERT_TRUE(batch.waitForErr(QStringLiteral("Writing 2001...")));
+        batch.signal(SIGINT);
+        EXPECT_TRUE(batch.nextLine().startsWith(QStringLiteral("2001 verified ")));
+        EXPECT_EQ(batch.finish(), 0) << qPrintable(batch.err());
+        EXPECT_TRUE(batch.err().contains("Batch finished: 1 verified, 0 failed, 0 skipped."))
+            << qPrintable(batch.err());
+    }
+    {
+        // Killed outright while it waits: every row it printed is in the log.
+        BatchProcess batch({"--port-timeout", "100", "--device", sim.path(), "batch", file,
+                            "--groups", "prices", "--log", log});
+        sim.send("unplug");
+        pause();
+        sim.send("plug 2002 0x13");
+        EXPECT_TRUE(batch.nextLine().startsWith(QStringLiteral("2002 verified ")));
+        batch.signal(SIGKILL);
+        batch.finish();
+    }
+    QFile csv(log);
+    ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
+    const QStringList rows = QString::fromUtf8(csv.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(rows.size(), 3) << qPrintable(rows.join(u'\n'));
+    EXPECT_TRUE(rows[1].contains(QStringLiteral(",2001,0x13,verified,")));
+    EXPECT_TRUE(rows[2].contains(QStringLiteral(",2002,0x13,verified,")));
 }
 
 } // namespace

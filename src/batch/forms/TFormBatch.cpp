@@ -133,6 +133,8 @@ void TFormBatch::build()
     grid->horizontalHeader()->setStretchLastSection(true);
     auto *logLabel = make<QLabel>(QStringLiteral("LblLog"));
     logLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // A long path does not widen the window; its tip holds it whole.
+    logLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto *right = new QVBoxLayout;
     right->addWidget(status);
     right->addWidget(make<QProgressBar>(QStringLiteral("Gauge")));
@@ -185,6 +187,7 @@ void TFormBatch::repaint(const QStringList &names)
                 edit->setText(state.text);
         } else if (auto *label = qobject_cast<QLabel *>(widget)) {
             label->setText(state.text);
+            label->setToolTip(state.text);
         } else if (auto *group = qobject_cast<QGroupBox *>(widget)) {
             group->setTitle(state.text);
         } else if (auto *combo = qobject_cast<QComboBox *>(widget)) {
