@@ -10,8 +10,11 @@
 #include "TMonnayeur.h"
 #include "VirtualValidator.h"
 
+#include <QAccessible>
+#include <QComboBox>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -64,7 +67,19 @@ void BatchWindowTest::oneValidatorFromPlugToUnplug()
     auto *grid = form.findChild<QTableWidget *>(QStringLiteral("GridDone"));
     QVERIFY(status && start && stop && close && grid);
     QVERIFY(!stop->isEnabled());
-    QVERIFY(!grid->accessibleName().isEmpty());
+    // A screen reader names every control.
+    const QList<QWidget *> widgets = form.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        // The table's own parts (its corner button) are the table's.
+        const bool control = qobject_cast<QAbstractButton *>(widget) ||
+                             qobject_cast<QLineEdit *>(widget) ||
+                             qobject_cast<QComboBox *>(widget) || widget == grid;
+        if (!control || widget->objectName().isEmpty())
+            continue;
+        QAccessibleInterface *face = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY(face);
+        QVERIFY2(!face->text(QAccessible::Name).isEmpty(), qPrintable(widget->objectName()));
+    }
 
     QTest::mouseClick(start, Qt::LeftButton);
     QTRY_COMPARE(status->text(), QStringLiteral("Plug the next validator"));
