@@ -230,14 +230,16 @@ void BatchModel::tell(const QString &text)
 
 void BatchModel::type(const QString &control, const QString &text)
 {
-    if (control == QLatin1String("ESourceFile") || control == QLatin1String("ECount"))
+    if ((control == QLatin1String("ESourceFile") || control == QLatin1String("ECount")) &&
+        m_controls.state(control).enabled)
         m_controls.setText(control, text);
     flush();
 }
 
 void BatchModel::pick(const QString &control, int item)
 {
-    if (control == QLatin1String("GroupSource") || control == QLatin1String("CbSaved")) {
+    if ((control == QLatin1String("GroupSource") || control == QLatin1String("CbSaved")) &&
+        m_controls.state(control).enabled) {
         m_controls.setItemIndex(control, item);
         showSource();
     }
@@ -246,6 +248,9 @@ void BatchModel::pick(const QString &control, int item)
 
 void BatchModel::click(const QString &control)
 {
+    // A control that is not offered does nothing (a setting while the batch runs).
+    if (!m_controls.contains(control) || !m_controls.state(control).enabled)
+        return;
     if (control == QLatin1String("BtnStart")) {
         start();
     } else if (control == QLatin1String("BtnStop")) {

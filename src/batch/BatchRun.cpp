@@ -132,8 +132,11 @@ void BatchRun::identify()
     VersionBlock version{};
     if (!m_link.ReadBlock(Cmd::ReadIdent, ident.data()) ||
         !m_link.ReadBlock(Cmd::ReadVersion, version.data())) {
-        // Still being plugged in, or gone again: it is looked for anew.
-        enter(BatchPhase::WaitingForValidator);
+        // Still being plugged in, or gone again: it is looked for anew, and the time without
+        // a validator goes on counting.
+        m_phase = BatchPhase::WaitingForValidator;
+        if (changed)
+            changed();
         return;
     }
     ConfigImage theirs = ConfigImage::blank();

@@ -36,6 +36,7 @@ class BatchWindowTest : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void oneValidatorFromPlugToUnplug();
+    void whatCannotStartSaysWhyAndStartsNothing();
 };
 
 void BatchWindowTest::oneValidatorFromPlugToUnplug()
@@ -127,6 +128,63 @@ void BatchWindowTest::oneValidatorFromPlugToUnplug()
     QVERIFY(start->isEnabled());
     QVERIFY(close->isEnabled());
     QVERIFY(!stop->isEnabled());
+}
+
+void BatchWindowTest::whatCannotStartSaysWhyAndStartsNothing()
+{
+    QTemporaryDir data;
+    VirtualValidator device(0x13, 1003);
+    SimTransport port(&device);
+    RecordingPrompt prompt;
+    TMonnayeur link(&port, &prompt);
+    BatchModel::Sources sources;
+    sources.dataDirectory = data.path();
+    sources.saved = {QStringLiteral("SHOP-12"), QStringLiteral("GONE")};
+    sources.loadSaved = [](const QString &identification, ConfigImage &image, QString *) {
+        image = VirtualValidator::factoryImage(0x13, 1000);
+        return identification == QLatin1String("SHOP-12");
+    };
+    sources.chooseFile = [] { return QStringLiteral("/nowhere/route.json"); };
+    BatchModel model(&link, &prompt, nullptr, sources);
+    // Without the editor's configuration, a file is asked for.
+    QCOMPARE(model.control(QStringLiteral("GroupSource")).itemIndex, 1);
+
+    auto refused = [&](const QString &why) {
+        prompt.clear();
+        model.click(QStringLiteral("BtnStart"));
+        QVERIFY(!model.running());
+        QCOMPARE(prompt.told().size(), 1);
+        QVERIFY2(prompt.told().first().contains(why), qPrintable(prompt.told().first()));
+    };
+    refused(QStringLiteral("Choose the configuration to write."));
+    model.click(QStringLiteral("BtnBrowse"));
+    QCOMPARE(model.control(QStringLiteral("ESourceFile")).text,
+             QStringLiteral("/nowhere/route.json"));
+    refused(QStringLiteral("/nowhere/route.json"));
+    model.pick(QStringLiteral("GroupSource"), 2);
+    QVERIFY(model.control(QStringLiteral("CbSaved")).visible);
+    QVERIFY(!model.control(QStringLiteral("ESourceFile")).visible);
+    model.pick(QStringLiteral("CbSaved"), 1);
+    refused(QStringLiteral("No validator is stored as GONE."));
+    model.pick(QStringLiteral("CbSaved"), 0);
+    for (const char *group : {"ChkChannels", "ChkValues", "ChkPrices", "ChkConfig", "ChkEnable"})
+        model.click(QLatin1String(group));
+    refused(QStringLiteral("Choose at least one group to write, or the full write."));
+    // The full write needs no group; the groups are then not offered.
+    model.click(QStringLiteral("ChkFull"));
+    QVERIFY(!model.control(QStringLiteral("ChkPrices")).enabled);
+    model.type(QStringLiteral("ECount"), QStringLiteral("many"));
+    refused(QStringLiteral("How many validators: a number from 0 to 9999."));
+    model.type(QStringLiteral("ECount"), QStringLiteral("2"));
+    prompt.clear();
+    model.click(QStringLiteral("BtnStart"));
+    QVERIFY(model.running());
+    QVERIFY(prompt.told().isEmpty());
+    QVERIFY(model.logPath().contains(QStringLiteral("-SHOP-12.csv")));
+    QVERIFY(!model.control(QStringLiteral("GroupSource")).enabled);
+    // The settings stay as they were while it runs.
+    model.click(QStringLiteral("ChkFull"));
+    QVERIFY(model.control(QStringLiteral("ChkFull")).checked);
 }
 
 QTEST_MAIN(BatchWindowTest)

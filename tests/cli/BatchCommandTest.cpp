@@ -200,6 +200,17 @@ TEST_F(BatchCommand, StopsWhenNoneIsPluggedAndRefusesWhatItCannotDo)
     EXPECT_EQ(idle.exitCode, 1) << qPrintable(idle.err);
     EXPECT_TRUE(idle.out.isEmpty());
     EXPECT_TRUE(idle.err.contains("No validator was plugged for 1 s")) << qPrintable(idle.err);
+    // The full write onto one validator, and onto one of another family (refused).
+    sim.send("plug 2005 0x13");
+    const CliRun full = runTarvikCli(
+        {"--port-timeout", "100", "--device", sim.path(), "batch", file, "--full", "--count", "1"});
+    EXPECT_EQ(full.exitCode, 0) << qPrintable(full.err);
+    EXPECT_TRUE(full.out.startsWith("2005 verified ")) << qPrintable(full.out);
+    sim.send("plug 3005 0x23");
+    const CliRun other = runTarvikCli(
+        {"--port-timeout", "100", "--device", sim.path(), "batch", file, "--full", "--count", "1"});
+    EXPECT_EQ(other.exitCode, 1) << qPrintable(other.err);
+    EXPECT_TRUE(other.out.startsWith("3005 wrong-family ")) << qPrintable(other.out);
     // Neither --groups nor --full, or both: a usage error before anything is opened.
     EXPECT_EQ(runInProcess({"batch", file}).code, kExitUsage);
     EXPECT_EQ(runInProcess({"batch", file, "--full", "--groups", "prices"}).code, kExitUsage);
