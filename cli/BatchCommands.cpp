@@ -33,17 +33,32 @@ public:
     InterruptStopsBatch()
     {
         g_interrupted = 0;
+#ifdef Q_OS_WIN
+        m_previous = std::signal(SIGINT, onInterrupt);
+#else
         struct sigaction action = {};
         action.sa_handler = onInterrupt;
         sigemptyset(&action.sa_mask);
         action.sa_flags = SA_RESTART; // an exchange in progress goes on
         sigaction(SIGINT, &action, &m_previous);
+#endif
     }
-    ~InterruptStopsBatch() { sigaction(SIGINT, &m_previous, nullptr); }
+    ~InterruptStopsBatch()
+    {
+#ifdef Q_OS_WIN
+        std::signal(SIGINT, m_previous);
+#else
+        sigaction(SIGINT, &m_previous, nullptr);
+#endif
+    }
     Q_DISABLE_COPY_MOVE(InterruptStopsBatch)
 
 private:
+#ifdef Q_OS_WIN
+    void (*m_previous)(int) = SIG_DFL;
+#else
     struct sigaction m_previous = {};
+#endif
 };
 
 struct BatchArguments
