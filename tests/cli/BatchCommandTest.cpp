@@ -202,10 +202,14 @@ TEST_F(BatchCommand, StopsWhenNoneIsPluggedAndRefusesWhatItCannotDo)
     EXPECT_TRUE(idle.err.contains("No validator was plugged for 1 s")) << qPrintable(idle.err);
     // The full write onto one validator, and onto one of another family (refused).
     sim.send("plug 2005 0x13");
-    const CliRun full = runTarvikCli(
-        {"--port-timeout", "100", "--device", sim.path(), "batch", file, "--full", "--count", "1"});
+    const CliRun full = runTarvikCli({"--port-timeout", "100", "--device", sim.path(), "batch",
+                                      file, "--full", "--count", "1", "--sheets", path("sheets")});
     EXPECT_EQ(full.exitCode, 0) << qPrintable(full.err);
     EXPECT_TRUE(full.out.startsWith("2005 verified ")) << qPrintable(full.out);
+    // Its configuration sheet, under its serial number.
+    QFile sheet(path("sheets/2005.pdf"));
+    ASSERT_TRUE(sheet.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(sheet.read(5) == "%PDF-");
     sim.send("plug 3005 0x23");
     const CliRun other = runTarvikCli(
         {"--port-timeout", "100", "--device", sim.path(), "batch", file, "--full", "--count", "1"});
