@@ -30,6 +30,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <cstdio>
 
 namespace {
@@ -284,11 +285,81 @@ void ScreenshotTour::buildSteps()
          [this] { (new TConnectForm(m_editor))->show(); },
          {},
          [](QWidget *window) { window->close(); }},
+        // A batch during its run: the editor's configuration onto the validator, another one,
+        // then the first again (already done); the validator in place is put back after.
+        {QStringLiteral("batch"), QStringLiteral("TFormBatch"),
+         [this, editor] {
+             m_batchMemory = m_device->memory();
+             click(editor, QStringLiteral("BtnBatch"));
+         },
+         [this](QWidget *window) { return batchRunUntil(window, 3); },
+         [this](QWidget *window) { endBatch(window); }},
         // Last, as it writes to the validator: a write whose enable mask the validator refuses
         // ends at 100, and the read-back says what it does not hold.
         {QStringLiteral("verification"), QStringLiteral("VerificationMessage"),
-         [this, editor] { pictureVerification(editor); }},
+         [this, editor] { afterBatchWindow([this, editor] { pictureVerification(editor); }); }},
     };
+    // Three validators written and read back at the line's pace.
+    for (Step &step : m_steps) {
+        if (step.picture == QLatin1String("batch"))
+            step.timeoutMs = 120000;
+    }
+}
+
+bool ScreenshotTour::batchRunUntil(QWidget *window, int rows)
+{
+    m_batchWindow = window;
+    auto *grid = window->findChild<QTableWidget *>(QStringLiteral("GridDone"));
+    auto *start = window->findChild<QAbstractButton *>(QStringLiteral("BtnStart"));
+    auto *stop = window->findChild<QAbstractButton *>(QStringLiteral("BtnStop"));
+    if (!grid || !start || !stop)
+        return false;
+    if (!stop->isEnabled()) {
+        if (grid->rowCount() == 0 && start->isEnabled())
+            start->click();
+        return false;
+    }
+    // Each validator is taken away once its result shows, and the next one plugged in when the
+    // batch asks for it: 1002, then 1001 again.
+    if (m_device->connected() && grid->rowCount() > m_batchSwaps && m_batchSwaps + 1 < rows) {
+        ++m_batchSwaps;
+        m_device->setConnected(false);
+        return false;
+    }
+    auto *status = window->findChild<QLabel *>(QStringLiteral("LblStatus"));
+    if (!m_device->connected() && status && status->text() == messageText(Msg::BatchPlugNext)) {
+        m_device->setMemory(m_batchSwaps == 1 ? VirtualValidator::factoryImage(0x13, 1002)
+                                              : m_batchMemory);
+        m_device->setConnected(true);
+        return false;
+    }
+    return grid->rowCount() >= rows;
+}
+
+void ScreenshotTour::endBatch(QWidget *window)
+{
+    if (auto *stop = window->findChild<QAbstractButton *>(QStringLiteral("BtnStop"));
+        stop && stop->isEnabled())
+        stop->click();
+    // The run ends at its next step; then the window closes and the validator is as it was.
+    auto *close = window->findChild<QAbstractButton *>(QStringLiteral("BtnClose"));
+    if (close && close->isEnabled()) {
+        close->click();
+        m_device->setMemory(m_batchMemory);
+        m_device->setConnected(true);
+        return;
+    }
+    QTimer::singleShot(kPollMs, window, [this, window] { endBatch(window); });
+}
+
+void ScreenshotTour::afterBatchWindow(const std::function<void()> &then)
+{
+    // Gone, not only hidden: the editor's button that opened it has returned.
+    if (m_batchWindow) {
+        QTimer::singleShot(kPollMs, this, [this, then] { afterBatchWindow(then); });
+        return;
+    }
+    then();
 }
 
 QWidget *ScreenshotTour::shownWindow(const QString &objectName) const

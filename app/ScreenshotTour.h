@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ConfigImage.h"
+
 #include <QElapsedTimer>
 #include <QList>
 #include <QObject>
@@ -81,6 +83,11 @@ private:
     void typeInEditor(const QString &control, const QString &text);
     void pictureSheet();
     void pictureVerification(const QString &editor);
+    // The Batch window runs until it shows `rows` validators, plugging them in turn.
+    bool batchRunUntil(QWidget *window, int rows);
+    void endBatch(QWidget *window);
+    // Runs `then` once the Batch window no longer exists.
+    void afterBatchWindow(const std::function<void()> &then);
 
     QString m_directory;
     TFormMain *m_main;
@@ -100,4 +107,8 @@ private:
     QString m_largest; // the window with the most area, "NAME WxH"
     int m_largestArea = 0;
     bool m_finished = false;
+    // The validator in place before the batch, put back after it.
+    ConfigImage m_batchMemory = ConfigImage::blank();
+    int m_batchSwaps = 0;
+    QPointer<QWidget> m_batchWindow;
 };

@@ -124,6 +124,7 @@ void registerProfileCommands(CliCommandTable &table);
 void registerRepairCommands(CliCommandTable &table);
 void registerDiffCommands(CliCommandTable &table);
 void registerSheetCommands(CliCommandTable &table);
+void registerBatchCommands(CliCommandTable &table);
 
 // Runs tarvik-cli with the arguments after the program name.
 int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,

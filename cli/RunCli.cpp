@@ -131,6 +131,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerRepairCommands(table);
     registerDiffCommands(table);
     registerSheetCommands(table);
+    registerBatchCommands(table);
 
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {

@@ -17,7 +17,8 @@ int main(int argc, char *argv[])
     const QString command = cliCommandName(arguments);
     const bool drawing =
         command == QLatin1String("sheet") ||
-        (command == QLatin1String("overlap") && arguments.contains(QLatin1String("--chart")));
+        (command == QLatin1String("overlap") && arguments.contains(QLatin1String("--chart"))) ||
+        (command == QLatin1String("batch") && arguments.contains(QLatin1String("--sheets")));
     std::unique_ptr<QCoreApplication> app;
     if (drawing) {
         qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -592,7 +592,7 @@
         <translation>gesperrt</translation>
     </message>
     <message>
-        <source>Option &apos;%s&apos;</source>
+        <source>Option '%s'</source>
         <translation>Option „%s“</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>vom Münzprüfer abgelehnt</translation>
     </message>
     <message>
-        <source>Validator&apos;s own block</source>
+        <source>Validator's own block</source>
         <translation>Eigener Block des Münzprüfers</translation>
     </message>
     <message>
@@ -795,6 +795,122 @@
         <source>Write changes</source>
         <translation>Änderungen schreiben</translation>
     </message>
+<message>
+        <source>Batch...</source>
+        <translation>Serie...</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Serie</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>The editor's configuration</source>
+        <translation>Die Konfiguration des Editors</translation>
+    </message>
+    <message>
+        <source>A configuration file</source>
+        <translation>Eine Konfigurationsdatei</translation>
+    </message>
+    <message>
+        <source>A saved validator</source>
+        <translation>Ein gespeicherter Münzprüfer</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>What to write</source>
+        <translation>Was geschrieben wird</translation>
+    </message>
+    <message>
+        <source>Full write (every block, as Write)</source>
+        <translation>Vollständig schreiben (alle Blöcke, wie Schreiben)</translation>
+    </message>
+    <message>
+        <source>How many (0: until Stop) :</source>
+        <translation>Wie viele (0: bis Anhalten) :</translation>
+    </message>
+    <message>
+        <source>Write a validator again when it comes back</source>
+        <translation>Einen wiederkehrenden Münzprüfer erneut schreiben</translation>
+    </message>
+    <message>
+        <source>A sound for each result</source>
+        <translation>Ein Ton für jedes Ergebnis</translation>
+    </message>
+    <message>
+        <source>A configuration sheet for each (PDF, beside the log)</source>
+        <translation>Ein Konfigurationsblatt für jeden (PDF, neben dem Protokoll)</translation>
+    </message>
+    <message>
+        <source>Verified: %d</source>
+        <translation>Geprüft: %d</translation>
+    </message>
+    <message>
+        <source>Failed: %d</source>
+        <translation>Fehlgeschlagen: %d</translation>
+    </message>
+    <message>
+        <source>Skipped: %d</source>
+        <translation>Übersprungen: %d</translation>
+    </message>
+    <message>
+        <source>Log: %s</source>
+        <translation>Protokoll: %s</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familie</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Einzelheiten</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>Geprüft</translation>
+    </message>
+    <message>
+        <source>Differs</source>
+        <translation>Abweichend</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Already done</source>
+        <translation>Bereits erledigt</translation>
+    </message>
+    <message>
+        <source>Other family</source>
+        <translation>Andere Familie</translation>
+    </message>
+    <message>
+        <source>Validators done</source>
+        <translation>Bearbeitete Münzprüfer</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -811,7 +927,7 @@
         <translation>Lesefehler vom Münzprüfer</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <source>Comunication Port COM%d isn't free or Setting error.</source>
         <translation>Der Kommunikationsanschluss COM%d ist nicht frei oder falsch eingestellt.</translation>
     </message>
     <message>
@@ -879,8 +995,8 @@
         <translation>Wert unter dem Minimum, er wird korrigiert.</translation>
     </message>
     <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; ist kein gültiger Ganzzahlwert</translation>
+        <source>'%s' is not a valid integer value</source>
+        <translation>'%s' ist kein gültiger Ganzzahlwert</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -1011,7 +1127,7 @@
         <translation>Aktualisierung... Bitte warten !</translation>
     </message>
     <message>
-        <source>Don&apos;t Stop or disconnect !!!</source>
+        <source>Don't Stop or disconnect !!!</source>
         <translation>Nicht abbrechen oder trennen !!!</translation>
     </message>
     <message>
@@ -1111,7 +1227,7 @@
         <translation>Schlüssel %s fehlt oder passt nicht zu seinem Feld</translation>
     </message>
     <message>
-        <source>its language driver differs from the table&apos;s</source>
+        <source>its language driver differs from the table's</source>
         <translation>sein Sprachtreiber weicht von dem der Tabelle ab</translation>
     </message>
     <message>
@@ -1287,11 +1403,11 @@
         <translation>Der Datenträger meldete einen Fehler (%s): es wurde nichts geschrieben</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>„%s“ kann nicht in %s gespeichert werden: seine Codepage kennt %s nicht. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>„%s“ ist zu lang für %s: es fasst höchstens %s Zeichen. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
@@ -1419,19 +1535,19 @@
         <translation>Überschneidung mit %s</translation>
     </message>
     <message>
-        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
+        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
         <translation>Die eigene Konfiguration des Münzprüfers konnte vor dem Klonen nicht gelesen werden: nichts wurde geklont.</translation>
     </message>
     <message>
-        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
         <translation>Die eigene Konfiguration des Münzprüfers konnte vor dem Klonen nicht gesichert werden: %s. Trotzdem klonen?</translation>
     </message>
     <message>
-        <source>The validator&apos;s own configuration was kept in %s.</source>
+        <source>The validator's own configuration was kept in %s.</source>
         <translation>Die eigene Konfiguration des Münzprüfers wurde in %s gesichert.</translation>
     </message>
     <message>
-        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
+        <source>Windows corrected for this validator's sensors: %s.</source>
         <translation>Fenster für die Sensoren dieses Münzprüfers korrigiert: %s.</translation>
     </message>
     <message>
@@ -1473,6 +1589,98 @@
     <message>
         <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
         <translation>Der Inhalt des Münzprüfers %s ist nicht bekannt (er wurde hier nicht gelesen): Nur die ganze Konfiguration kann geschrieben werden.</translation>
+    </message>
+<message>
+        <source>Plug the next validator</source>
+        <translation>Den nächsten Münzprüfer anschließen</translation>
+    </message>
+    <message>
+        <source>Validator found: reading its identification...</source>
+        <translation>Münzprüfer gefunden: seine Kennung wird gelesen...</translation>
+    </message>
+    <message>
+        <source>Writing %s...</source>
+        <translation>%s wird geschrieben...</translation>
+    </message>
+    <message>
+        <source>Verifying %s...</source>
+        <translation>%s wird geprüft...</translation>
+    </message>
+    <message>
+        <source>%s verified: unplug it</source>
+        <translation>%s geprüft: abziehen</translation>
+    </message>
+    <message>
+        <source>%s does not hold what was written: unplug it</source>
+        <translation>%s enthält nicht, was geschrieben wurde: abziehen</translation>
+    </message>
+    <message>
+        <source>%s failed: unplug it</source>
+        <translation>%s fehlgeschlagen: abziehen</translation>
+    </message>
+    <message>
+        <source>%s was already done: unplug it</source>
+        <translation>%s war bereits erledigt: abziehen</translation>
+    </message>
+    <message>
+        <source>%s is of another family: unplug it</source>
+        <translation>%s gehört zu einer anderen Familie: abziehen</translation>
+    </message>
+    <message>
+        <source>Batch finished: %d verified, %d failed, %d skipped.</source>
+        <translation>Serie beendet: %d geprüft, %d fehlgeschlagen, %d übersprungen.</translation>
+    </message>
+    <message>
+        <source>No validator was plugged for %d s: the batch stopped.</source>
+        <translation>Seit %d s wurde kein Münzprüfer angeschlossen: die Serie wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>The batch log could not be written (%s): the batch stopped.</source>
+        <translation>Das Protokoll der Serie konnte nicht geschrieben werden (%s): die Serie wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>Already verified in this batch at %s: not written again.</source>
+        <translation>In dieser Serie bereits um %s geprüft: nicht erneut geschrieben.</translation>
+    </message>
+    <message>
+        <source>A %s validator, the configuration is for %s: nothing was written.</source>
+        <translation>Ein Münzprüfer %s, die Konfiguration ist für %s: nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be read: nothing was written.</source>
+        <translation>Seine eigene Konfiguration konnte nicht gelesen werden: nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be kept (%s): nothing was written.</source>
+        <translation>Seine eigene Konfiguration konnte nicht aufbewahrt werden (%s): nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>It no longer answered before the write: nothing was written.</source>
+        <translation>Er antwortete vor dem Schreiben nicht mehr: nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Written, but it could not be read back to verify it.</source>
+        <translation>Geschrieben, aber er konnte zur Prüfung nicht zurückgelesen werden.</translation>
+    </message>
+    <message>
+        <source>No validator is stored as %s.</source>
+        <translation>Kein Münzprüfer ist als %s gespeichert.</translation>
+    </message>
+    <message>
+        <source>Choose at least one group to write, or the full write.</source>
+        <translation>Mindestens eine Gruppe zum Schreiben wählen, oder das vollständige Schreiben.</translation>
+    </message>
+    <message>
+        <source>How many validators: a number from 0 to 9999.</source>
+        <translation>Wie viele Münzprüfer: eine Zahl von 0 bis 9999.</translation>
+    </message>
+    <message>
+        <source>Choose the configuration to write.</source>
+        <translation>Die zu schreibende Konfiguration wählen.</translation>
+    </message>
+    <message>
+        <source>The configuration sheet could not be written: %s</source>
+        <translation>Das Konfigurationsblatt konnte nicht geschrieben werden: %s</translation>
     </message>
 </context>
 <context>
@@ -1576,6 +1784,14 @@
     <message>
         <source>Pause in replies (ms)</source>
         <translation>Pause in Antworten (ms)</translation>
+    </message>
+<message>
+        <source>Unplug</source>
+        <translation>Abziehen</translation>
+    </message>
+    <message>
+        <source>Plug in this serial</source>
+        <translation>Diese Seriennummer anschließen</translation>
     </message>
 </context>
 <context>
@@ -1763,7 +1979,7 @@
         <translation>Port-&amp;Zeitlimit...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
+        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
         <translation>Wie lange auf das erste Byte des Prüfers gewartet wird: für Bluetooth- oder Funk-Seriell-Adapter erhöhen</translation>
     </message>
     <message>
@@ -1771,7 +1987,7 @@
         <translation>Port-Zeitlimit</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
+        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
         <translation>Wartezeit auf das Echo der Anzahl oder das erste Byte einer Antwort, in Millisekunden (Vorgabe %1):</translation>
     </message>
     <message>
@@ -1783,10 +1999,14 @@
         <translation>Liest den Münzprüfer, auf den ein Klon schreibt, und sichert zuerst dessen eigene Konfiguration bei den Sicherungen</translation>
     </message>
     <message>
-        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel's change to the validator at once and checks it</source>
         <translation>Nur zur Kalibrierung: Das Verlassen eines Fenster-, Wert-, Ersatz- oder Freigabefelds eines Kanals schreibt dessen Änderung sofort in den Münzprüfer und prüft sie</translation>
     </message>
-</context>
+<message>
+        <source>Only for calibration</source>
+        <translation>Nur für die Kalibrierung</translation>
+    </message>
+    </context>
 <context>
     <name>TFormProfilC</name>
     <message>

@@ -592,8 +592,8 @@
         <translation>disabled</translation>
     </message>
     <message>
-        <source>Option &apos;%s&apos;</source>
-        <translation>Option &apos;%s&apos;</translation>
+        <source>Option '%s'</source>
+        <translation>Option '%s'</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -684,8 +684,8 @@
         <translation>refused by the validator</translation>
     </message>
     <message>
-        <source>Validator&apos;s own block</source>
-        <translation>Validator&apos;s own block</translation>
+        <source>Validator's own block</source>
+        <translation>Validator's own block</translation>
     </message>
     <message>
         <source>%s (channels %s)</source>
@@ -795,6 +795,122 @@
         <source>Write changes</source>
         <translation>Write changes</translation>
     </message>
+<message>
+        <source>Batch...</source>
+        <translation>Batch...</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Batch</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>The editor's configuration</source>
+        <translation>The editor's configuration</translation>
+    </message>
+    <message>
+        <source>A configuration file</source>
+        <translation>A configuration file</translation>
+    </message>
+    <message>
+        <source>A saved validator</source>
+        <translation>A saved validator</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Browse...</translation>
+    </message>
+    <message>
+        <source>What to write</source>
+        <translation>What to write</translation>
+    </message>
+    <message>
+        <source>Full write (every block, as Write)</source>
+        <translation>Full write (every block, as Write)</translation>
+    </message>
+    <message>
+        <source>How many (0: until Stop) :</source>
+        <translation>How many (0: until Stop) :</translation>
+    </message>
+    <message>
+        <source>Write a validator again when it comes back</source>
+        <translation>Write a validator again when it comes back</translation>
+    </message>
+    <message>
+        <source>A sound for each result</source>
+        <translation>A sound for each result</translation>
+    </message>
+    <message>
+        <source>A configuration sheet for each (PDF, beside the log)</source>
+        <translation>A configuration sheet for each (PDF, beside the log)</translation>
+    </message>
+    <message>
+        <source>Verified: %d</source>
+        <translation>Verified: %d</translation>
+    </message>
+    <message>
+        <source>Failed: %d</source>
+        <translation>Failed: %d</translation>
+    </message>
+    <message>
+        <source>Skipped: %d</source>
+        <translation>Skipped: %d</translation>
+    </message>
+    <message>
+        <source>Log: %s</source>
+        <translation>Log: %s</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Family</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Seconds</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detail</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>Verified</translation>
+    </message>
+    <message>
+        <source>Differs</source>
+        <translation>Differs</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Failed</translation>
+    </message>
+    <message>
+        <source>Already done</source>
+        <translation>Already done</translation>
+    </message>
+    <message>
+        <source>Other family</source>
+        <translation>Other family</translation>
+    </message>
+    <message>
+        <source>Validators done</source>
+        <translation>Validators done</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -811,8 +927,8 @@
         <translation>Reading Error fron validator</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
-        <translation>Comunication Port COM%d isn&apos;t free or Setting error.</translation>
+        <source>Comunication Port COM%d isn't free or Setting error.</source>
+        <translation>Comunication Port COM%d isn't free or Setting error.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
@@ -879,8 +995,8 @@
         <translation>Value under the minimum, it will be correct.</translation>
     </message>
     <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; is not a valid integer value</translation>
+        <source>'%s' is not a valid integer value</source>
+        <translation>'%s' is not a valid integer value</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -1011,8 +1127,8 @@
         <translation>Updating... Please Wait !</translation>
     </message>
     <message>
-        <source>Don&apos;t Stop or disconnect !!!</source>
-        <translation>Don&apos;t Stop or disconnect !!!</translation>
+        <source>Don't Stop or disconnect !!!</source>
+        <translation>Don't Stop or disconnect !!!</translation>
     </message>
     <message>
         <source>Please connect the mini-programer.</source>
@@ -1111,8 +1227,8 @@
         <translation>tag %s is missing or does not match its field</translation>
     </message>
     <message>
-        <source>its language driver differs from the table&apos;s</source>
-        <translation>its language driver differs from the table&apos;s</translation>
+        <source>its language driver differs from the table's</source>
+        <translation>its language driver differs from the table's</translation>
     </message>
     <message>
         <source>The data directory %s has been created with empty tables</source>
@@ -1287,12 +1403,12 @@
         <translation>The disk reported an error (%s): nothing was written</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
-        <translation>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
+        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
-        <translation>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</translation>
+        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</translation>
     </message>
     <message>
         <source>%s counts %s records in its header, but its index and its length prove %s</source>
@@ -1419,20 +1535,20 @@
         <translation>Overlap with %s</translation>
     </message>
     <message>
-        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
-        <translation>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</translation>
+        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
+        <translation>The validator's own configuration could not be read before cloning: nothing was cloned.</translation>
     </message>
     <message>
-        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
-        <translation>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</translation>
+        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <translation>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</translation>
     </message>
     <message>
-        <source>The validator&apos;s own configuration was kept in %s.</source>
-        <translation>The validator&apos;s own configuration was kept in %s.</translation>
+        <source>The validator's own configuration was kept in %s.</source>
+        <translation>The validator's own configuration was kept in %s.</translation>
     </message>
     <message>
-        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
-        <translation>Windows corrected for this validator&apos;s sensors: %s.</translation>
+        <source>Windows corrected for this validator's sensors: %s.</source>
+        <translation>Windows corrected for this validator's sensors: %s.</translation>
     </message>
     <message>
         <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
@@ -1473,6 +1589,98 @@
     <message>
         <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
         <translation>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</translation>
+    </message>
+<message>
+        <source>Plug the next validator</source>
+        <translation>Plug the next validator</translation>
+    </message>
+    <message>
+        <source>Validator found: reading its identification...</source>
+        <translation>Validator found: reading its identification...</translation>
+    </message>
+    <message>
+        <source>Writing %s...</source>
+        <translation>Writing %s...</translation>
+    </message>
+    <message>
+        <source>Verifying %s...</source>
+        <translation>Verifying %s...</translation>
+    </message>
+    <message>
+        <source>%s verified: unplug it</source>
+        <translation>%s verified: unplug it</translation>
+    </message>
+    <message>
+        <source>%s does not hold what was written: unplug it</source>
+        <translation>%s does not hold what was written: unplug it</translation>
+    </message>
+    <message>
+        <source>%s failed: unplug it</source>
+        <translation>%s failed: unplug it</translation>
+    </message>
+    <message>
+        <source>%s was already done: unplug it</source>
+        <translation>%s was already done: unplug it</translation>
+    </message>
+    <message>
+        <source>%s is of another family: unplug it</source>
+        <translation>%s is of another family: unplug it</translation>
+    </message>
+    <message>
+        <source>Batch finished: %d verified, %d failed, %d skipped.</source>
+        <translation>Batch finished: %d verified, %d failed, %d skipped.</translation>
+    </message>
+    <message>
+        <source>No validator was plugged for %d s: the batch stopped.</source>
+        <translation>No validator was plugged for %d s: the batch stopped.</translation>
+    </message>
+    <message>
+        <source>The batch log could not be written (%s): the batch stopped.</source>
+        <translation>The batch log could not be written (%s): the batch stopped.</translation>
+    </message>
+    <message>
+        <source>Already verified in this batch at %s: not written again.</source>
+        <translation>Already verified in this batch at %s: not written again.</translation>
+    </message>
+    <message>
+        <source>A %s validator, the configuration is for %s: nothing was written.</source>
+        <translation>A %s validator, the configuration is for %s: nothing was written.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be read: nothing was written.</source>
+        <translation>Its own configuration could not be read: nothing was written.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be kept (%s): nothing was written.</source>
+        <translation>Its own configuration could not be kept (%s): nothing was written.</translation>
+    </message>
+    <message>
+        <source>It no longer answered before the write: nothing was written.</source>
+        <translation>It no longer answered before the write: nothing was written.</translation>
+    </message>
+    <message>
+        <source>Written, but it could not be read back to verify it.</source>
+        <translation>Written, but it could not be read back to verify it.</translation>
+    </message>
+    <message>
+        <source>No validator is stored as %s.</source>
+        <translation>No validator is stored as %s.</translation>
+    </message>
+    <message>
+        <source>Choose at least one group to write, or the full write.</source>
+        <translation>Choose at least one group to write, or the full write.</translation>
+    </message>
+    <message>
+        <source>How many validators: a number from 0 to 9999.</source>
+        <translation>How many validators: a number from 0 to 9999.</translation>
+    </message>
+    <message>
+        <source>Choose the configuration to write.</source>
+        <translation>Choose the configuration to write.</translation>
+    </message>
+    <message>
+        <source>The configuration sheet could not be written: %s</source>
+        <translation>The configuration sheet could not be written: %s</translation>
     </message>
 </context>
 <context>
@@ -1576,6 +1784,14 @@
     <message>
         <source>Pause in replies (ms)</source>
         <translation>Pause in replies (ms)</translation>
+    </message>
+<message>
+        <source>Unplug</source>
+        <translation>Unplug</translation>
+    </message>
+    <message>
+        <source>Plug in this serial</source>
+        <translation>Plug in this serial</translation>
     </message>
 </context>
 <context>
@@ -1763,16 +1979,16 @@
         <translation>Port &amp;time-out...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
-        <translation>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</translation>
+        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <translation>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</translation>
     </message>
     <message>
         <source>Port time-out</source>
         <translation>Port time-out</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
-        <translation>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</translation>
+        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
+        <translation>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</translation>
     </message>
     <message>
         <source>&amp;Back up before cloning</source>
@@ -1783,10 +1999,14 @@
         <translation>Reads the validator a clone writes to and keeps its own configuration among the backups first</translation>
     </message>
     <message>
-        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
-        <translation>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</translation>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel's change to the validator at once and checks it</source>
+        <translation>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel's change to the validator at once and checks it</translation>
     </message>
-</context>
+<message>
+        <source>Only for calibration</source>
+        <translation>Only for calibration</translation>
+    </message>
+    </context>
 <context>
     <name>TFormProfilC</name>
     <message>

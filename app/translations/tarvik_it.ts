@@ -592,8 +592,8 @@
         <translation>disabilitato</translation>
     </message>
     <message>
-        <source>Option &apos;%s&apos;</source>
-        <translation>Opzione &apos;%s&apos;</translation>
+        <source>Option '%s'</source>
+        <translation>Opzione '%s'</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -669,7 +669,7 @@
     </message>
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
+        <translation>Nessuna modifica dall'ultima lettura, apertura o scrittura della configurazione.</translation>
     </message>
     <message>
         <source>Channel windows</source>
@@ -684,7 +684,7 @@
         <translation>rifiutato dalla gettoniera</translation>
     </message>
     <message>
-        <source>Validator&apos;s own block</source>
+        <source>Validator's own block</source>
         <translation>Blocco proprio della gettoniera</translation>
     </message>
     <message>
@@ -749,7 +749,7 @@
     </message>
     <message>
         <source>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</source>
-        <translation>A decine, da 0 a 2540 (l&apos;ultima cifra viene scartata); vuoto: non impostato</translation>
+        <translation>A decine, da 0 a 2540 (l'ultima cifra viene scartata); vuoto: non impostato</translation>
     </message>
     <message>
         <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
@@ -765,15 +765,15 @@
     </message>
     <message>
         <source>Since opened from %s (the validator was not read)</source>
-        <translation>Dall&apos;apertura di %s (la gettoniera non è stata letta)</translation>
+        <translation>Dall'apertura di %s (la gettoniera non è stata letta)</translation>
     </message>
     <message>
         <source>Since opened from file %s (the validator was not read)</source>
-        <translation>Dall&apos;apertura del file %s (la gettoniera non è stata letta)</translation>
+        <translation>Dall'apertura del file %s (la gettoniera non è stata letta)</translation>
     </message>
     <message>
         <source>Since the editor opened (the validator was not read)</source>
-        <translation>Dall&apos;apertura dell&apos;editor (la gettoniera non è stata letta)</translation>
+        <translation>Dall'apertura dell'editor (la gettoniera non è stata letta)</translation>
     </message>
     <message>
         <source>Write again</source>
@@ -781,7 +781,7 @@
     </message>
     <message>
         <source>Put back as it was</source>
-        <translation>Ripristina com&apos;era</translation>
+        <translation>Ripristina com'era</translation>
     </message>
     <message>
         <source>Go on</source>
@@ -794,6 +794,122 @@
     <message>
         <source>Write changes</source>
         <translation>Scrivi le modifiche</translation>
+    </message>
+<message>
+        <source>Batch...</source>
+        <translation>Serie...</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Serie</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Origine</translation>
+    </message>
+    <message>
+        <source>The editor's configuration</source>
+        <translation>La configurazione dell'editor</translation>
+    </message>
+    <message>
+        <source>A configuration file</source>
+        <translation>Un file di configurazione</translation>
+    </message>
+    <message>
+        <source>A saved validator</source>
+        <translation>Una gettoniera salvata</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia...</translation>
+    </message>
+    <message>
+        <source>What to write</source>
+        <translation>Cosa scrivere</translation>
+    </message>
+    <message>
+        <source>Full write (every block, as Write)</source>
+        <translation>Scrittura completa (tutti i blocchi, come Scrivi)</translation>
+    </message>
+    <message>
+        <source>How many (0: until Stop) :</source>
+        <translation>Quante (0: fino a Ferma) :</translation>
+    </message>
+    <message>
+        <source>Write a validator again when it comes back</source>
+        <translation>Riscrivere una gettoniera che ritorna</translation>
+    </message>
+    <message>
+        <source>A sound for each result</source>
+        <translation>Un suono per ogni risultato</translation>
+    </message>
+    <message>
+        <source>A configuration sheet for each (PDF, beside the log)</source>
+        <translation>Una scheda di configurazione per ciascuna (PDF, accanto al registro)</translation>
+    </message>
+    <message>
+        <source>Verified: %d</source>
+        <translation>Verificate: %d</translation>
+    </message>
+    <message>
+        <source>Failed: %d</source>
+        <translation>Fallite: %d</translation>
+    </message>
+    <message>
+        <source>Skipped: %d</source>
+        <translation>Saltate: %d</translation>
+    </message>
+    <message>
+        <source>Log: %s</source>
+        <translation>Registro: %s</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Famiglia</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondi</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Dettaglio</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>Verificata</translation>
+    </message>
+    <message>
+        <source>Differs</source>
+        <translation>Differisce</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fallita</translation>
+    </message>
+    <message>
+        <source>Already done</source>
+        <translation>Già fatta</translation>
+    </message>
+    <message>
+        <source>Other family</source>
+        <translation>Altra famiglia</translation>
+    </message>
+    <message>
+        <source>Validators done</source>
+        <translation>Gettoniere trattate</translation>
     </message>
 </context>
 <context>
@@ -811,12 +927,12 @@
         <translation>Errore di lettura dalla gettoniera</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <source>Comunication Port COM%d isn't free or Setting error.</source>
         <translation>La porta di comunicazione COM%d non è libera o è impostata in modo errato.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
-        <translation>Questo utente non ha il permesso di aprire la porta seriale. Aggiungere l&apos;utente al gruppo dialout (sudo usermod -aG dialout $USER), poi chiudere la sessione e accedere di nuovo.</translation>
+        <translation>Questo utente non ha il permesso di aprire la porta seriale. Aggiungere l'utente al gruppo dialout (sudo usermod -aG dialout $USER), poi chiudere la sessione e accedere di nuovo.</translation>
     </message>
     <message>
         <source>Select port !!!</source>
@@ -879,8 +995,8 @@
         <translation>Valore inferiore al minimo, sarà corretto.</translation>
     </message>
     <message>
-        <source>&apos;%s&apos; is not a valid integer value</source>
-        <translation>&apos;%s&apos; non è un valore intero valido</translation>
+        <source>'%s' is not a valid integer value</source>
+        <translation>'%s' non è un valore intero valido</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -1004,14 +1120,14 @@
     </message>
     <message>
         <source>Operation cancelled by operator</source>
-        <translation>Operazione annullata dall&apos;operatore</translation>
+        <translation>Operazione annullata dall'operatore</translation>
     </message>
     <message>
         <source>Updating... Please Wait !</source>
         <translation>Aggiornamento in corso... Attendere !</translation>
     </message>
     <message>
-        <source>Don&apos;t Stop or disconnect !!!</source>
+        <source>Don't Stop or disconnect !!!</source>
         <translation>Non interrompere né scollegare !!!</translation>
     </message>
     <message>
@@ -1020,7 +1136,7 @@
     </message>
     <message>
         <source>The user guide %s is not installed.</source>
-        <translation>La guida dell&apos;utente %s non è installata.</translation>
+        <translation>La guida dell'utente %s non è installata.</translation>
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
@@ -1044,11 +1160,11 @@
     </message>
     <message>
         <source>%s has a damaged header: its header length, record length and field widths do not add up</source>
-        <translation>%s ha un&apos;intestazione danneggiata: lunghezza dell&apos;intestazione, lunghezza del record e larghezze dei campi non corrispondono</translation>
+        <translation>%s ha un'intestazione danneggiata: lunghezza dell'intestazione, lunghezza del record e larghezze dei campi non corrispondono</translation>
     </message>
     <message>
         <source>%s has a damaged header: field %s is not valid</source>
-        <translation>%s ha un&apos;intestazione danneggiata: il campo %s non è valido</translation>
+        <translation>%s ha un'intestazione danneggiata: il campo %s non è valido</translation>
     </message>
     <message>
         <source>%s is truncated: it holds %s of its %s records</source>
@@ -1080,11 +1196,11 @@
     </message>
     <message>
         <source>The index %s was not usable (%s) and has been rebuilt from %s</source>
-        <translation>L&apos;indice %s non era utilizzabile (%s) ed è stato ricostruito da %s</translation>
+        <translation>L'indice %s non era utilizzabile (%s) ed è stato ricostruito da %s</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s) and cannot be rebuilt now</source>
-        <translation>L&apos;indice %s non è utilizzabile (%s) e non può essere ricostruito ora</translation>
+        <translation>L'indice %s non è utilizzabile (%s) e non può essere ricostruito ora</translation>
     </message>
     <message>
         <source>it is missing</source>
@@ -1111,7 +1227,7 @@
         <translation>il tag %s manca o non corrisponde al suo campo</translation>
     </message>
     <message>
-        <source>its language driver differs from the table&apos;s</source>
+        <source>its language driver differs from the table's</source>
         <translation>il suo driver di lingua differisce da quello della tabella</translation>
     </message>
     <message>
@@ -1128,7 +1244,7 @@
     </message>
     <message>
         <source>The settings could not be read; the defaults are used until a setting is changed.</source>
-        <translation>Non è stato possibile leggere le impostazioni; si usano i valori predefiniti finché non si modifica un&apos;impostazione.</translation>
+        <translation>Non è stato possibile leggere le impostazioni; si usano i valori predefiniti finché non si modifica un'impostazione.</translation>
     </message>
     <message>
         <source>The file %s could not be read.</source>
@@ -1136,7 +1252,7 @@
     </message>
     <message>
         <source>The sheet could not be written to %s: %s. Nothing else was changed.</source>
-        <translation>Non è stato possibile scrivere la scheda in %s: %s. Nient&apos;altro è stato modificato.</translation>
+        <translation>Non è stato possibile scrivere la scheda in %s: %s. Nient'altro è stato modificato.</translation>
     </message>
     <message>
         <source>The sheet could not be printed.</source>
@@ -1216,7 +1332,7 @@
     </message>
     <message>
         <source>%s. Nothing of it can be read; the file is left as it is.</source>
-        <translation>%s. Non se ne può leggere nulla; il file viene lasciato com&apos;è.</translation>
+        <translation>%s. Non se ne può leggere nulla; il file viene lasciato com'è.</translation>
     </message>
     <message>
         <source>%s is not open: nothing can be read from it or stored in it</source>
@@ -1240,7 +1356,7 @@
     </message>
     <message>
         <source>The index %s is not usable (%s)</source>
-        <translation>L&apos;indice %s non è utilizzabile (%s)</translation>
+        <translation>L'indice %s non è utilizzabile (%s)</translation>
     </message>
     <message>
         <source>Verifying...</source>
@@ -1287,11 +1403,11 @@
         <translation>Il disco ha segnalato un errore (%s): non è stato scritto nulla</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>«%s» non può essere memorizzato in %s: la sua tabella codici non ha %s. Non è stato scritto nulla.</translation>
     </message>
     <message>
-        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>«%s» è troppo lungo per %s: contiene al massimo %s caratteri. Non è stato scritto nulla.</translation>
     </message>
     <message>
@@ -1320,7 +1436,7 @@
     </message>
     <message>
         <source>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</source>
-        <translation>La gettoniera contiene ora una configurazione scritta in parte (scritto: %s); nulla di quanto già scritto è stato annullato. Scriverla di nuovo prima dell&apos;uso.</translation>
+        <translation>La gettoniera contiene ora una configurazione scritta in parte (scritto: %s); nulla di quanto già scritto è stato annullato. Scriverla di nuovo prima dell'uso.</translation>
     </message>
     <message>
         <source>Nothing was written: the validator holds what it held before.</source>
@@ -1332,7 +1448,7 @@
     </message>
     <message>
         <source>No answer came after sending %s: the validator may or may not hold it.</source>
-        <translation>Nessuna risposta dopo l&apos;invio di %s: la gettoniera potrebbe contenerlo oppure no.</translation>
+        <translation>Nessuna risposta dopo l'invio di %s: la gettoniera potrebbe contenerlo oppure no.</translation>
     </message>
     <message>
         <source>Channel %d was not saved into the validator.</source>
@@ -1368,7 +1484,7 @@
     </message>
     <message>
         <source>The mini-programmer must be in its upgrade mode before the file is sent. Send %s now?</source>
-        <translation>Il mini-programmatore deve essere in modalità aggiornamento prima dell&apos;invio del file. Inviare %s ora?</translation>
+        <translation>Il mini-programmatore deve essere in modalità aggiornamento prima dell'invio del file. Inviare %s ora?</translation>
     </message>
     <message>
         <source>%s holds %d bytes: sent byte by byte at 9600 baud, it takes hours. Send it all the same?</source>
@@ -1376,7 +1492,7 @@
     </message>
     <message>
         <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
-        <translation>La porta è stata persa durante il trasferimento: %d byte su %d hanno lasciato la porta: l&apos;aggiornamento non è completo.</translation>
+        <translation>La porta è stata persa durante il trasferimento: %d byte su %d hanno lasciato la porta: l'aggiornamento non è completo.</translation>
     </message>
     <message>
         <source>%s is locked by %s: waiting at most %s s</source>
@@ -1419,19 +1535,19 @@
         <translation>Sovrapposizione con %s</translation>
     </message>
     <message>
-        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
+        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
         <translation>Non è stato possibile leggere la configurazione della gettoniera prima della clonazione: nulla è stato clonato.</translation>
     </message>
     <message>
-        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
         <translation>Non è stato possibile conservare la configurazione della gettoniera prima della clonazione: %s. Clonare comunque?</translation>
     </message>
     <message>
-        <source>The validator&apos;s own configuration was kept in %s.</source>
+        <source>The validator's own configuration was kept in %s.</source>
         <translation>La configurazione della gettoniera è stata conservata in %s.</translation>
     </message>
     <message>
-        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
+        <source>Windows corrected for this validator's sensors: %s.</source>
         <translation>Finestre corrette per i sensori di questa gettoniera: %s.</translation>
     </message>
     <message>
@@ -1448,7 +1564,7 @@
     </message>
     <message>
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
-        <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche); l&apos;apertura le sostituisce nell&apos;editor. Aprire comunque?</translation>
+        <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche); l'apertura le sostituisce nell'editor. Aprire comunque?</translation>
     </message>
     <message>
         <source>What the validator holds is the configuration of a %s validator with %s channels, the one to write is of a %s validator with %s channels: nothing was written.</source>
@@ -1472,7 +1588,99 @@
     </message>
     <message>
         <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
-        <translation>Il contenuto della gettoniera %s non è noto (non è stata letta qui): si può scrivere solo l&apos;intera configurazione.</translation>
+        <translation>Il contenuto della gettoniera %s non è noto (non è stata letta qui): si può scrivere solo l'intera configurazione.</translation>
+    </message>
+<message>
+        <source>Plug the next validator</source>
+        <translation>Collegare la gettoniera successiva</translation>
+    </message>
+    <message>
+        <source>Validator found: reading its identification...</source>
+        <translation>Gettoniera trovata: lettura della sua identificazione...</translation>
+    </message>
+    <message>
+        <source>Writing %s...</source>
+        <translation>Scrittura di %s...</translation>
+    </message>
+    <message>
+        <source>Verifying %s...</source>
+        <translation>Verifica di %s...</translation>
+    </message>
+    <message>
+        <source>%s verified: unplug it</source>
+        <translation>%s verificata: scollegarla</translation>
+    </message>
+    <message>
+        <source>%s does not hold what was written: unplug it</source>
+        <translation>%s non contiene ciò che è stato scritto: scollegarla</translation>
+    </message>
+    <message>
+        <source>%s failed: unplug it</source>
+        <translation>%s fallita: scollegarla</translation>
+    </message>
+    <message>
+        <source>%s was already done: unplug it</source>
+        <translation>%s era già fatta: scollegarla</translation>
+    </message>
+    <message>
+        <source>%s is of another family: unplug it</source>
+        <translation>%s è di un'altra famiglia: scollegarla</translation>
+    </message>
+    <message>
+        <source>Batch finished: %d verified, %d failed, %d skipped.</source>
+        <translation>Serie terminata: %d verificate, %d fallite, %d saltate.</translation>
+    </message>
+    <message>
+        <source>No validator was plugged for %d s: the batch stopped.</source>
+        <translation>Nessuna gettoniera collegata da %d s: la serie si è fermata.</translation>
+    </message>
+    <message>
+        <source>The batch log could not be written (%s): the batch stopped.</source>
+        <translation>Il registro della serie non ha potuto essere scritto (%s): la serie si è fermata.</translation>
+    </message>
+    <message>
+        <source>Already verified in this batch at %s: not written again.</source>
+        <translation>Già verificata in questa serie alle %s: non riscritta.</translation>
+    </message>
+    <message>
+        <source>A %s validator, the configuration is for %s: nothing was written.</source>
+        <translation>Una gettoniera %s, la configurazione è per %s: non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be read: nothing was written.</source>
+        <translation>La sua configurazione non ha potuto essere letta: non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>Its own configuration could not be kept (%s): nothing was written.</source>
+        <translation>La sua configurazione non ha potuto essere conservata (%s): non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>It no longer answered before the write: nothing was written.</source>
+        <translation>Non rispondeva più prima della scrittura: non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>Written, but it could not be read back to verify it.</source>
+        <translation>Scritta, ma non ha potuto essere riletta per verificarla.</translation>
+    </message>
+    <message>
+        <source>No validator is stored as %s.</source>
+        <translation>Nessuna gettoniera è salvata come %s.</translation>
+    </message>
+    <message>
+        <source>Choose at least one group to write, or the full write.</source>
+        <translation>Scegliere almeno un gruppo da scrivere, o la scrittura completa.</translation>
+    </message>
+    <message>
+        <source>How many validators: a number from 0 to 9999.</source>
+        <translation>Quante gettoniere: un numero da 0 a 9999.</translation>
+    </message>
+    <message>
+        <source>Choose the configuration to write.</source>
+        <translation>Scegliere la configurazione da scrivere.</translation>
+    </message>
+    <message>
+        <source>The configuration sheet could not be written: %s</source>
+        <translation>La scheda di configurazione non ha potuto essere scritta: %s</translation>
     </message>
 </context>
 <context>
@@ -1555,7 +1763,7 @@
     </message>
     <message>
         <source>Adapter bursts every (ms) :</source>
-        <translation>Pacchetti dell&apos;adattatore ogni (ms) :</translation>
+        <translation>Pacchetti dell'adattatore ogni (ms) :</translation>
     </message>
     <message>
         <source>Pause in replies after byte, for (ms) :</source>
@@ -1576,6 +1784,14 @@
     <message>
         <source>Pause in replies (ms)</source>
         <translation>Pausa nelle risposte (ms)</translation>
+    </message>
+<message>
+        <source>Unplug</source>
+        <translation>Scollega</translation>
+    </message>
+    <message>
+        <source>Plug in this serial</source>
+        <translation>Collega questo numero di serie</translation>
     </message>
 </context>
 <context>
@@ -1763,7 +1979,7 @@
         <translation>&amp;Timeout della porta...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
+        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
         <translation>Quanto attendere il primo byte della gettoniera: aumentarlo per adattatori seriali Bluetooth o radio</translation>
     </message>
     <message>
@@ -1771,8 +1987,8 @@
         <translation>Timeout della porta</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
-        <translation>Attesa dell&apos;eco del conteggio o del primo byte di una risposta, in millisecondi (%1 predefinito):</translation>
+        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
+        <translation>Attesa dell'eco del conteggio o del primo byte di una risposta, in millisecondi (%1 predefinito):</translation>
     </message>
     <message>
         <source>&amp;Back up before cloning</source>
@@ -1783,10 +1999,14 @@
         <translation>Legge la gettoniera su cui scrive una clonazione e conserva prima la sua configurazione tra i backup</translation>
     </message>
     <message>
-        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel's change to the validator at once and checks it</source>
         <translation>Solo per la taratura: lasciare una casella di finestra, valore, sostituto o abilitazione di un canale scrive subito la modifica di quel canale nella gettoniera e la verifica</translation>
     </message>
-</context>
+<message>
+        <source>Only for calibration</source>
+        <translation>Solo per la calibrazione</translation>
+    </message>
+    </context>
 <context>
     <name>TFormProfilC</name>
     <message>
@@ -2066,7 +2286,7 @@
     </message>
     <message>
         <source>%1: the reading of the last coin</source>
-        <translation>%1: la lettura dell&apos;ultima moneta</translation>
+        <translation>%1: la lettura dell'ultima moneta</translation>
     </message>
     <message>
         <source>%1: the width of the window (maximum - minimum)</source>
@@ -2074,19 +2294,19 @@
     </message>
     <message>
         <source>%1: the last reading minus the minimum (below 0: under the window)</source>
-        <translation>%1: l&apos;ultima lettura meno il minimo (sotto 0: sotto la finestra)</translation>
+        <translation>%1: l'ultima lettura meno il minimo (sotto 0: sotto la finestra)</translation>
     </message>
     <message>
         <source>%1: the last reading minus the maximum (above 0: over the window)</source>
-        <translation>%1: l&apos;ultima lettura meno il massimo (sopra 0: sopra la finestra)</translation>
+        <translation>%1: l'ultima lettura meno il massimo (sopra 0: sopra la finestra)</translation>
     </message>
     <message>
         <source>%1: the last reading, and the window as a band</source>
-        <translation>%1: l&apos;ultima lettura, e la finestra come banda</translation>
+        <translation>%1: l'ultima lettura, e la finestra come banda</translation>
     </message>
     <message>
         <source>The first stored channel whose windows hold the last coin</source>
-        <translation>Il primo canale memorizzato le cui finestre contengono l&apos;ultima moneta</translation>
+        <translation>Il primo canale memorizzato le cui finestre contengono l'ultima moneta</translation>
     </message>
     <message>
         <source>Coins counted for the chosen channel</source>

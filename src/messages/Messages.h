@@ -190,6 +190,30 @@ enum class Msg
     // damaged headers
     RecordsRowsPastCount,
     RepairNotReadBack,
+    // the batch station
+    BatchPlugNext,
+    BatchFound,
+    BatchWriting,
+    BatchVerifying,
+    BatchVerifiedUnplug,
+    BatchMismatchUnplug,
+    BatchFailedUnplug,
+    BatchAlreadyDoneUnplug,
+    BatchWrongFamilyUnplug,
+    BatchFinished,
+    BatchIdle,
+    BatchLogFailed,
+    BatchAlreadyDone,
+    BatchWrongFamily,
+    BatchNotRead,
+    BatchBackupNotKept,
+    BatchNothingWritten,
+    BatchNotVerified,
+    BatchSourceNotSaved,
+    BatchNoGroup,
+    BatchCountInvalid,
+    BatchNoSource,
+    BatchSheetNotWritten,
     Count_
 };
 

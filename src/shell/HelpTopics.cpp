@@ -20,6 +20,7 @@ constexpr Topic kTopics[] = {
     {"TTarvikFormInit", "validator-setting"},
     {"TFormCondotto", "output"},
     {"TFormChanges", "changes"},
+    {"TFormBatch", "batch"},
     {"TCloningChk", "cloning"},
     {"TFormAvertissementDif", "cloning"},
     {"TFormProgCoin", "learning"},

@@ -38,7 +38,9 @@ SimulatorPanel::SimulatorPanel(BenchPanelModel *model, bool showLine, QWidget *p
     : QWidget(parent, Qt::Window), m_model(model), m_validatorGroup(new QGroupBox(this)),
       m_familyLabel(new QLabel(this)), m_familyBox(named(new QComboBox(this), "FamilyBox")),
       m_serialLabel(new QLabel(this)), m_serialBox(named(new QSpinBox(this), "SerialBox")),
-      m_fitBtn(named(new QPushButton(this), "FitBtn")), m_coinGroup(new QGroupBox(this)),
+      m_fitBtn(named(new QPushButton(this), "FitBtn")),
+      m_unplugBtn(named(new QPushButton(this), "UnplugBtn")),
+      m_plugBtn(named(new QPushButton(this), "PlugBtn")), m_coinGroup(new QGroupBox(this)),
       m_coinBox(named(new QComboBox(this), "CoinBox")),
       m_insertBtn(named(new QPushButton(this), "InsertBtn")),
       m_queueLabel(named(new QLabel(this), "QueueLabel")),
@@ -87,6 +89,8 @@ void SimulatorPanel::build(bool showLine)
     validator->addWidget(m_serialLabel, 1, 0);
     validator->addWidget(m_serialBox, 1, 1);
     validator->addWidget(m_fitBtn, 2, 0, 1, 2);
+    validator->addWidget(m_unplugBtn, 3, 0);
+    validator->addWidget(m_plugBtn, 3, 1);
     auto *coins = new QGridLayout(m_coinGroup);
     coins->addWidget(m_coinBox, 0, 0);
     coins->addWidget(m_insertBtn, 0, 1);
@@ -104,6 +108,8 @@ void SimulatorPanel::build(bool showLine)
     layout->addWidget(m_lineGroup);
 
     connect(m_fitBtn, &QPushButton::clicked, this, &SimulatorPanel::fitValidator);
+    connect(m_unplugBtn, &QPushButton::clicked, this, &SimulatorPanel::unplugValidator);
+    connect(m_plugBtn, &QPushButton::clicked, this, &SimulatorPanel::plugValidator);
     connect(m_insertBtn, &QPushButton::clicked, this, &SimulatorPanel::insertCoin);
     connect(m_doorBox, &QCheckBox::toggled, m_model, &BenchPanelModel::setDoorOpen);
     connect(m_cableBox, &QCheckBox::toggled, m_model, &BenchPanelModel::setCablePlugged);
@@ -120,6 +126,8 @@ void SimulatorPanel::retranslateUi()
     m_familyLabel->setText(tr("Family :"));
     m_serialLabel->setText(tr("Serial number :"));
     m_fitBtn->setText(tr("Fit a new validator"));
+    m_unplugBtn->setText(tr("Unplug"));
+    m_plugBtn->setText(tr("Plug in this serial"));
     m_coinGroup->setTitle(tr("Coins"));
     m_coinBox->setAccessibleName(m_coinGroup->title());
     m_insertBtn->setText(tr("Insert"));
@@ -228,6 +236,16 @@ void SimulatorPanel::takeLine()
 void SimulatorPanel::fitValidator()
 {
     m_model->fitValidator(m_familyBox->currentIndex(), quint32(m_serialBox->value()));
+}
+
+void SimulatorPanel::unplugValidator()
+{
+    m_model->unplugValidator();
+}
+
+void SimulatorPanel::plugValidator()
+{
+    m_model->plugValidator(m_familyBox->currentIndex(), quint32(m_serialBox->value()));
 }
 
 void SimulatorPanel::insertCoin()

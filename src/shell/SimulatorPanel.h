@@ -37,6 +37,10 @@ public:
 
     // A factory-fresh validator of the chosen family and serial number.
     void fitValidator();
+    // Unplugs the validator in place (it keeps its memory), or plugs the one of the chosen
+    // serial number: as it was when it was plugged before, else factory-fresh.
+    void unplugValidator();
+    void plugValidator();
     void insertCoin();
     // The mini-programmer asks the host for a firmware file (request code 11).
     void requestFirmware();
@@ -60,6 +64,8 @@ private:
     QLabel *m_serialLabel;
     QSpinBox *m_serialBox;
     QPushButton *m_fitBtn;
+    QPushButton *m_unplugBtn;
+    QPushButton *m_plugBtn;
     QGroupBox *m_coinGroup;
     QComboBox *m_coinBox;
     QPushButton *m_insertBtn;

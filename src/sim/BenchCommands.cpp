@@ -4,6 +4,9 @@
 #include "LineProfile.h"
 #include "VirtualValidator.h"
 
+#include <algorithm>
+#include <optional>
+
 namespace {
 
 BenchCommands::Reply failure(const QString &text)
@@ -20,6 +23,12 @@ QString BenchCommands::help()
         "                   1.00 or 2.00 (or euro005 ... euro200), golden or silver (tokens)\n"
         "door open|closed   open or close the validator's door\n"
         "cable out|in       pull the cable or plug it back in\n"
+        "unplug [after N]   unplug the validator now, or right after it has accepted N more\n"
+        "                   writes; it keeps its memory on the rack\n"
+        "plug [SERIAL] [FAMILY]  plug a validator in: one plugged before comes back with the\n"
+        "                   memory and family it had, a new serial is factory-fresh (FAMILY as\n"
+        "                   in fit, the family of the last one unless given); no serial: a new "
+        "one\n"
         "fit FAMILY SERIAL  a factory-fresh validator of family byte FAMILY (0x03, 0x13, 0x23,\n"
         "                   0x33) with serial number SERIAL, the door as it was\n"
         "mini on|off        switch the mini-programmer (firmware upgrade) on or off\n"
@@ -55,6 +64,10 @@ BenchCommands::Reply BenchCommands::run(QStringView line)
     }
     if (command == QLatin1String("fit"))
         return fit(words);
+    if (command == QLatin1String("plug"))
+        return plug(words);
+    if (command == QLatin1String("unplug"))
+        return unplug(words);
     if (command == QLatin1String("mini")) {
         if (argument != QLatin1String("on") && argument != QLatin1String("off"))
             return failure(QStringLiteral("mini needs \"on\" or \"off\""));
@@ -130,6 +143,8 @@ BenchCommands::Reply BenchCommands::fit(const QStringList &arguments)
     const bool door = m_device->doorOpen();
     m_device->setMemory(VirtualValidator::factoryImage(quint8(family), quint32(serial)));
     m_device->setDoorOpen(door);
+    m_inPlace = quint32(serial);
+    m_inPlaceKnown = true;
     return {};
 }
 
@@ -143,5 +158,76 @@ BenchCommands::Reply BenchCommands::changeLine(const QStringList &arguments)
         return failure(
             QStringLiteral("line: %1").arg(why.isEmpty() ? QStringLiteral("needs a line") : why));
     m_onLine(*profile);
+    return {};
+}
+
+void BenchCommands::shelve()
+{
+    const quint32 serial = m_inPlaceKnown ? m_inPlace : m_device->memory().serialNumber();
+    m_rack.insert(serial, m_device->memory());
+}
+
+BenchCommands::Reply BenchCommands::unplug(const QStringList &arguments)
+{
+    if (arguments.isEmpty()) {
+        m_device->setUnplugAfterWrites(0);
+        return run(u"cable out");
+    }
+    bool ok = false;
+    const int writes = arguments.size() == 2 ? arguments[1].toInt(&ok) : 0;
+    if (arguments[0].toLower() != QLatin1String("after") || !ok || writes < 1)
+        return failure(QStringLiteral("unplug needs nothing or \"after N\" with N from 1, such as "
+                                      "\"unplug after 10\""));
+    m_device->setUnplugAfterWrites(writes);
+    return {};
+}
+
+BenchCommands::Reply BenchCommands::plug(const QStringList &arguments)
+{
+    if (arguments.size() > 2)
+        return failure(QStringLiteral("plug needs an optional serial number and family byte, "
+                                      "such as \"plug 2003 0x13\""));
+    bool ok = true;
+    std::optional<quint32> serial;
+    if (!arguments.isEmpty()) {
+        const qulonglong n = arguments[0].toULongLong(&ok, 0);
+        if (!ok || n > 0xFFFFFFFFu)
+            return failure(QStringLiteral("the serial number is a number from 0 to 4294967295, "
+                                          "not \"%1\"")
+                               .arg(arguments[0]));
+        serial = quint32(n);
+    }
+    quint8 family = m_device->memory().familyByte();
+    if (arguments.size() == 2) {
+        const uint f = arguments[1].toUInt(&ok, 0);
+        if (!ok || f > 0xFF)
+            return failure(
+                QStringLiteral("the family is a byte such as 0x13, not \"%1\"").arg(arguments[1]));
+        family = quint8(f);
+    }
+    shelve();
+    if (!serial) {
+        // A new one: past every serial seen so far.
+        quint32 next = m_device->memory().serialNumber();
+        for (auto it = m_rack.cbegin(); it != m_rack.cend(); ++it)
+            next = std::max(next, it.key());
+        serial = next + 1;
+    }
+    // One plugged before keeps its own family.
+    const auto known = m_rack.constFind(*serial);
+    run(u"cable out");
+    m_device->clearFaults();
+    m_device->setUnplugAfterWrites(0);
+    if (known != m_rack.cend()) {
+        const bool door = m_device->doorOpen();
+        m_device->setMemory(*known);
+        m_device->setDoorOpen(door);
+        m_inPlace = *serial;
+        m_inPlaceKnown = true;
+    } else {
+        fit({QStringLiteral("0x%1").arg(family, 2, 16, QLatin1Char('0')),
+             QString::number(*serial)});
+    }
+    run(u"cable in");
     return {};
 }

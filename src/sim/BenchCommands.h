@@ -1,5 +1,8 @@
 #pragma once
 
+#include "ConfigImage.h"
+
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QStringView>
@@ -38,7 +41,16 @@ private:
     Reply coin(QStringList arguments);
     Reply fit(const QStringList &arguments);
     Reply changeLine(const QStringList &arguments);
+    Reply plug(const QStringList &arguments);
+    Reply unplug(const QStringList &arguments);
+    // The validator in place goes back on the rack with the memory it has now.
+    void shelve();
 
     VirtualValidator *m_device;
+    // The validators that were plugged before, by serial number, with their memory as they
+    // were unplugged; the one in place is filed under m_inPlace.
+    QMap<quint32, ConfigImage> m_rack;
+    quint32 m_inPlace = 0;
+    bool m_inPlaceKnown = false;
     std::function<void(const LineProfile &)> m_onLine;
 };

@@ -58,6 +58,17 @@ void BenchPanelModel::fitValidator(int familyIndex, quint32 serial)
     send(QStringLiteral("fit 0x%1 %2").arg(family, 2, 16, QLatin1Char('0')).arg(serial));
 }
 
+void BenchPanelModel::unplugValidator()
+{
+    send(QStringLiteral("unplug"));
+}
+
+void BenchPanelModel::plugValidator(int familyIndex, quint32 serial)
+{
+    const quint8 family = kFamilies[qBound(0, familyIndex, 3)];
+    send(QStringLiteral("plug %1 0x%2").arg(serial).arg(family, 2, 16, QLatin1Char('0')));
+}
+
 void BenchPanelModel::insertCoin(CoinKind kind)
 {
     send(QStringLiteral("coin %1").arg(QLatin1String(CoinGenerator::preset(kind).key)));

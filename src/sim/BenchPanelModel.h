@@ -50,6 +50,10 @@ public:
 
     // A factory-fresh validator of kFamilies[familyIndex] with this serial number.
     void fitValidator(int familyIndex, quint32 serial);
+    // The validator in place is unplugged and keeps its memory; plugging a serial number brings
+    // that validator back as it was, or a factory-fresh one of kFamilies[familyIndex].
+    void unplugValidator();
+    void plugValidator(int familyIndex, quint32 serial);
     void insertCoin(CoinKind kind);
     void setDoorOpen(bool open);
     void setCablePlugged(bool plugged);

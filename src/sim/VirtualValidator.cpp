@@ -395,6 +395,11 @@ void VirtualValidator::finishExchange(QList<DeviceOutput> &out)
     QByteArray reply = execute(command, m_data);
     reply.resize(m_shape.replyLength, char(0xFF));
     out.append({reply, delayFor(command)});
+    // A write's one-byte status of 0: stored.
+    const bool stored =
+        m_shape.replyLength == 1 && command != Cmd::ReadSetting8 && reply.at(0) == 0;
+    if (stored && m_unplugAfterWrites > 0 && --m_unplugAfterWrites == 0)
+        setConnected(false);
 }
 
 bool VirtualValidator::refuses(quint8 command)

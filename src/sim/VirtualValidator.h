@@ -97,6 +97,9 @@ public:
     // in starts a fresh exchange.
     void setConnected(bool connected);
     bool connected() const { return m_connected; }
+    // The cable is pulled right after the n-th write from now that the device accepts, as a
+    // technician who pulls a validator in the middle of its write (0: never).
+    void setUnplugAfterWrites(int writes) { m_unplugAfterWrites = writes; }
 
     // Faults. Occurrences are counted from the call that sets the fault.
     // The count echo of the command is one more than its data length; the device then takes
@@ -166,6 +169,7 @@ private:
     QByteArray m_data;
 
     bool m_connected = true;
+    int m_unplugAfterWrites = 0;
     QSet<quint8> m_wrongEcho;
     QMap<quint8, Refusal> m_refusals;
     QMap<quint8, int> m_replyDelays;

@@ -263,7 +263,7 @@ private Q_SLOTS:
             QVERIFY(face);
             QVERIFY2(!face->text(QAccessible::Name).isEmpty(), qPrintable(widget->objectName()));
         }
-        QCOMPARE(controls, 18);
+        QCOMPARE(controls, 20);
     }
 
     // tarvik --simulate starts the bench on a pseudo-terminal and opens it as its port; killed,

@@ -109,4 +109,54 @@ TEST(BenchCommandsTest, ThePanelsActionsAreBenchLines)
     EXPECT_FALSE(BenchCommands(&device).run(QStringLiteral("line bench")).error.isEmpty());
 }
 
+// The validator changes hands: each one plugged keeps its memory on the rack while another is
+// in place, and one can be pulled in the middle of a write.
+TEST(BenchCommandsTest, ValidatorsChangeHandsAndKeepTheirMemory)
+{
+    VirtualValidator device(0x13, 1001);
+    BenchCommands bench(&device);
+    auto run = [&](const char *line) { return bench.run(QString::fromLatin1(line)).error; };
+    device.memory().prices[0] = 7; // what a write left in 1001
+
+    EXPECT_TRUE(run("unplug").isEmpty());
+    EXPECT_FALSE(device.connected());
+    EXPECT_TRUE(run("plug 2002 0x23").isEmpty());
+    EXPECT_TRUE(device.connected());
+    EXPECT_EQ(device.memory(), VirtualValidator::factoryImage(0x23, 2002));
+    EXPECT_TRUE(run("plug 1001").isEmpty()); // 2002 goes on the rack as it is
+    EXPECT_EQ(device.memory().familyByte(), 0x13);
+    EXPECT_EQ(device.memory().prices[0], 7);
+    EXPECT_TRUE(run("plug 2002 0x13").isEmpty()); // a known one keeps its own family
+    EXPECT_EQ(device.memory().familyByte(), 0x23);
+    EXPECT_TRUE(run("plug").isEmpty()); // a new one, of the last one's family
+    EXPECT_EQ(device.memory().serialNumber(), 2003u);
+    EXPECT_EQ(device.memory().familyByte(), 0x23);
+
+    // Pulled right after its second accepted write: the third is not heard.
+    EXPECT_TRUE(run("unplug after 2").isEmpty());
+    const QByteArray prices("\x01\x02\x03\x04\x05\x06", 6);
+    for (int write = 1; write <= 3; ++write) {
+        const QList<DeviceOutput> echo = device.receive(QByteArray(1, char(Cmd::WritePrices)));
+        ASSERT_EQ(echo.isEmpty(), write == 3) << write;
+        device.receive(prices);
+        EXPECT_EQ(device.connected(), write < 2) << write;
+    }
+    EXPECT_EQ(device.memory().prices[0], 1);
+
+    // The panel's buttons send the same lines.
+    BenchPanelModel model([&](const QString &line) { bench.run(line); },
+                          [&] { return BenchStatus::of(device); }, LineProfile::bench());
+    model.plugValidator(1, 1001);
+    EXPECT_TRUE(model.status().connected);
+    EXPECT_EQ(model.status().serial, 1001u);
+    EXPECT_EQ(device.memory().prices[0], 7);
+    model.unplugValidator();
+    EXPECT_FALSE(model.status().connected);
+
+    for (const char *mistake : {"plug x", "plug 1 2 3", "plug 5 0x100", "plug 4294967296",
+                                "unplug later", "unplug after 0", "unplug after"})
+        EXPECT_FALSE(run(mistake).isEmpty()) << mistake;
+    EXPECT_FALSE(device.connected());
+}
+
 } // namespace

@@ -1,5 +1,10 @@
 #include "GuiEditorServices.h"
 
+#include "BatchModel.h"
+#include "DataDirectory.h"
+#include "TFormBatch.h"
+#include "ValidatorStore.h"
+
 #include "ChannelCopyModel.h"
 #include "EditorModel.h"
 #include "SavedValidatorsModel.h"
@@ -301,5 +306,31 @@ void GuiEditorServices::browseSavedValidators(EditorModel &editor)
         return;
     SavedValidatorsModel model(*m_db, m_prompt, &editor);
     TFormReadFileData form(model, m_window);
+    form.exec();
+}
+
+void GuiEditorServices::runBatch(EditorModel &editor)
+{
+    if (!editor.link())
+        return;
+    BatchModel::Sources sources;
+    if (editor.holdsConfiguration())
+        sources.editorImage = editor.image();
+    sources.chooseFile = [this] { return openConfigFileName(); };
+    if (m_db) {
+        ValidatorStore store(*m_db, m_prompt);
+        for (const ValidatorStore::Entry &entry : store.list())
+            sources.saved.append(entry.identification);
+        sources.loadSaved = [this](const QString &identification, ConfigImage &image, QString *) {
+            ValidatorStore loader(*m_db, m_prompt);
+            return loader.loadInto(identification, image);
+        };
+    }
+    sources.dataDirectory =
+        m_db && !m_db->dataDirectory().isEmpty() ? m_db->dataDirectory() : DataDirectory::resolve();
+    if (!m_sounds)
+        m_sounds = std::make_unique<EffectSoundPlayer>();
+    BatchModel model(editor.link(), &m_prompt, m_sounds.get(), std::move(sources));
+    TFormBatch form(model, m_window);
     form.exec();
 }

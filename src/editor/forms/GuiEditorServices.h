@@ -60,6 +60,9 @@ public:
     void editValueTable(EditorModel &editor) override;
     bool savedValidatorsAvailable() override { return m_db != nullptr; }
     void browseSavedValidators(EditorModel &editor) override;
+    // The Batch window over the editor's link, with the program's sounds.
+    bool batchAvailable() override { return true; }
+    void runBatch(EditorModel &editor) override;
 
     // The configuration sheet: its file dialog (answered by setNextSaveFileName too), the
     // print preview with the system's print dialog, and its windows chart.

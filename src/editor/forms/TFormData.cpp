@@ -56,6 +56,7 @@ constexpr Place kPlaces[] = {
     {"BtnCopy", Area::Tools},
     {"BtnValues", Area::Tools},
     {"BtnSaved", Area::Tools},
+    {"BtnBatch", Area::Tools},
     {"BtnPrint", Area::Tools},
     {"BtnPdf", Area::Tools},
 };

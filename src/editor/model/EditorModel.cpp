@@ -39,6 +39,7 @@ constexpr Button kButtons[] = {
     {"BtnCopy", Cap::CopyTitle, false},
     {"BtnValues", Cap::ValuesTable, false},
     {"BtnSaved", Cap::SavedValidators, false},
+    {"BtnBatch", Cap::Batch, true},
     {"BtnPrint", Cap::PrintSheet, false},
     {"BtnPdf", Cap::SaveSheetPdf, false},
     {"BitBtn1", Cap::Close, false},
@@ -90,6 +91,7 @@ EditorModel::EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeu
     c.setVisible(QStringLiteral("BtnCopy"), services && services->copyDialogAvailable());
     c.setVisible(QStringLiteral("BtnValues"), services && services->valueTablesAvailable());
     c.setVisible(QStringLiteral("BtnSaved"), services && services->savedValidatorsAvailable());
+    c.setVisible(QStringLiteral("BtnBatch"), services && services->batchAvailable());
     for (const char *name : {"BtnLearn", "BtnReference", "BtnControl", "BtnOverlap"})
         c.setVisible(QLatin1String(name), services && services->learningAvailable());
     // The sheet is printed once the editor holds a configuration.
@@ -514,6 +516,12 @@ bool EditorModel::click(const QString &name, QString *error)
             EHFUBMIN0Exit();
             if (m_services)
                 m_services->browseSavedValidators(*this);
+        });
+    } else if (name == QLatin1String("BtnBatch")) {
+        exclusive([&] {
+            EHFUBMIN0Exit();
+            if (m_services)
+                m_services->runBatch(*this);
         });
     } else if (isLearningButton(name)) {
         learningClick(name);

@@ -85,6 +85,11 @@ public:
     virtual bool savedValidatorsAvailable() { return false; }
     virtual void browseSavedValidators(EditorModel &) {}
 
+    // The Batch window: this editor's configuration, a file or a saved validator onto
+    // validator after validator, over this editor's link.
+    virtual bool batchAvailable() { return false; }
+    virtual void runBatch(EditorModel &) {}
+
     // The channel copy dialog over its model, where the program has it.
     virtual bool copyDialogAvailable() { return false; }
     virtual void copyChannel(ChannelCopyModel &) {}
