@@ -333,6 +333,20 @@ constexpr Entry kTable[] = {
                                    "length prove %s")},
     {Msg::RepairNotReadBack,
      QT_TRANSLATE_NOOP("Messages", "the rebuilt table could not be read back as written")},
+    {Msg::HistoryNotKept, QT_TRANSLATE_NOOP("Messages", "The history could not be kept: %s")},
+    {Msg::HistoryUnknownSerial,
+     QT_TRANSLATE_NOOP("Messages", "No history is known for the serial number %s")},
+    {Msg::HistoryNoConfiguration,
+     QT_TRANSLATE_NOOP("Messages", "This event holds no configuration to put back")},
+    {Msg::HistoryRestoreQuestion,
+     QT_TRANSLATE_NOOP("Messages", "Put the validator back as it was on %s? This changes:\n%s")},
+    {Msg::HistoryRestoreNothing,
+     QT_TRANSLATE_NOOP("Messages", "The validator already holds the configuration of %s")},
+    {Msg::HistoryNotRead, QT_TRANSLATE_NOOP("Messages", "The history could not be read: %s")},
+    {Msg::HistoryOtherValidator,
+     QT_TRANSLATE_NOOP("Messages",
+                       "The validator connected has the serial number %s, not %s: nothing was "
+                       "written")},
 };
 
 } // namespace

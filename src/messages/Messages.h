@@ -183,6 +183,14 @@ enum class Msg
     // damaged headers
     RecordsRowsPastCount,
     RepairNotReadBack,
+    // each validator's history
+    HistoryNotKept,
+    HistoryUnknownSerial,
+    HistoryNoConfiguration,
+    HistoryRestoreQuestion,
+    HistoryRestoreNothing,
+    HistoryNotRead,
+    HistoryOtherValidator,
     Count_
 };
 

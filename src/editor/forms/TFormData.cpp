@@ -54,6 +54,7 @@ constexpr Place kPlaces[] = {
     {"BtnCopy", Area::Tools},
     {"BtnValues", Area::Tools},
     {"BtnSaved", Area::Tools},
+    {"BtnHistory", Area::Tools},
     {"BtnPrint", Area::Tools},
     {"BtnPdf", Area::Tools},
 };

@@ -38,6 +38,7 @@ constexpr Button kButtons[] = {
     {"BtnCopy", Cap::CopyTitle, false},
     {"BtnValues", Cap::ValuesTable, false},
     {"BtnSaved", Cap::SavedValidators, false},
+    {"BtnHistory", Cap::History, true},
     {"BtnPrint", Cap::PrintSheet, false},
     {"BtnPdf", Cap::SaveSheetPdf, false},
     {"BitBtn1", Cap::Close, false},
@@ -89,6 +90,7 @@ EditorModel::EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeu
     c.setVisible(QStringLiteral("BtnCopy"), services && services->copyDialogAvailable());
     c.setVisible(QStringLiteral("BtnValues"), services && services->valueTablesAvailable());
     c.setVisible(QStringLiteral("BtnSaved"), services && services->savedValidatorsAvailable());
+    c.setVisible(QStringLiteral("BtnHistory"), services && services->historyAvailable());
     for (const char *name : {"BtnLearn", "BtnReference", "BtnControl", "BtnOverlap"})
         c.setVisible(QLatin1String(name), services && services->learningAvailable());
     // The sheet is printed once the editor holds a configuration.
@@ -182,6 +184,9 @@ void EditorModel::showSheetButtons()
 {
     for (const char *name : {"BtnPrint", "BtnPdf"})
         m_s.controls.setEnabled(QLatin1String(name), m_holdsConfiguration);
+    // The history is the connected validator's: it shows once the validator was read or written.
+    m_s.controls.setEnabled(QStringLiteral("BtnHistory"),
+                            m_link && m_s.baselineFrom.fromValidator());
 }
 
 void EditorModel::loadImage(const ConfigImage &image, bool modified, BaselineSource::Kind kind,
@@ -301,6 +306,9 @@ void EditorModel::SpeedButton1Click()
         validatorHolds(m_s.image, BaselineSource::Kind::Read);
         m_lastRead = m_s.image;
         keepBackup();
+        if (m_services)
+            m_services->validatorEvent({QStringLiteral("read"), m_s.image.serialNumber(),
+                                        WriteOutcome::Finished, std::nullopt, m_s.image});
     });
 }
 
@@ -501,6 +509,12 @@ bool EditorModel::click(const QString &name, QString *error)
             EHFUBMIN0Exit();
             if (m_services)
                 m_services->editValueTable(*this);
+        });
+    } else if (name == QLatin1String("BtnHistory")) {
+        exclusive([&] {
+            EHFUBMIN0Exit();
+            if (m_services && m_s.baselineFrom.fromValidator())
+                m_services->showHistory(*this, m_s.baselineFrom.serial);
         });
     } else if (name == QLatin1String("BtnSaved")) {
         exclusive([&] {

@@ -1,9 +1,11 @@
 // The editor's writes and how each one ends: one box that says everything, after the read-back.
 #include "Captions.h"
 #include "CloneTarget.h"
+#include "ConfigFile.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
 #include "Messages.h"
+#include "RestoreWrite.h"
 #include "TMonnayeur.h"
 #include "UserPrompt.h"
 #include "WriteReport.h"
@@ -119,6 +121,7 @@ void EditorModel::SpeedButton2Click()
         const QString backups = m_services && m_services->backupBeforeCloning()
                                     ? m_services->backupDirectory()
                                     : QString();
+        m_cloneTarget.reset();
         if (!backups.isEmpty()) {
             showProgress(true, messageText(Msg::ValidatorReadingInProgress));
             ReadObserver reading;
@@ -126,8 +129,13 @@ void EditorModel::SpeedButton2Click()
                 setGauge(gauge);
                 flush();
             };
-            const bool goOn = keepCloneTarget(*m_link, backups, reading).goOn;
+            const TargetBackup kept = keepCloneTarget(*m_link, backups, reading);
+            const bool goOn = kept.goOn;
             showProgress(false);
+            // The target as read: its history's serial number and what the clone starts from.
+            ConfigImage target;
+            if (!kept.file.isEmpty() && loadConfigFile(kept.file, target, nullptr))
+                m_cloneTarget = target;
             if (!goOn) {
                 display();
                 return;
@@ -136,6 +144,16 @@ void EditorModel::SpeedButton2Click()
         writeWithEnding({WriteJob::Kind::Clone, *groups});
         display();
     });
+}
+
+void EditorModel::restoreState(const ConfigImage &state, const QString &from)
+{
+    if (!m_link)
+        return;
+    loadImage(state, true, BaselineSource::Kind::File, from);
+    m_restoring = true;
+    SpeedButton8Click();
+    m_restoring = false;
 }
 
 void EditorModel::writeWithEnding(WriteJob job)
@@ -191,7 +209,12 @@ WriteOutcome EditorModel::writeImage(ConfigImage &image, FullWriteOptions &optio
         setGauge(gauge);
         flush();
     };
-    const WriteOutcome outcome = fullWrite(*m_link, image, options, observer, &sent);
+    const std::optional<ConfigImage> read =
+        m_lastRead && m_lastRead->serialNumber() == m_s.baselineFrom.serial ? m_lastRead
+                                                                           : std::nullopt;
+    const WriteOutcome outcome = m_restoring
+                                     ? restoreWrite(*m_link, image, read, options, observer, &sent)
+                                     : fullWrite(*m_link, image, options, observer, &sent);
     showProgress(false);
     return outcome;
 }
@@ -212,9 +235,21 @@ WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &endin
         const WriteOutcome outcome = cloneWrite(*m_link, m_s.image, job.groups, observer, &sent);
         showProgress(false);
         // The image stays the source's: Changes and the modified flag are left as they were.
+        std::optional<VerifyResult> result;
         if (outcome == WriteOutcome::Finished) {
-            if (const std::optional<VerifyResult> result = verifyAfterWrite(sent))
+            result = verifyAfterWrite(sent);
+            if (result)
                 ending.verified(*result);
+        }
+        // The target's history: known by its serial number when it was read first or back.
+        if (m_services && (m_cloneTarget || (result && result->outcome != VerifyOutcome::ReadBackFailed))) {
+            const std::optional<ConfigImage> holds =
+                m_cloneTarget ? std::optional(expectedAfterWrite(*m_cloneTarget, sent))
+                              : std::nullopt;
+            m_services->validatorEvent({QStringLiteral("clone"),
+                                        m_cloneTarget ? m_cloneTarget->serialNumber()
+                                                      : result->readBack.serialNumber(),
+                                        outcome, result, holds});
         }
         return outcome;
     }
@@ -236,13 +271,23 @@ WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &endin
     const WriteOutcome outcome = writeImage(image, options, sent, ending);
     if (!putBack)
         m_s.flags.serialOverride = options.serialOverride;
-    if (outcome != WriteOutcome::Finished)
+    const QString kind =
+        putBack || m_restoring ? QStringLiteral("restore") : QStringLiteral("write");
+    if (outcome != WriteOutcome::Finished) {
+        if (m_services)
+            m_services->validatorEvent({kind, image.serialNumber(), outcome, std::nullopt, {}});
         return outcome;
+    }
     // The validator now holds the image, unless the read-back shows otherwise: then closing
     // offers to write it again, and Changes counts from what it holds.
     const std::optional<VerifyResult> result = verifyAfterWrite(sent);
     if (result)
         ending.verified(*result);
+    // A step refused leaves what the validator holds unknown without the read-back.
+    if (m_services)
+        m_services->validatorEvent(
+            {kind, image.serialNumber(), outcome, result,
+             stepsRefused(sent.steps).isEmpty() ? std::optional(image) : std::nullopt});
     const bool differs = result && result->outcome == VerifyOutcome::Mismatches;
     // Without the read-back, a refused step still leaves something to write again.
     const bool refused = !result && !stepsRefused(sent.steps).isEmpty();
