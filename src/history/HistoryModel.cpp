@@ -28,7 +28,8 @@ QString HistoryModel::kindText(const QString &kind)
         {QStringLiteral("learn"), Cap::HistoryKindLearn},
         {QStringLiteral("calibrate"), Cap::HistoryKindCalibrate},
         {QStringLiteral("restore"), Cap::HistoryKindRestore},
-        {QStringLiteral("backup"), Cap::HistoryKindBackup}};
+        {QStringLiteral("backup"), Cap::HistoryKindBackup},
+        {QStringLiteral("store"), Cap::HistoryKindStore}};
     for (const auto &[key, caption] : kinds) {
         if (key == kind)
             return captionText(caption);
@@ -99,7 +100,8 @@ bool HistoryModel::load(quint32 serial)
         else if (changes->size() == 1)
             row.changes = changes->first().text();
         else
-            row.changes = changes->first().text() + QStringLiteral(" (+%1)").arg(changes->size() - 1);
+            row.changes =
+                changes->first().text() + QStringLiteral(" (+%1)").arg(changes->size() - 1);
         m_rows.append(row);
     }
     if (m_events.isEmpty())
@@ -211,9 +213,9 @@ bool HistoryModel::restore()
         lines.append(captionText(Cap::HistoryUnknown));
     }
     if (!m_prompt ||
-        m_prompt->ask(messageText(Msg::HistoryRestoreQuestion, {eventTime(index), lines.join(u'\n')}),
-                      UserPrompt::Kind::Confirmation,
-                      UserPrompt::Buttons::YesNo) != UserPrompt::Answer::Yes)
+        m_prompt->ask(
+            messageText(Msg::HistoryRestoreQuestion, {eventTime(index), lines.join(u'\n')}),
+            UserPrompt::Kind::Confirmation, UserPrompt::Buttons::YesNo) != UserPrompt::Answer::Yes)
         return false;
     const bool written = m_write(*state);
     load(m_serial);

@@ -10,6 +10,7 @@
 #include <QSysInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -22,6 +23,8 @@ QString &programName()
 QString userName()
 {
     QString user = qEnvironmentVariable("USER");
+    if (user.isEmpty())
+        user = qEnvironmentVariable("LOGNAME");
     if (user.isEmpty())
         user = qEnvironmentVariable("USERNAME");
     return user;
@@ -79,15 +82,57 @@ std::optional<HistoryEvent> writeHistoryEvent(const QString &kind, quint32 seria
     return historyEvent(serial, kind, {}, written, detail);
 }
 
+namespace {
+
+// The history of a data directory, opened when first used, so that a program that records
+// nothing touches nothing; the read backups are taken in then.
+class OpenedWhenUsed final : public HistoryStore
+{
+public:
+    OpenedWhenUsed(const QString &dataDirectory, UserPrompt *prompt)
+        : m_data(dataDirectory), m_files(dataDirectory), m_prompt(prompt),
+          m_opened(QDateTime::currentDateTime())
+    {}
+    bool record(const HistoryEvent &event, QString *error) override
+    {
+        takeBackups();
+        return m_files.record(event, error);
+    }
+    std::optional<QList<HistoryEvent>> events(quint32 serial, QString *error) const override
+    {
+        takeBackups();
+        return m_files.events(serial, error);
+    }
+    std::optional<QList<HistorySerial>> serials(QString *error) const override
+    {
+        takeBackups();
+        return m_files.serials(error);
+    }
+
+private:
+    void takeBackups() const
+    {
+        if (std::exchange(m_tried, true))
+            return;
+        QString error;
+        if (m_files.importBackupsOnce(QDir(m_data).filePath(QStringLiteral("backups")),
+                                      QSysInfo::machineHostName(), m_opened, &error) < 0 &&
+            m_prompt)
+            m_prompt->tell(messageText(Msg::HistoryNotKept, {error}), UserPrompt::Kind::Warning);
+    }
+
+    QString m_data;
+    mutable HistoryFiles m_files;
+    UserPrompt *m_prompt;
+    QDateTime m_opened;
+    mutable bool m_tried = false;
+};
+
+} // namespace
+
 std::unique_ptr<HistoryStore> openHistory(const QString &dataDirectory, UserPrompt *prompt)
 {
-    auto files = std::make_unique<HistoryFiles>(dataDirectory);
-    QString error;
-    if (files->importBackupsOnce(QDir(dataDirectory).filePath(QStringLiteral("backups")),
-                                 QSysInfo::machineHostName(), &error) < 0 &&
-        prompt)
-        prompt->tell(messageText(Msg::HistoryNotKept, {error}), UserPrompt::Kind::Warning);
-    return files;
+    return std::make_unique<OpenedWhenUsed>(dataDirectory, prompt);
 }
 
 bool keepHistory(HistoryStore *store, const HistoryEvent &event, UserPrompt *prompt)
@@ -124,11 +169,13 @@ void keepValidatorEvent(const ValidatorEvent &event, UserPrompt *prompt)
 {
     if (!currentHistory())
         return;
+    const bool written =
+        event.kind != QLatin1String("read") && event.kind != QLatin1String("store");
     const std::optional<HistoryEvent> kept =
-        event.kind == QLatin1String("read")
-            ? std::optional(historyEvent(event.serial, event.kind, {}, event.configuration))
-            : writeHistoryEvent(event.kind, event.serial, event.outcome, event.verified,
-                                event.configuration);
+        written ? writeHistoryEvent(event.kind, event.serial, event.outcome, event.verified,
+                                    event.configuration, event.detail)
+                : std::optional(historyEvent(event.serial, event.kind, {}, event.configuration,
+                                             event.detail));
     if (kept)
         keepHistory(currentHistory(), *kept, prompt);
 }
@@ -139,8 +186,8 @@ void keepChannelWritten(const QString &kind, const ConfigImage &image, int chann
     HistoryStore *store = currentHistory();
     const quint32 serial = image.serialNumber();
     // A validator whose identification was not read has no history to add to.
-    if (!store || std::all_of(image.ident.begin(), image.ident.end(),
-                              [](quint8 b) { return b == 0xFF; }))
+    if (!store ||
+        std::all_of(image.ident.begin(), image.ident.end(), [](quint8 b) { return b == 0xFF; }))
         return;
     const QString detail = QString::number(channel + 1);
     std::optional<ConfigImage> holds;
@@ -162,8 +209,26 @@ void keepChannelWritten(const QString &kind, const ConfigImage &image, int chann
             }
         }
     }
-    keepHistory(store,
-                historyEvent(serial, kind,
-                             written ? QString() : QStringLiteral("failed"), holds, detail),
-                prompt);
+    keepHistory(
+        store,
+        historyEvent(serial, kind, written ? QString() : QStringLiteral("failed"), holds, detail),
+        prompt);
+}
+
+std::optional<quint32> serialSavedAs(const HistoryStore &store, const QString &identification)
+{
+    std::optional<quint32> found;
+    QDateTime newest;
+    const std::optional<QList<HistorySerial>> serials = store.serials();
+    for (const HistorySerial &serial : serials.value_or(QList<HistorySerial>{})) {
+        const std::optional<QList<HistoryEvent>> events = store.events(serial.serial);
+        for (const HistoryEvent &event : events.value_or(QList<HistoryEvent>{})) {
+            if (event.kind == QLatin1String("store") && event.detail == identification &&
+                (!found || event.time > newest)) {
+                found = serial.serial;
+                newest = event.time;
+            }
+        }
+    }
+    return found;
 }

@@ -31,8 +31,9 @@ std::optional<HistoryEvent> writeHistoryEvent(const QString &kind, quint32 seria
                                               const std::optional<ConfigImage> &written,
                                               const QString &detail = {});
 
-// The history of the data directory, its read backups (<dir>/backups) taken in the first time.
-// A backup import that fails is said through prompt (when given) and tried again next time.
+// The history of the data directory, opened when first used: its read backups (<dir>/backups)
+// are taken in then, the first time. A backup import that fails is said through prompt (when
+// given) and tried again next time.
 std::unique_ptr<HistoryStore> openHistory(const QString &dataDirectory,
                                           UserPrompt *prompt = nullptr);
 
@@ -54,3 +55,7 @@ void keepValidatorEvent(const ValidatorEvent &event, UserPrompt *prompt);
 // and the enable bitmap) of image laid over it.
 void keepChannelWritten(const QString &kind, const ConfigImage &image, int channel, bool written,
                         UserPrompt *prompt);
+
+// The serial number of the validator whose configuration was last saved in the tables under
+// identification ("store" events), when a history notes it.
+std::optional<quint32> serialSavedAs(const HistoryStore &store, const QString &identification);

@@ -239,6 +239,7 @@ enum class Cap
     HistoryKindCalibrate,
     HistoryKindRestore,
     HistoryKindBackup,
+    HistoryKindStore,
     HistoryVerified,
     HistoryMismatch,
     HistoryFailed,

@@ -347,6 +347,9 @@ constexpr Entry kTable[] = {
      QT_TRANSLATE_NOOP("Messages",
                        "The validator connected has the serial number %s, not %s: nothing was "
                        "written")},
+    {Msg::HistoryUnknownSaved,
+     QT_TRANSLATE_NOOP("Messages", "No history notes the validator saved as %s: its history "
+                                   "is known once it is saved after a read or a write")},
 };
 
 } // namespace

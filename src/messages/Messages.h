@@ -191,6 +191,7 @@ enum class Msg
     HistoryRestoreNothing,
     HistoryNotRead,
     HistoryOtherValidator,
+    HistoryUnknownSaved,
     Count_
 };
 

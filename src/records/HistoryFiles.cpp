@@ -105,12 +105,12 @@ QByteArray recordBytes(const QByteArray &text)
 struct ParsedFile
 {
     QList<HistoryEvent> events;
-    qint64 validEnd = 0;  // where the whole records end
+    qint64 validEnd = 0;   // where the whole records end
     QByteArray lastPacked; // the last configuration known, packed; empty when none
 };
 
-bool readEventFile(const QString &path, quint32 serial, bool withConfigurations,
-                   ParsedFile &parsed, QString *error)
+bool readEventFile(const QString &path, quint32 serial, bool withConfigurations, ParsedFile &parsed,
+                   QString *error)
 {
     QFile file(path);
     if (!file.exists())
@@ -177,8 +177,7 @@ bool sameEvent(const HistoryEvent &a, const HistoryEvent &b)
 
 HistoryFiles::HistoryFiles(const QString &dataDirectory)
     : m_dir(QDir(dataDirectory).filePath(QStringLiteral("history")))
-{
-}
+{}
 
 QString HistoryFiles::fileOf(quint32 serial) const
 {
@@ -341,7 +340,7 @@ std::optional<QList<HistorySerial>> HistoryFiles::serials(QString *error) const
 }
 
 int HistoryFiles::importBackupsOnce(const QString &backupDirectory, const QString &machine,
-                                    QString *error)
+                                    const QDateTime &before, QString *error)
 {
     const QString note = QDir(m_dir).filePath(kImportedNote);
     if (QFileInfo::exists(note))
@@ -354,7 +353,9 @@ int HistoryFiles::importBackupsOnce(const QString &backupDirectory, const QStrin
         backups.entryList({QStringLiteral("*-serial*.json")}, QDir::Files, QDir::Name);
     for (const QString &file : files) {
         const QRegularExpressionMatch match = name.match(file);
-        if (!match.hasMatch())
+        const QDateTime named =
+            QDateTime::fromString(match.captured(1), QStringLiteral("yyyyMMdd-HHmmss-zzz"));
+        if (!match.hasMatch() || !named.isValid() || named >= before)
             continue;
         ConfigImage image;
         QString ignored;
@@ -364,9 +365,7 @@ int HistoryFiles::importBackupsOnce(const QString &backupDirectory, const QStrin
         HistoryEvent event;
         event.serial = image.serialNumber();
         // The backups were named in the machine's local time.
-        event.time =
-            QDateTime::fromString(match.captured(1), QStringLiteral("yyyyMMdd-HHmmss-zzz"))
-                .toUTC();
+        event.time = named.toUTC();
         // Two backups of one millisecond are told apart by their number.
         if (!match.captured(3).isEmpty())
             event.time = event.time.addMSecs(match.captured(3).mid(1).toInt() - 1);
@@ -379,7 +378,8 @@ int HistoryFiles::importBackupsOnce(const QString &backupDirectory, const QStrin
         ++taken;
     }
     QString why;
-    if (!QDir().mkpath(m_dir) || !DurableFile::write(note, QByteArray::number(taken) + '\n', &why)) {
+    if (!QDir().mkpath(m_dir) ||
+        !DurableFile::write(note, QByteArray::number(taken) + '\n', &why)) {
         if (error)
             *error = QDir::toNativeSeparators(note) + QStringLiteral(": ") + why;
         return -1;

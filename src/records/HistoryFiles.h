@@ -35,9 +35,11 @@ public:
     // Takes the read backups of backupDirectory (files "<yyyyMMdd-HHmmss-zzz>-serial<N>.json")
     // into the history as "backup" events, once: a note in the history folder says it was done.
     // An import cut short is done again from the start; the events it had recorded are kept once.
-    // Returns the number of backups taken in, or -1 with the reason in *error.
+    // Backups from before (local time) only are taken: the ones this program writes from then on
+    // have their read in the history already. Returns the number of backups taken in, or -1
+    // with the reason in *error.
     int importBackupsOnce(const QString &backupDirectory, const QString &machine,
-                          QString *error = nullptr);
+                          const QDateTime &before, QString *error = nullptr);
 
     // The fixed byte form of a configuration in the history (every block in a fixed order).
     static QByteArray packConfiguration(const ConfigImage &image);

@@ -60,6 +60,12 @@ public:
     bool savedValidatorsAvailable() override { return m_db != nullptr; }
     void browseSavedValidators(EditorModel &editor) override;
 
+    // Each validator's history, in the history the program keeps (currentHistory()): the
+    // editor's reads and writes are kept there; the History window over the editor.
+    void validatorEvent(const ValidatorEvent &event) override;
+    bool historyAvailable() override;
+    void showHistory(EditorModel &editor, quint32 serial) override;
+
     // The configuration sheet: its file dialog (answered by setNextSaveFileName too), the
     // print preview with the system's print dialog, and its windows chart.
     QString saveSheetFileName(const QString &suggested) override;

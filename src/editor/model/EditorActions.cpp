@@ -31,8 +31,20 @@ void EditorModel::SpeedButton4Click()
         }
         if (!unwrittenChangesAccepted(false))
             return;
-        tables->storeValidator(m_s.image, identification,
-                               m_s.text(QStringLiteral("EDescription")).trimmed());
+        const ValidatorTables::Outcome stored = tables->storeValidator(
+            m_s.image, identification, m_s.text(QStringLiteral("EDescription")).trimmed());
+        // The validator read or written is the one the saved validator came from: its history
+        // notes the name, so that the browser finds the history of what it saved.
+        if (stored == ValidatorTables::Outcome::Stored && m_services &&
+            m_s.baselineFrom.fromValidator()) {
+            const ValidatorEvent event{QStringLiteral("store"),
+                                       m_s.baselineFrom.serial,
+                                       WriteOutcome::Finished,
+                                       std::nullopt,
+                                       m_s.baseline,
+                                       identification};
+            m_services->validatorEvent(event);
+        }
     });
 }
 

@@ -307,8 +307,12 @@ void EditorModel::SpeedButton1Click()
         m_lastRead = m_s.image;
         keepBackup();
         if (m_services)
-            m_services->validatorEvent({QStringLiteral("read"), m_s.image.serialNumber(),
-                                        WriteOutcome::Finished, std::nullopt, m_s.image});
+            m_services->validatorEvent({QStringLiteral("read"),
+                                        m_s.image.serialNumber(),
+                                        WriteOutcome::Finished,
+                                        std::nullopt,
+                                        m_s.image,
+                                        {}});
     });
 }
 

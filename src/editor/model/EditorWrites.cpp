@@ -211,7 +211,7 @@ WriteOutcome EditorModel::writeImage(ConfigImage &image, FullWriteOptions &optio
     };
     const std::optional<ConfigImage> read =
         m_lastRead && m_lastRead->serialNumber() == m_s.baselineFrom.serial ? m_lastRead
-                                                                           : std::nullopt;
+                                                                            : std::nullopt;
     const WriteOutcome outcome = m_restoring
                                      ? restoreWrite(*m_link, image, read, options, observer, &sent)
                                      : fullWrite(*m_link, image, options, observer, &sent);
@@ -242,14 +242,18 @@ WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &endin
                 ending.verified(*result);
         }
         // The target's history: known by its serial number when it was read first or back.
-        if (m_services && (m_cloneTarget || (result && result->outcome != VerifyOutcome::ReadBackFailed))) {
+        if (m_services &&
+            (m_cloneTarget || (result && result->outcome != VerifyOutcome::ReadBackFailed))) {
             const std::optional<ConfigImage> holds =
                 m_cloneTarget ? std::optional(expectedAfterWrite(*m_cloneTarget, sent))
                               : std::nullopt;
-            m_services->validatorEvent({QStringLiteral("clone"),
-                                        m_cloneTarget ? m_cloneTarget->serialNumber()
-                                                      : result->readBack.serialNumber(),
-                                        outcome, result, holds});
+            m_services->validatorEvent(
+                {QStringLiteral("clone"),
+                 m_cloneTarget ? m_cloneTarget->serialNumber() : result->readBack.serialNumber(),
+                 outcome,
+                 result,
+                 holds,
+                 {}});
         }
         return outcome;
     }
@@ -275,7 +279,8 @@ WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &endin
         putBack || m_restoring ? QStringLiteral("restore") : QStringLiteral("write");
     if (outcome != WriteOutcome::Finished) {
         if (m_services)
-            m_services->validatorEvent({kind, image.serialNumber(), outcome, std::nullopt, {}});
+            m_services->validatorEvent(
+                {kind, image.serialNumber(), outcome, std::nullopt, std::nullopt, {}});
         return outcome;
     }
     // The validator now holds the image, unless the read-back shows otherwise: then closing
@@ -286,8 +291,12 @@ WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &endin
     // A step refused leaves what the validator holds unknown without the read-back.
     if (m_services)
         m_services->validatorEvent(
-            {kind, image.serialNumber(), outcome, result,
-             stepsRefused(sent.steps).isEmpty() ? std::optional(image) : std::nullopt});
+            {kind,
+             image.serialNumber(),
+             outcome,
+             result,
+             stepsRefused(sent.steps).isEmpty() ? std::optional(image) : std::nullopt,
+             {}});
     const bool differs = result && result->outcome == VerifyOutcome::Mismatches;
     // Without the read-back, a refused step still leaves something to write again.
     const bool refused = !result && !stepsRefused(sent.steps).isEmpty();
