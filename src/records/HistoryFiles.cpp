@@ -6,10 +6,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QSet>
 #include <QtEndian>
 
 #include <algorithm>
@@ -18,7 +20,13 @@
 namespace {
 
 constexpr char kMagic[4] = {'T', 'V', 'H', '1'};
+constexpr char kTrailerMagic[4] = {'T', 'V', 'H', 'E'};
 constexpr qsizetype kHeaderSize = 12;
+constexpr qsizetype kTrailerSize = 8;
+// A whole configuration again after this many written as changes, so that recording reads only
+// the last few records of a long history.
+constexpr int kWholeEvery = 32;
+constexpr int kMaxWalk = 4 * kWholeEvery;
 // A record's text is far smaller; a length past this is a damaged header, not a record.
 constexpr quint32 kMaxRecordText = 1 << 20;
 const QString kImportedNote = QStringLiteral("backups-imported");
@@ -98,42 +106,53 @@ QByteArray recordBytes(const QByteArray &text)
     qToLittleEndian<quint32>(crcOf(text), number);
     out.append(number, 4);
     out.append(text);
+    // The trailer lets the last records be found from the end without reading the file.
+    qToLittleEndian<quint32>(quint32(kHeaderSize + text.size() + kTrailerSize), number);
+    out.append(number, 4);
+    out.append(kTrailerMagic, 4);
     return out;
 }
 
-// One serial's file, read from the start up to its first record that is not whole.
+// The text of the whole record at offset at of bytes, or nothing when it is not whole.
+std::optional<QByteArray> recordText(const QByteArray &bytes, qsizetype at)
+{
+    if (at < 0 || at + kHeaderSize + kTrailerSize > bytes.size())
+        return std::nullopt;
+    const char *head = bytes.constData() + at;
+    if (std::memcmp(head, kMagic, 4) != 0)
+        return std::nullopt;
+    const quint32 length = qFromLittleEndian<quint32>(head + 4);
+    const quint32 crc = qFromLittleEndian<quint32>(head + 8);
+    const qsizetype total = kHeaderSize + qsizetype(length) + kTrailerSize;
+    if (length > kMaxRecordText || at + total > bytes.size())
+        return std::nullopt;
+    const char *trailer = head + kHeaderSize + length;
+    if (qFromLittleEndian<quint32>(trailer) != quint32(total) ||
+        std::memcmp(trailer + 4, kTrailerMagic, 4) != 0)
+        return std::nullopt;
+    QByteArray text(head + kHeaderSize, length);
+    if (crcOf(text) != crc)
+        return std::nullopt;
+    return text;
+}
+
+// One serial's records, read from a start up to the first record that is not whole.
 struct ParsedFile
 {
     QList<HistoryEvent> events;
     qint64 validEnd = 0;   // where the whole records end
     QByteArray lastPacked; // the last configuration known, packed; empty when none
+    int sinceWhole = 0;    // configurations written as changes since the last whole one
 };
 
-bool readEventFile(const QString &path, quint32 serial, bool withConfigurations, ParsedFile &parsed,
-                   QString *error)
+// Reads the records of bytes (which start at offset base of the file) from the first one on.
+void parseRecords(const QByteArray &bytes, qint64 base, quint32 serial, bool withConfigurations,
+                  ParsedFile &parsed)
 {
-    QFile file(path);
-    if (!file.exists())
-        return true;
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = path + QStringLiteral(": ") + file.errorString();
-        return false;
-    }
-    const QByteArray all = file.readAll();
     qsizetype at = 0;
-    while (at + kHeaderSize <= all.size()) {
-        const char *head = all.constData() + at;
-        if (std::memcmp(head, kMagic, 4) != 0)
-            break;
-        const quint32 length = qFromLittleEndian<quint32>(head + 4);
-        const quint32 crc = qFromLittleEndian<quint32>(head + 8);
-        if (length > kMaxRecordText || at + kHeaderSize + qsizetype(length) > all.size())
-            break;
-        const QByteArray text = all.mid(at + kHeaderSize, length);
-        if (crcOf(text) != crc)
-            break;
-        const QJsonObject o = QJsonDocument::fromJson(text).object();
+    parsed.validEnd = base;
+    while (const std::optional<QByteArray> text = recordText(bytes, at)) {
+        const QJsonObject o = QJsonDocument::fromJson(*text).object();
         HistoryEvent event;
         event.serial = serial;
         event.time = QDateTime::fromMSecsSinceEpoch(o.value(u"t").toInteger(), Qt::UTC);
@@ -148,10 +167,12 @@ bool readEventFile(const QString &path, quint32 serial, bool withConfigurations,
         bool known = true;
         if (o.contains(u"c")) {
             parsed.lastPacked = QByteArray::fromHex(o.value(u"c").toString().toLatin1());
+            parsed.sinceWhole = 0;
         } else if (o.contains(u"x")) {
             if (parsed.lastPacked.isEmpty() ||
                 !applyPatch(parsed.lastPacked, o.value(u"x").toArray()))
                 break;
+            ++parsed.sinceWhole;
         } else if (!o.contains(u"s") || parsed.lastPacked.isEmpty()) {
             known = false;
         }
@@ -162,10 +183,58 @@ bool readEventFile(const QString &path, quint32 serial, bool withConfigurations,
             event.configuration = image;
         }
         parsed.events.append(event);
-        at += kHeaderSize + length;
-        parsed.validEnd = at;
+        at += kHeaderSize + text->size() + kTrailerSize;
+        parsed.validEnd = base + at;
     }
+}
+
+bool readEventFile(const QString &path, quint32 serial, bool withConfigurations, ParsedFile &parsed,
+                   QString *error)
+{
+    QFile file(path);
+    if (!file.exists())
+        return true;
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = path + QStringLiteral(": ") + file.errorString();
+        return false;
+    }
+    parseRecords(file.readAll(), 0, serial, withConfigurations, parsed);
     return true;
+}
+
+// What recording needs of a serial's file without reading it all: from the end, back over
+// whole records to the last one holding a whole configuration, then those records forward.
+// False when the end is not a whole record (a kill cut one short) or the walk is too long: then
+// the whole file is read.
+bool readRecentRecords(QFile &file, quint32 serial, ParsedFile &parsed)
+{
+    const qint64 size = file.size();
+    qint64 end = size;
+    qint64 start = size;
+    for (int walked = 0; end > 0; ++walked) {
+        if (walked > kMaxWalk || end < kHeaderSize + kTrailerSize || !file.seek(end - kTrailerSize))
+            return false;
+        const QByteArray trailer = file.read(kTrailerSize);
+        if (trailer.size() != kTrailerSize ||
+            std::memcmp(trailer.constData() + 4, kTrailerMagic, 4))
+            return false;
+        const qint64 total = qFromLittleEndian<quint32>(trailer.constData());
+        if (total < kHeaderSize + kTrailerSize || total > end || !file.seek(end - total))
+            return false;
+        const QByteArray record = file.read(total);
+        const std::optional<QByteArray> text = recordText(record, 0);
+        if (!text)
+            return false;
+        start = end - total;
+        end = start;
+        if (QJsonDocument::fromJson(*text).object().contains(u"c"))
+            break;
+    }
+    if (!file.seek(start))
+        return false;
+    parseRecords(file.readAll(), start, serial, false, parsed);
+    return parsed.validEnd == size;
 }
 
 bool sameEvent(const HistoryEvent &a, const HistoryEvent &b)
@@ -241,8 +310,19 @@ bool HistoryFiles::record(const HistoryEvent &event, QString *error)
 
     const QString path = fileOf(event.serial);
     ParsedFile parsed;
-    if (!readEventFile(path, event.serial, false, parsed, error))
-        return false;
+    {
+        QFile file(path);
+        if (file.exists() && !file.open(QIODevice::ReadOnly))
+            return fail(QDir::toNativeSeparators(path) + QStringLiteral(": ") + file.errorString());
+        if (file.isOpen() && !readRecentRecords(file, event.serial, parsed)) {
+            parsed = {};
+            if (!file.seek(0))
+                return fail(QDir::toNativeSeparators(path) + QStringLiteral(": ") +
+                            file.errorString());
+            parseRecords(file.readAll(), 0, event.serial, false, parsed);
+        }
+    }
+    // The same event recorded again (a retry after a kill) is kept once.
     for (const HistoryEvent &kept : parsed.events) {
         if (sameEvent(kept, event))
             return true;
@@ -260,7 +340,7 @@ bool HistoryFiles::record(const HistoryEvent &event, QString *error)
         o.insert(QStringLiteral("d"), event.detail);
     if (event.configuration) {
         const QByteArray packed = packConfiguration(*event.configuration);
-        if (parsed.lastPacked.isEmpty())
+        if (parsed.lastPacked.isEmpty() || parsed.sinceWhole + 1 >= kWholeEvery)
             o.insert(QStringLiteral("c"), QString::fromLatin1(packed.toHex()));
         else if (packed == parsed.lastPacked)
             o.insert(QStringLiteral("s"), 1);
@@ -347,7 +427,8 @@ int HistoryFiles::importBackupsOnce(const QString &backupDirectory, const QStrin
         return 0;
     static const QRegularExpression name(
         QStringLiteral("^(\\d{8}-\\d{6}-\\d{3})-serial(\\d{1,10})(-\\d+)?\\.json$"));
-    int taken = 0;
+    int count = 0;
+    QHash<quint32, QSet<qint64>> taken;
     const QDir backups(backupDirectory);
     const QStringList files =
         backups.entryList({QStringLiteral("*-serial*.json")}, QDir::Files, QDir::Name);
@@ -373,16 +454,30 @@ int HistoryFiles::importBackupsOnce(const QString &backupDirectory, const QStrin
         event.machine = machine;
         event.detail = file;
         event.configuration = image;
+        // An import cut short left some of them in already.
+        if (!taken.contains(event.serial)) {
+            QSet<qint64> &times = taken[event.serial];
+            const std::optional<QList<HistoryEvent>> kept = events(event.serial, error);
+            if (!kept)
+                return -1;
+            for (const HistoryEvent &old : *kept) {
+                if (old.kind == event.kind)
+                    times.insert(old.time.toMSecsSinceEpoch());
+            }
+        }
+        if (taken[event.serial].contains(event.time.toMSecsSinceEpoch()))
+            continue;
         if (!record(event, error))
             return -1;
-        ++taken;
+        taken[event.serial].insert(event.time.toMSecsSinceEpoch());
+        ++count;
     }
     QString why;
     if (!QDir().mkpath(m_dir) ||
-        !DurableFile::write(note, QByteArray::number(taken) + '\n', &why)) {
+        !DurableFile::write(note, QByteArray::number(count) + '\n', &why)) {
         if (error)
             *error = QDir::toNativeSeparators(note) + QStringLiteral(": ") + why;
         return -1;
     }
-    return taken;
+    return count;
 }
