@@ -177,6 +177,8 @@ void ScreenshotTour::buildSteps()
              typeInEditor(QStringLiteral("Eprix1"), QStringLiteral("1.20"));
              click(editor, QStringLiteral("BtnChanges"));
          }},
+        // The validator's history: its read, with what each event changed.
+        {QStringLiteral("history"), QStringLiteral("TFormHistory"), editorButton("BtnHistory")},
         {QStringLiteral("parameters"), QStringLiteral("TFormMain"),
          [this, parameters] {
              QMenuBar *bar = m_main->menuBar();

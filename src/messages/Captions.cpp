@@ -229,7 +229,6 @@ constexpr Entry kTable[] = {
     {Cap::HistoryResult, QT_TRANSLATE_NOOP("Captions", "Result")},
     {Cap::HistoryProgram, QT_TRANSLATE_NOOP("Captions", "Program")},
     {Cap::HistoryChanges, QT_TRANSLATE_NOOP("Captions", "Changes")},
-    {Cap::HistoryCompare, QT_TRANSLATE_NOOP("Captions", "Compare")},
     {Cap::HistoryRestore, QT_TRANSLATE_NOOP("Captions", "Restore")},
     {Cap::HistoryKindRead, QT_TRANSLATE_NOOP("Captions", "Read")},
     {Cap::HistoryKindWrite, QT_TRANSLATE_NOOP("Captions", "Write")},

@@ -228,7 +228,6 @@ enum class Cap
     HistoryResult,
     HistoryProgram,
     HistoryChanges,
-    HistoryCompare,
     HistoryRestore,
     HistoryKindRead,
     HistoryKindWrite,
