@@ -407,12 +407,30 @@ std::optional<QList<HistorySerial>> HistoryFiles::serials(QString *error) const
         const quint32 serial = match.hasMatch() ? match.captured(1).toUInt(&ok) : 0;
         if (!ok)
             continue;
-        ParsedFile parsed;
-        if (!readEventFile(dir.filePath(file), serial, false, parsed, error))
+        // Counted by their frames; only the last one's text is read.
+        QFile events(dir.filePath(file));
+        if (!events.open(QIODevice::ReadOnly)) {
+            if (error)
+                *error = QDir::toNativeSeparators(events.fileName()) + QStringLiteral(": ") +
+                         events.errorString();
             return std::nullopt;
+        }
+        const QByteArray bytes = events.readAll();
+        int count = 0;
+        qsizetype at = 0;
+        qsizetype last = -1;
+        while (const std::optional<QByteArray> text = recordText(bytes, at)) {
+            ++count;
+            last = at;
+            at += kHeaderSize + text->size() + kTrailerSize;
+        }
+        if (count == 0)
+            continue;
+        ParsedFile parsed;
+        parseRecords(bytes.mid(last), last, serial, false, parsed);
         if (parsed.events.isEmpty())
             continue;
-        list.append({serial, int(parsed.events.size()), parsed.events.constLast()});
+        list.append({serial, count, parsed.events.constLast()});
     }
     std::sort(list.begin(), list.end(),
               [](const HistorySerial &a, const HistorySerial &b) { return a.serial < b.serial; });

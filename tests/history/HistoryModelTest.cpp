@@ -28,6 +28,7 @@ public:
     {
         keepValidatorEvent(event, &m_prompt);
     }
+    bool historyAvailable() override { return true; }
 
 private:
     UserPrompt &m_prompt;
@@ -69,7 +70,11 @@ struct Bench
 TEST(HistoryModel, TheEditorsReadAndWriteAreListedWithTheirChangesComparedAndTheFirstPutBack)
 {
     Bench b;
+    EXPECT_FALSE(b.editor.control(QStringLiteral("BtnHistory")).enabled);
     b.editor.SpeedButton1Click();
+    // The connected validator's history, once it was read.
+    EXPECT_TRUE(b.editor.control(QStringLiteral("BtnHistory")).visible);
+    EXPECT_TRUE(b.editor.control(QStringLiteral("BtnHistory")).enabled);
     const ConfigImage first = b.device->memory();
     b.edit(QStringLiteral("EHFUBMIN0"), QStringLiteral("71"));
     b.editor.SpeedButton8Click();

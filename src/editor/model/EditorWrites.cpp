@@ -329,6 +329,8 @@ void EditorModel::validatorHolds(const ConfigImage &image, BaselineSource::Kind 
 {
     m_s.baseline = image;
     m_s.baselineFrom = {kind, {}, image.serialNumber(), QDateTime::currentDateTime()};
+    // The History button follows the validator read or written.
+    showSheetButtons();
 }
 
 bool EditorModel::unwrittenChangesAccepted(bool opening)

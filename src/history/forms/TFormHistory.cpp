@@ -13,9 +13,9 @@
 #include <QVBoxLayout>
 
 TFormHistory::TFormHistory(HistoryModel &model, QWidget *parent)
-    : QDialog(parent), m_model(model), m_grid(new QTableWidget(this)),
-      m_heading(new QLabel(this)), m_differences(new QListWidget(this)),
-      m_restore(new QPushButton(this)), m_close(new QPushButton(this))
+    : QDialog(parent), m_model(model), m_grid(new QTableWidget(this)), m_heading(new QLabel(this)),
+      m_differences(new QListWidget(this)), m_restore(new QPushButton(this)),
+      m_close(new QPushButton(this))
 {
     setObjectName(QStringLiteral("TFormHistory"));
     m_grid->setObjectName(QStringLiteral("GridHistory"));
