@@ -168,9 +168,11 @@ void parseRecords(const QByteArray &bytes, qint64 base, quint32 serial, bool wit
         if (o.contains(u"c")) {
             parsed.lastPacked = QByteArray::fromHex(o.value(u"c").toString().toLatin1());
             parsed.sinceWhole = 0;
+        } else if (o.contains(u"x") && parsed.lastPacked.isEmpty()) {
+            // Read from the middle (the last record alone): the changes have nothing to go on.
+            known = false;
         } else if (o.contains(u"x")) {
-            if (parsed.lastPacked.isEmpty() ||
-                !applyPatch(parsed.lastPacked, o.value(u"x").toArray()))
+            if (!applyPatch(parsed.lastPacked, o.value(u"x").toArray()))
                 break;
             ++parsed.sinceWhole;
         } else if (!o.contains(u"s") || parsed.lastPacked.isEmpty()) {
