@@ -205,8 +205,13 @@ int cloneCommand(CliContext &cli, const QStringList &args)
         if (!kept.goOn)
             return kExitFailed;
         cli.err() << messageText(Msg::CloneBackupKept, {kept.file}) << Qt::endl;
-        if (!kept.file.isEmpty() && loadConfigFile(kept.file, target, nullptr))
+        // The target's read is a read of its own in its history.
+        if (!kept.file.isEmpty() && loadConfigFile(kept.file, target, nullptr)) {
             known = true;
+            keepHistory(currentHistory(),
+                        historyEvent(target.serialNumber(), QStringLiteral("read"), {}, target),
+                        &cli.prompt());
+        }
     }
     SentBlocks sent;
     const WriteOutcome outcome = cloneWrite(*link, image, groups, gaugeOnTerminal(cli), &sent);

@@ -134,8 +134,16 @@ void EditorModel::SpeedButton2Click()
             showProgress(false);
             // The target as read: its history's serial number and what the clone starts from.
             ConfigImage target;
-            if (!kept.file.isEmpty() && loadConfigFile(kept.file, target, nullptr))
+            if (!kept.file.isEmpty() && loadConfigFile(kept.file, target, nullptr)) {
                 m_cloneTarget = target;
+                if (m_services)
+                    m_services->validatorEvent({QStringLiteral("read"),
+                                                target.serialNumber(),
+                                                WriteOutcome::Finished,
+                                                std::nullopt,
+                                                target,
+                                                {}});
+            }
             if (!goOn) {
                 display();
                 return;
