@@ -1,5 +1,6 @@
 // The editor's handlers that reach beyond the form: writing, cloning, storing, files, the
 // small dialogs, closing and the timer.
+#include "Backups.h"
 #include "CloneTarget.h"
 #include "ConfigFile.h"
 #include "EditorModel.h"
@@ -246,4 +247,23 @@ void EditorModel::tick()
     if (m_busy || !m_link)
         return;
     exclusive([&] { m_test.tick(m_services); });
+}
+
+void EditorModel::keepBackup()
+{
+    const QString dir = m_services ? m_services->backupDirectory() : QString();
+    if (dir.isEmpty())
+        return;
+    QString error;
+    if (::keepBackup(dir, m_s.image, QDateTime::currentDateTime(), &error).isEmpty() && m_s.prompt)
+        m_s.prompt->tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
+}
+
+void EditorModel::BtnHistoryClick()
+{
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        if (m_services && m_s.baselineFrom.fromValidator())
+            m_services->showHistory(*this, m_s.baselineFrom.serial);
+    });
 }

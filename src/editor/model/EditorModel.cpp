@@ -316,16 +316,6 @@ void EditorModel::SpeedButton1Click()
     });
 }
 
-void EditorModel::keepBackup()
-{
-    const QString dir = m_services ? m_services->backupDirectory() : QString();
-    if (dir.isEmpty())
-        return;
-    QString error;
-    if (::keepBackup(dir, m_s.image, QDateTime::currentDateTime(), &error).isEmpty() && m_s.prompt)
-        m_s.prompt->tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
-}
-
 // ---- editing ------------------------------------------------------------------------------
 
 void EditorModel::EHFUBMIN0Change()
@@ -515,11 +505,7 @@ bool EditorModel::click(const QString &name, QString *error)
                 m_services->editValueTable(*this);
         });
     } else if (name == QLatin1String("BtnHistory")) {
-        exclusive([&] {
-            EHFUBMIN0Exit();
-            if (m_services && m_s.baselineFrom.fromValidator())
-                m_services->showHistory(*this, m_s.baselineFrom.serial);
-        });
+        BtnHistoryClick();
     } else if (name == QLatin1String("BtnSaved")) {
         exclusive([&] {
             EHFUBMIN0Exit();

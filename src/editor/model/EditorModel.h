@@ -107,6 +107,8 @@ public:
     // it as the full write does, kept in the history as a restore. The validator read (when it
     // is the one connected) gets only what differs once the changes write can send that.
     void restoreState(const ConfigImage &state, const QString &from);
+    // The History window of the validator read or written.
+    void BtnHistoryClick();
     // Coin learning, reference calibration, channel control and the overlap check.
     void learningClick(const QString &button);
 
