@@ -3,8 +3,8 @@
 // state put back.
 #include "ConfigFile.h"
 #include "SimProcess.h"
+#include "TestApplication.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -15,11 +15,7 @@ namespace {
 
 TEST(HistoryCli, ListsTheFourEventsComparesTwoAndPutsTheFirstBack)
 {
-    static int argc = 1;
-    static char name[] = "history_tests";
-    static char *argv[] = {name, nullptr};
-    if (!QCoreApplication::instance())
-        new QCoreApplication(argc, argv);
+    testApplication();
     QTemporaryDir dir;
     const QString data = dir.path();
     SimProcess sim({"--family", "0x13", "--serial", "1001"});
