@@ -151,6 +151,8 @@ void parseRecords(const QByteArray &bytes, qint64 base, quint32 serial, bool wit
 {
     qsizetype at = 0;
     parsed.validEnd = base;
+    // An event takes a few hundred bytes: room for them all at once.
+    parsed.events.reserve(parsed.events.size() + bytes.size() / 160);
     while (const std::optional<QByteArray> text = recordText(bytes, at)) {
         const QJsonObject o = QJsonDocument::fromJson(*text).object();
         HistoryEvent event;
@@ -384,9 +386,13 @@ std::optional<QList<HistoryEvent>> HistoryFiles::events(quint32 serial, QString 
     ParsedFile parsed;
     if (!readEventFile(fileOf(serial), serial, true, parsed, error))
         return std::nullopt;
-    // Recorded in the order they happened, unless two programs' clocks disagree.
-    std::stable_sort(parsed.events.begin(), parsed.events.end(),
-                     [](const HistoryEvent &a, const HistoryEvent &b) { return a.time < b.time; });
+    // Recorded in the order they happened, unless two programs' clocks disagree: sorted only
+    // then, since every event carries a whole configuration to move.
+    const auto earlier = [](const HistoryEvent &a, const HistoryEvent &b) {
+        return a.time < b.time;
+    };
+    if (!std::is_sorted(parsed.events.cbegin(), parsed.events.cend(), earlier))
+        std::stable_sort(parsed.events.begin(), parsed.events.end(), earlier);
     return parsed.events;
 }
 
