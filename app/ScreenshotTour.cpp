@@ -185,6 +185,17 @@ void ScreenshotTour::buildSteps()
              settings.setDirectWrite(true);
              click(editor, QStringLiteral("BtnChanges"));
          }},
+        // The validator's history: the edits above written (their message answered), then the
+        // events with what each changed.
+        {QStringLiteral("history"), QStringLiteral("TFormHistory"),
+         [this, editor] {
+             RecordingPrompt written(UserPrompt::Answer::Ok);
+             UserPrompt *before = MessageBoxPrompt::divertedTo();
+             MessageBoxPrompt::divertTo(&written);
+             m_editor->model().click(QStringLiteral("SpeedButton8"));
+             MessageBoxPrompt::divertTo(before);
+             click(editor, QStringLiteral("BtnHistory"));
+         }},
         {QStringLiteral("parameters"), QStringLiteral("TFormMain"),
          [this, parameters] {
              QMenuBar *bar = m_main->menuBar();

@@ -6,6 +6,7 @@
 #include "DisplayCheck.h"
 #include "EffectSoundPlayer.h"
 #include "HelpKey.h"
+#include "HistoryRecorder.h"
 #include "Languages.h"
 #include "MessageBoxPrompt.h"
 #include "Screenshot.h"
@@ -133,11 +134,19 @@ int main(int argc, char *argv[])
     // repaint while it waits, and the message after the one bounded wait goes through the
     // prompt.
     TableLock::setWaitNotice([](const QString &text) { qWarning().noquote() << text; });
-    context.createDataModule = [&prompt, &dataModule]() -> std::shared_ptr<void> {
+    // Each validator's history lives beside the tables.
+    std::unique_ptr<HistoryStore> history;
+    setHistoryProgram(QStringLiteral("tarvik"));
+    context.createDataModule = [&prompt, &dataModule, &history]() -> std::shared_ptr<void> {
         // Tables that cannot be opened have been reported; the program goes on without them.
         auto module = std::make_shared<TDBModule>();
         module->open(DataDirectory::resolve(), &prompt);
         dataModule = module.get();
+        setCurrentHistory(nullptr);
+        history = openHistory(module->dataDirectory().isEmpty() ? DataDirectory::resolve()
+                                                                : module->dataDirectory(),
+                              &prompt);
+        setCurrentHistory(history.get());
         return module;
     };
     // The repair closes the module's tables around its work and opens them again after it.

@@ -1,4 +1,5 @@
 #include "CliContext.h"
+#include "HistoryRecorder.h"
 
 #include "Backups.h"
 #include "ConfigFile.h"
@@ -153,6 +154,9 @@ bool readValidatorImage(CliContext &cli, ConfigImage &image)
     QString error;
     if (keepBackup(backups, image, QDateTime::currentDateTime(), &error).isEmpty())
         cli.prompt().tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
+    keepHistory(currentHistory(),
+                historyEvent(image.serialNumber(), QStringLiteral("read"), {}, image),
+                &cli.prompt());
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ConfigImage.h"
 #include "LineProfile.h"
 #include "TMonnayeur.h"
 #include "Transport.h"
@@ -11,6 +12,7 @@
 #include <QTextStream>
 #include <functional>
 #include <memory>
+#include <optional>
 
 // Exit codes of tarvik-cli.
 inline constexpr int kExitOk = 0;
@@ -94,7 +96,6 @@ private:
     bool m_progressShown = false;
 };
 
-struct ConfigImage;
 // Writes an image as a configuration file to path, or to stdout when path is empty.
 int writeImageOutput(CliContext &cli, const ConfigImage &image, const QString &path);
 // Reads the whole validator through the options' link, with the gauge on the terminal, and
@@ -104,6 +105,32 @@ bool readValidatorImage(CliContext &cli, ConfigImage &image);
 bool readImageInput(CliContext &cli, const QString &path, ConfigImage &image);
 // Takes "-o FILE" (or "--output FILE") out of args; false when it has no file name.
 bool takeOutputOption(QStringList &args, QString &path);
+
+// A write of a command, for the validator's history: its kind ("write", "clone", "restore"),
+// the validator's serial number and what it holds afterwards as far as known without a
+// read-back, and a note (the file written).
+struct WrittenState
+{
+    QString kind;
+    std::optional<quint32> serial;
+    std::optional<ConfigImage> holds;
+    QString detail;
+};
+struct SentBlocks;
+enum class WriteOutcome;
+// The write's exit code, with its verification unless verify is false, and its event kept in
+// the validator's history. A write that finished with a step refused (the write has said which)
+// did not give the validator everything: exit 1, with or without the read-back.
+int afterWrite(CliContext &cli, TMonnayeur &link, WriteOutcome outcome, bool verify,
+               const SentBlocks &sent, const WrittenState &written, bool keep = true);
+// One difference as diff --json gives it.
+class QJsonObject;
+struct ConfigChange;
+QJsonObject changeObject(const ConfigChange &change);
+// The differences from before to after as diff prints them (--json as diff --json); the exit
+// code diff gives: 0 the same, 1 different.
+int printDifferences(CliContext &cli, const ConfigImage &before, const ConfigImage &after,
+                     bool json);
 
 struct CliCommand
 {
@@ -125,6 +152,7 @@ void registerRepairCommands(CliCommandTable &table);
 void registerDiffCommands(CliCommandTable &table);
 void registerSheetCommands(CliCommandTable &table);
 void registerBatchCommands(CliCommandTable &table);
+void registerHistoryCommands(CliCommandTable &table);
 
 // Runs tarvik-cli with the arguments after the program name.
 int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,

@@ -21,6 +21,8 @@ bool takeSide(CliContext &cli, const QString &name, ConfigImage &image)
     return readImageInput(cli, name, image);
 }
 
+} // namespace
+
 QJsonObject changeObject(const ConfigChange &change)
 {
     return QJsonObject{
@@ -35,6 +37,8 @@ QJsonObject changeObject(const ConfigChange &change)
         {QStringLiteral("text"), change.text()},
     };
 }
+
+namespace {
 
 int diffCommand(CliContext &cli, const QStringList &args)
 {
@@ -55,6 +59,14 @@ int diffCommand(CliContext &cli, const QStringList &args)
     if (!takeSide(cli, sides[0], before) || !takeSide(cli, sides[1], after))
         return kDiffTrouble;
 
+    return printDifferences(cli, before, after, json);
+}
+
+} // namespace
+
+int printDifferences(CliContext &cli, const ConfigImage &before, const ConfigImage &after,
+                     bool json)
+{
     const QList<ConfigChange> changes = configDifferences(before, after);
     if (json) {
         QJsonArray list;
@@ -70,8 +82,6 @@ int diffCommand(CliContext &cli, const QStringList &args)
     cli.out() << Qt::flush;
     return changes.isEmpty() ? kDiffSame : kDiffDiffer;
 }
-
-} // namespace
 
 void registerDiffCommands(CliCommandTable &table)
 {

@@ -4,6 +4,7 @@
 #include "EditorModel.h"
 #include "EditorServices.h"
 #include "Encodings.h"
+#include "HistoryRecorder.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -38,6 +39,11 @@ public:
         for (const ChangesModel::Line &line : changes.lines())
             m_cli.err() << (any && !line.heading ? "  " : "") << line.text << '\n';
         m_cli.err() << Qt::flush;
+    }
+    // A read or a write over the link goes into the validator's history.
+    void validatorEvent(const ValidatorEvent &event) override
+    {
+        keepValidatorEvent(event, &m_cli.prompt());
     }
 
 private:

@@ -1,4 +1,6 @@
 #include "CliContext.h"
+#include "DataDirectory.h"
+#include "HistoryRecorder.h"
 #include "TableLock.h"
 
 #include "PortChoice.h"
@@ -132,6 +134,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerDiffCommands(table);
     registerSheetCommands(table);
     registerBatchCommands(table);
+    registerHistoryCommands(table);
 
     QStringList args = arguments;
     if (args.contains(QLatin1String("--help")) || args.contains(QLatin1String("-h"))) {
@@ -162,7 +165,13 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     const TableLock::WaitBudget wait;
     TableLock::setWaitNotice(
         [&err](const QString &text) { err << "tarvik-cli: " << text << Qt::endl; });
+    // What the command does to a validator is kept in its history, beside the tables.
+    setHistoryProgram(QStringLiteral("tarvik-cli"));
+    const std::unique_ptr<HistoryStore> history =
+        openHistory(DataDirectory::resolve(options.dataDir), &context.prompt());
+    setCurrentHistory(history.get());
     const int code = command.run(context, args);
+    setCurrentHistory(nullptr);
     TableLock::setWaitNotice({});
     if (code == kExitUsage)
         err << "usage: tarvik-cli " << command.usage << Qt::endl;

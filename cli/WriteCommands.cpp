@@ -3,9 +3,11 @@
 #include "CliContext.h"
 #include "CloneTarget.h"
 #include "Commands.h"
+#include "ConfigFile.h"
 #include "DataDirectory.h"
 #include "FirmwareFile.h"
 #include "FirmwareTransfer.h"
+#include "HistoryRecorder.h"
 #include "Messages.h"
 #include "Settings.h"
 #include "WriteReport.h"
@@ -41,29 +43,44 @@ void keepReadBack(CliContext &cli, const VerifyResult &result)
 
 // After a write that finished: reads the validator back, prints what it holds against what
 // was sent, and gives the exit code (1 when it differs or could not be read back).
-int verifyCommandWrite(CliContext &cli, TMonnayeur &link, const SentBlocks &sent, bool keep)
+int verifyCommandWrite(CliContext &cli, TMonnayeur &link, const SentBlocks &sent,
+                       std::optional<VerifyResult> &result, bool keep)
 {
     ReadObserver observer;
     observer.progress = [&cli](int gauge) { cli.showProgress(messageText(Msg::Verifying), gauge); };
-    const VerifyResult result = verifyWrite(link, sent, observer);
+    result = verifyWrite(link, sent, observer);
     cli.endProgress();
     if (keep)
-        keepReadBack(cli, result);
-    cli.out() << verificationMessage(result) << Qt::endl;
-    return result.outcome == VerifyOutcome::Verified ? kExitOk : kExitFailed;
+        keepReadBack(cli, *result);
+    cli.out() << verificationMessage(*result) << Qt::endl;
+    return result->outcome == VerifyOutcome::Verified ? kExitOk : kExitFailed;
 }
 
-// The write's exit code, with its verification unless --no-verify. A write that finished with a
-// step refused (the write has said which) did not give the validator everything: exit 1, with or
-// without the read-back.
+} // namespace
+
 int afterWrite(CliContext &cli, TMonnayeur &link, WriteOutcome outcome, bool verify,
-               const SentBlocks &sent, bool keep = true)
+               const SentBlocks &sent, const WrittenState &written, bool keep)
 {
-    if (outcome != WriteOutcome::Finished)
-        return kExitFailed;
-    const int verified = verify ? verifyCommandWrite(cli, link, sent, keep) : kExitOk;
-    return stepsRefused(sent.steps).isEmpty() ? verified : kExitFailed;
+    std::optional<VerifyResult> result;
+    int code = kExitFailed;
+    if (outcome == WriteOutcome::Finished) {
+        const int verified = verify ? verifyCommandWrite(cli, link, sent, result, keep) : kExitOk;
+        code = stepsRefused(sent.steps).isEmpty() ? verified : kExitFailed;
+    }
+    // The validator's history, when its serial number is known: a step refused leaves what it
+    // holds unknown without the read-back. What was done stands if it cannot be kept.
+    const bool readBack = result && result->outcome != VerifyOutcome::ReadBackFailed;
+    if (written.serial || readBack) {
+        const std::optional<HistoryEvent> event = writeHistoryEvent(
+            written.kind, written.serial.value_or(0), outcome, result,
+            stepsRefused(sent.steps).isEmpty() ? written.holds : std::nullopt, written.detail);
+        if (event)
+            keepHistory(currentHistory(), *event, &cli.prompt());
+    }
+    return code;
 }
+
+namespace {
 
 QString familyName(quint8 familyByte)
 {
@@ -139,21 +156,30 @@ int writeChanges(CliContext &cli, const QString &file, const QString &since,
         cli.err() << "tarvik-cli: --force writes the changes all the same" << Qt::endl;
     if (result.refusal == ChangesRefusal::NothingChanged)
         return kExitOk;
-    if (result.outcome != WriteOutcome::Finished)
+    if (result.refusal != ChangesRefusal::None)
         return kExitFailed;
-    int code = kExitOk;
-    if (verify) {
+    const bool finished = result.outcome == WriteOutcome::Finished;
+    std::optional<VerifyResult> checked;
+    int code = finished ? kExitOk : kExitFailed;
+    if (verify && finished) {
         ReadObserver observer;
         observer.progress = [&cli](int gauge) {
             cli.showProgress(messageText(Msg::Verifying), gauge);
         };
-        const VerifyResult checked = verifySentBlocks(*link, baseline, result.sent, observer);
+        checked = verifySentBlocks(*link, baseline, result.sent, observer);
         cli.endProgress();
-        keepReadBack(cli, checked);
-        cli.out() << verificationMessage(checked) << Qt::endl;
-        code = checked.outcome == VerifyOutcome::Verified ? kExitOk : kExitFailed;
+        keepReadBack(cli, *checked);
+        cli.out() << verificationMessage(*checked) << Qt::endl;
+        code = checked->outcome == VerifyOutcome::Verified ? kExitOk : kExitFailed;
     }
-    return stepsRefused(result.sent.steps).isEmpty() ? code : kExitFailed;
+    // The validator's history: what it holds is known when every block went in.
+    const bool complete = finished && stepsRefused(result.sent.steps).isEmpty();
+    if (const std::optional<HistoryEvent> event = writeHistoryEvent(
+            QStringLiteral("changes"), baseline.serialNumber(), result.outcome, checked,
+            complete ? std::optional(expectedAfterWrite(baseline, result.sent)) : std::nullopt,
+            file))
+        keepHistory(currentHistory(), *event, &cli.prompt());
+    return complete ? code : kExitFailed;
 }
 
 int writeCommand(CliContext &cli, const QStringList &args)
@@ -217,7 +243,9 @@ int writeCommand(CliContext &cli, const QStringList &args)
     SentBlocks sent;
     const WriteOutcome outcome = fullWrite(*link, image, options, gaugeOnTerminal(cli), &sent);
     cli.endProgress();
-    return afterWrite(cli, *link, outcome, verify, sent);
+    // The write read the validator's own serial number into the image.
+    return afterWrite(cli, *link, outcome, verify, sent,
+                      {QStringLiteral("write"), image.serialNumber(), image, file});
 }
 
 int cloneCommand(CliContext &cli, const QStringList &args)
@@ -272,6 +300,8 @@ int cloneCommand(CliContext &cli, const QStringList &args)
     if (!link)
         return kExitFailed;
     cli.prompt().setAnswer(UserPrompt::Answer::Cancel);
+    ConfigImage target;
+    bool known = false;
     if (backup) {
         // The target's own configuration is read and kept first, as a read keeps it; nobody
         // answers here, so a backup that cannot be written stops the clone.
@@ -285,12 +315,25 @@ int cloneCommand(CliContext &cli, const QStringList &args)
         if (!kept.goOn)
             return kExitFailed;
         cli.err() << messageText(Msg::CloneBackupKept, {kept.file}) << Qt::endl;
+        // The target's read is a read of its own in its history.
+        if (!kept.file.isEmpty() && loadConfigFile(kept.file, target, nullptr)) {
+            known = true;
+            keepHistory(currentHistory(),
+                        historyEvent(target.serialNumber(), QStringLiteral("read"), {}, target),
+                        &cli.prompt());
+        }
     }
     SentBlocks sent;
     const WriteOutcome outcome = cloneWrite(*link, image, groups, gaugeOnTerminal(cli), &sent);
     cli.endProgress();
+    // The target's history: known by the serial number of its read before, or of its read-back.
+    WrittenState written{QStringLiteral("clone"), std::nullopt, std::nullopt, file};
+    if (known) {
+        written.serial = target.serialNumber();
+        written.holds = expectedAfterWrite(target, sent);
+    }
     // A clone keeps what its read-back found too, unless the target is not to be kept.
-    return afterWrite(cli, *link, outcome, verify, sent, backup);
+    return afterWrite(cli, *link, outcome, verify, sent, written, backup);
 }
 
 int firmwareCommand(CliContext &cli, const QStringList &args)

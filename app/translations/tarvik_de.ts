@@ -911,6 +911,94 @@
         <source>Validators done</source>
         <translation>Bearbeitete Münzprüfer</translation>
     </message>
+<message>
+        <source>History of validator %d</source>
+        <translation>Verlauf des Münzprüfers %d</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Vorgang</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Changes write</source>
+        <translation>Schreiben der Änderungen</translation>
+    </message>
+    <message>
+        <source>Batch write</source>
+        <translation>Serienschreiben</translation>
+    </message>
+    <message>
+        <source>Channel learned</source>
+        <translation>Kanal eingelernt</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>Kalibrierung</translation>
+    </message>
+    <message>
+        <source>Read backup</source>
+        <translation>Lesesicherung</translation>
+    </message>
+    <message>
+        <source>Saved in the tables</source>
+        <translation>In den Tabellen gespeichert</translation>
+    </message>
+    <message>
+        <source>verified</source>
+        <translation>geprüft</translation>
+    </message>
+    <message>
+        <source>mismatch</source>
+        <translation>abweichend</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>First configuration known</source>
+        <translation>Erste bekannte Konfiguration</translation>
+    </message>
+    <message>
+        <source>No change</source>
+        <translation>Keine Änderung</translation>
+    </message>
+    <message>
+        <source>Configuration not known</source>
+        <translation>Konfiguration unbekannt</translation>
+    </message>
+    <message>
+        <source>Changes of event %d since the one before</source>
+        <translation>Änderungen von Ereignis %d seit dem vorigen</translation>
+    </message>
+    <message>
+        <source>From event %d to event %d</source>
+        <translation>Von Ereignis %d zu Ereignis %d</translation>
+    </message>
+    <message>
+        <source>No event is kept for this validator</source>
+        <translation>Für diesen Münzprüfer ist kein Ereignis gespeichert</translation>
+    </message>
+    <message>
+        <source>History...</source>
+        <translation>Verlauf...</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1681,6 +1769,40 @@
     <message>
         <source>The configuration sheet could not be written: %s</source>
         <translation>Das Konfigurationsblatt konnte nicht geschrieben werden: %s</translation>
+    </message>
+<message>
+        <source>The history could not be kept: %s</source>
+        <translation>Der Verlauf konnte nicht gespeichert werden: %s</translation>
+    </message>
+    <message>
+        <source>No history is known for the serial number %s</source>
+        <translation>Für die Seriennummer %s ist kein Verlauf bekannt</translation>
+    </message>
+    <message>
+        <source>This event holds no configuration to put back</source>
+        <translation>Dieses Ereignis enthält keine Konfiguration zum Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Put the validator back as it was on %s? This changes:
+%s</source>
+        <translation>Den Münzprüfer auf den Stand vom %s zurücksetzen? Das ändert:
+%s</translation>
+    </message>
+    <message>
+        <source>The validator already holds the configuration of %s</source>
+        <translation>Der Münzprüfer enthält bereits die Konfiguration vom %s</translation>
+    </message>
+    <message>
+        <source>The history could not be read: %s</source>
+        <translation>Der Verlauf konnte nicht gelesen werden: %s</translation>
+    </message>
+    <message>
+        <source>The validator connected has the serial number %s, not %s: nothing was written</source>
+        <translation>Der angeschlossene Münzprüfer hat die Seriennummer %s, nicht %s: nichts wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
+        <translation>Kein Verlauf nennt den als %s gespeicherten Münzprüfer: sein Verlauf ist bekannt, sobald er nach einem Lesen oder Schreiben gespeichert wird</translation>
     </message>
 </context>
 <context>

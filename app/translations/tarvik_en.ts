@@ -911,6 +911,94 @@
         <source>Validators done</source>
         <translation>Validators done</translation>
     </message>
+<message>
+        <source>History of validator %d</source>
+        <translation>History of validator %d</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>What</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Read</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Write</translation>
+    </message>
+    <message>
+        <source>Changes write</source>
+        <translation>Changes write</translation>
+    </message>
+    <message>
+        <source>Batch write</source>
+        <translation>Batch write</translation>
+    </message>
+    <message>
+        <source>Channel learned</source>
+        <translation>Channel learned</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>Calibration</translation>
+    </message>
+    <message>
+        <source>Read backup</source>
+        <translation>Read backup</translation>
+    </message>
+    <message>
+        <source>Saved in the tables</source>
+        <translation>Saved in the tables</translation>
+    </message>
+    <message>
+        <source>verified</source>
+        <translation>verified</translation>
+    </message>
+    <message>
+        <source>mismatch</source>
+        <translation>mismatch</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>failed</translation>
+    </message>
+    <message>
+        <source>First configuration known</source>
+        <translation>First configuration known</translation>
+    </message>
+    <message>
+        <source>No change</source>
+        <translation>No change</translation>
+    </message>
+    <message>
+        <source>Configuration not known</source>
+        <translation>Configuration not known</translation>
+    </message>
+    <message>
+        <source>Changes of event %d since the one before</source>
+        <translation>Changes of event %d since the one before</translation>
+    </message>
+    <message>
+        <source>From event %d to event %d</source>
+        <translation>From event %d to event %d</translation>
+    </message>
+    <message>
+        <source>No event is kept for this validator</source>
+        <translation>No event is kept for this validator</translation>
+    </message>
+    <message>
+        <source>History...</source>
+        <translation>History...</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1681,6 +1769,40 @@
     <message>
         <source>The configuration sheet could not be written: %s</source>
         <translation>The configuration sheet could not be written: %s</translation>
+    </message>
+<message>
+        <source>The history could not be kept: %s</source>
+        <translation>The history could not be kept: %s</translation>
+    </message>
+    <message>
+        <source>No history is known for the serial number %s</source>
+        <translation>No history is known for the serial number %s</translation>
+    </message>
+    <message>
+        <source>This event holds no configuration to put back</source>
+        <translation>This event holds no configuration to put back</translation>
+    </message>
+    <message>
+        <source>Put the validator back as it was on %s? This changes:
+%s</source>
+        <translation>Put the validator back as it was on %s? This changes:
+%s</translation>
+    </message>
+    <message>
+        <source>The validator already holds the configuration of %s</source>
+        <translation>The validator already holds the configuration of %s</translation>
+    </message>
+    <message>
+        <source>The history could not be read: %s</source>
+        <translation>The history could not be read: %s</translation>
+    </message>
+    <message>
+        <source>The validator connected has the serial number %s, not %s: nothing was written</source>
+        <translation>The validator connected has the serial number %s, not %s: nothing was written</translation>
+    </message>
+    <message>
+        <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
+        <translation>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</translation>
     </message>
 </context>
 <context>

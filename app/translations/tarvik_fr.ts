@@ -911,6 +911,94 @@
         <source>Validators done</source>
         <translation>Monnayeurs traités</translation>
     </message>
+<message>
+        <source>History of validator %d</source>
+        <translation>Historique du monnayeur %d</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Opération</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Écriture</translation>
+    </message>
+    <message>
+        <source>Changes write</source>
+        <translation>Écriture des modifications</translation>
+    </message>
+    <message>
+        <source>Batch write</source>
+        <translation>Écriture en série</translation>
+    </message>
+    <message>
+        <source>Channel learned</source>
+        <translation>Canal appris</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>Calibrage</translation>
+    </message>
+    <message>
+        <source>Read backup</source>
+        <translation>Sauvegarde de lecture</translation>
+    </message>
+    <message>
+        <source>Saved in the tables</source>
+        <translation>Enregistré dans les tables</translation>
+    </message>
+    <message>
+        <source>verified</source>
+        <translation>vérifié</translation>
+    </message>
+    <message>
+        <source>mismatch</source>
+        <translation>différent</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>échoué</translation>
+    </message>
+    <message>
+        <source>First configuration known</source>
+        <translation>Première configuration connue</translation>
+    </message>
+    <message>
+        <source>No change</source>
+        <translation>Aucune modification</translation>
+    </message>
+    <message>
+        <source>Configuration not known</source>
+        <translation>Configuration inconnue</translation>
+    </message>
+    <message>
+        <source>Changes of event %d since the one before</source>
+        <translation>Modifications de l'événement %d depuis le précédent</translation>
+    </message>
+    <message>
+        <source>From event %d to event %d</source>
+        <translation>De l'événement %d à l'événement %d</translation>
+    </message>
+    <message>
+        <source>No event is kept for this validator</source>
+        <translation>Aucun événement n'est conservé pour ce monnayeur</translation>
+    </message>
+    <message>
+        <source>History...</source>
+        <translation>Historique...</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1681,6 +1769,40 @@
     <message>
         <source>The configuration sheet could not be written: %s</source>
         <translation>La fiche de configuration n'a pas pu être écrite : %s</translation>
+    </message>
+<message>
+        <source>The history could not be kept: %s</source>
+        <translation>L'historique n'a pas pu être conservé : %s</translation>
+    </message>
+    <message>
+        <source>No history is known for the serial number %s</source>
+        <translation>Aucun historique n'est connu pour le numéro de série %s</translation>
+    </message>
+    <message>
+        <source>This event holds no configuration to put back</source>
+        <translation>Cet événement ne contient aucune configuration à restaurer</translation>
+    </message>
+    <message>
+        <source>Put the validator back as it was on %s? This changes:
+%s</source>
+        <translation>Remettre le monnayeur dans son état du %s ? Cela modifie :
+%s</translation>
+    </message>
+    <message>
+        <source>The validator already holds the configuration of %s</source>
+        <translation>Le monnayeur contient déjà la configuration du %s</translation>
+    </message>
+    <message>
+        <source>The history could not be read: %s</source>
+        <translation>L'historique n'a pas pu être lu : %s</translation>
+    </message>
+    <message>
+        <source>The validator connected has the serial number %s, not %s: nothing was written</source>
+        <translation>Le monnayeur connecté a le numéro de série %s, pas %s : rien n'a été écrit</translation>
+    </message>
+    <message>
+        <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
+        <translation>Aucun historique ne mentionne le monnayeur enregistré sous %s : son historique est connu une fois qu'il est enregistré après une lecture ou une écriture</translation>
     </message>
 </context>
 <context>

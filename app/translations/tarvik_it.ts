@@ -911,6 +911,94 @@
         <source>Validators done</source>
         <translation>Gettoniere trattate</translation>
     </message>
+<message>
+        <source>History of validator %d</source>
+        <translation>Storico della gettoniera %d</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Operazione</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programma</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lettura</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Scrittura</translation>
+    </message>
+    <message>
+        <source>Changes write</source>
+        <translation>Scrittura delle modifiche</translation>
+    </message>
+    <message>
+        <source>Batch write</source>
+        <translation>Scrittura in serie</translation>
+    </message>
+    <message>
+        <source>Channel learned</source>
+        <translation>Canale appreso</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>Calibrazione</translation>
+    </message>
+    <message>
+        <source>Read backup</source>
+        <translation>Copia di lettura</translation>
+    </message>
+    <message>
+        <source>Saved in the tables</source>
+        <translation>Salvata nelle tabelle</translation>
+    </message>
+    <message>
+        <source>verified</source>
+        <translation>verificato</translation>
+    </message>
+    <message>
+        <source>mismatch</source>
+        <translation>diverso</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fallito</translation>
+    </message>
+    <message>
+        <source>First configuration known</source>
+        <translation>Prima configurazione nota</translation>
+    </message>
+    <message>
+        <source>No change</source>
+        <translation>Nessuna modifica</translation>
+    </message>
+    <message>
+        <source>Configuration not known</source>
+        <translation>Configurazione non nota</translation>
+    </message>
+    <message>
+        <source>Changes of event %d since the one before</source>
+        <translation>Modifiche dell'evento %d rispetto al precedente</translation>
+    </message>
+    <message>
+        <source>From event %d to event %d</source>
+        <translation>Dall'evento %d all'evento %d</translation>
+    </message>
+    <message>
+        <source>No event is kept for this validator</source>
+        <translation>Nessun evento è conservato per questa gettoniera</translation>
+    </message>
+    <message>
+        <source>History...</source>
+        <translation>Storico...</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1681,6 +1769,40 @@
     <message>
         <source>The configuration sheet could not be written: %s</source>
         <translation>La scheda di configurazione non ha potuto essere scritta: %s</translation>
+    </message>
+<message>
+        <source>The history could not be kept: %s</source>
+        <translation>Non è stato possibile conservare lo storico: %s</translation>
+    </message>
+    <message>
+        <source>No history is known for the serial number %s</source>
+        <translation>Nessuno storico è noto per il numero di serie %s</translation>
+    </message>
+    <message>
+        <source>This event holds no configuration to put back</source>
+        <translation>Questo evento non contiene alcuna configurazione da ripristinare</translation>
+    </message>
+    <message>
+        <source>Put the validator back as it was on %s? This changes:
+%s</source>
+        <translation>Riportare la gettoniera allo stato del %s? Questo modifica:
+%s</translation>
+    </message>
+    <message>
+        <source>The validator already holds the configuration of %s</source>
+        <translation>La gettoniera contiene già la configurazione del %s</translation>
+    </message>
+    <message>
+        <source>The history could not be read: %s</source>
+        <translation>Non è stato possibile leggere lo storico: %s</translation>
+    </message>
+    <message>
+        <source>The validator connected has the serial number %s, not %s: nothing was written</source>
+        <translation>La gettoniera collegata ha il numero di serie %s, non %s: non è stato scritto nulla</translation>
+    </message>
+    <message>
+        <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
+        <translation>Nessuno storico indica la gettoniera salvata come %s: il suo storico è noto una volta salvata dopo una lettura o una scrittura</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "Captions.h"
 #include "Commands.h"
 #include "Encodings.h"
+#include "HistoryRecorder.h"
 #include "Messages.h"
 #include "UserPrompt.h"
 #include "WriteReport.h"
@@ -158,6 +159,9 @@ bool LearningSession::saveToValidator(TMonnayeur &link, const ConfigImage &image
         saved = link.WriteBlock(Cmd::WriteEnable, image.enable.data());
         steps.enable = stepEnd(link, saved);
     }
+    // The validator's history: a channel that went out, whole or in part.
+    if (steps.channels[std::size_t(k)] != StepEnd::Failed)
+        keepChannelWritten(QStringLiteral("learn"), image, k, saved, prompt);
     if (!prompt)
         return saved;
     if (saved) {

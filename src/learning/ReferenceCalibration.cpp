@@ -1,6 +1,7 @@
 #include "ReferenceCalibration.h"
 
 #include "Commands.h"
+#include "HistoryRecorder.h"
 #include "Messages.h"
 #include "UserPrompt.h"
 
@@ -30,6 +31,12 @@ bool writeReference(TMonnayeur &link, ConfigImage &image, const ChannelBytes &re
     const bool saved = link.WriteChannel(quint8(channel), reference, image.longForm());
     if (saved)
         std::copy(reference.begin(), reference.end(), image.channels[std::size_t(channel)].begin());
+    if (stepEnd(link, saved) != StepEnd::Failed) {
+        ConfigImage written = image;
+        std::copy(reference.begin(), reference.end(),
+                  written.channels[std::size_t(channel)].begin());
+        keepChannelWritten(QStringLiteral("calibrate"), written, channel, saved, prompt);
+    }
     if (prompt)
         prompt->tell(messageText(saved ? Msg::ReferenceChannelSaved : Msg::ProgrammingError),
                      saved ? UserPrompt::Kind::Information : UserPrompt::Kind::Error);

@@ -395,6 +395,23 @@ constexpr Entry kTable[] = {
     {Msg::BatchNoSource, QT_TRANSLATE_NOOP("Messages", "Choose the configuration to write.")},
     {Msg::BatchSheetNotWritten,
      QT_TRANSLATE_NOOP("Messages", "The configuration sheet could not be written: %s")},
+    {Msg::HistoryNotKept, QT_TRANSLATE_NOOP("Messages", "The history could not be kept: %s")},
+    {Msg::HistoryUnknownSerial,
+     QT_TRANSLATE_NOOP("Messages", "No history is known for the serial number %s")},
+    {Msg::HistoryNoConfiguration,
+     QT_TRANSLATE_NOOP("Messages", "This event holds no configuration to put back")},
+    {Msg::HistoryRestoreQuestion,
+     QT_TRANSLATE_NOOP("Messages", "Put the validator back as it was on %s? This changes:\n%s")},
+    {Msg::HistoryRestoreNothing,
+     QT_TRANSLATE_NOOP("Messages", "The validator already holds the configuration of %s")},
+    {Msg::HistoryNotRead, QT_TRANSLATE_NOOP("Messages", "The history could not be read: %s")},
+    {Msg::HistoryOtherValidator,
+     QT_TRANSLATE_NOOP("Messages",
+                       "The validator connected has the serial number %s, not %s: nothing was "
+                       "written")},
+    {Msg::HistoryUnknownSaved,
+     QT_TRANSLATE_NOOP("Messages", "No history notes the validator saved as %s: its history "
+                                   "is known once it is saved after a read or a write")},
 };
 
 } // namespace

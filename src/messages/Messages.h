@@ -214,6 +214,15 @@ enum class Msg
     BatchCountInvalid,
     BatchNoSource,
     BatchSheetNotWritten,
+    // each validator's history
+    HistoryNotKept,
+    HistoryUnknownSerial,
+    HistoryNoConfiguration,
+    HistoryRestoreQuestion,
+    HistoryRestoreNothing,
+    HistoryNotRead,
+    HistoryOtherValidator,
+    HistoryUnknownSaved,
     Count_
 };
 

@@ -14,7 +14,8 @@ struct HistoryEvent
     quint32 serial = 0;
     QDateTime time; // UTC, to the millisecond
     // What happened: "read", "write", "clone", "changes", "batch", "learn", "calibrate",
-    // "restore", or "backup" for a read backup taken into the history.
+    // "restore", "backup" for a read backup taken into the history, or "store" when the
+    // configuration of the validator read or written was saved in the tables (detail: its name).
     QString kind;
     // How it ended: "verified", "mismatch", "failed", or empty when there is nothing to check
     // (a read).

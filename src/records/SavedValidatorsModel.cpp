@@ -51,6 +51,8 @@ SavedValidatorsModel::SavedValidatorsModel(TDBModule &db, UserPrompt &prompt, Ed
     c.setBuddy(QStringLiteral("EFilter"), QStringLiteral("LFilter"));
     c.add(QStringLiteral("BtnOpen"), ControlKind::Button);
     c.add(QStringLiteral("BtnDelete"), ControlKind::Button);
+    c.add(QStringLiteral("BtnHistory"), ControlKind::Button);
+    c.setVisible(QStringLiteral("BtnHistory"), false);
     c.add(QStringLiteral("BtnClose"), ControlKind::Button);
     retranslate();
     reload();
@@ -64,6 +66,7 @@ void SavedValidatorsModel::retranslate()
     c.setText(QStringLiteral("LFilter"), captionText(Cap::Filter));
     c.setText(QStringLiteral("BtnOpen"), captionText(Cap::Open));
     c.setText(QStringLiteral("BtnDelete"), captionText(Cap::Delete));
+    c.setText(QStringLiteral("BtnHistory"), captionText(Cap::History));
     c.setText(QStringLiteral("BtnClose"), captionText(Cap::CloseButton));
     m_table.retranslate();
 }
@@ -120,6 +123,7 @@ void SavedValidatorsModel::select(int row)
     m_current = row >= 0 && row < m_table.rowCount() ? row : -1;
     m_controls.setEnabled(QStringLiteral("BtnOpen"), m_current >= 0 && m_editor);
     m_controls.setEnabled(QStringLiteral("BtnDelete"), m_current >= 0);
+    m_controls.setEnabled(QStringLiteral("BtnHistory"), m_current >= 0);
     const QString ident = m_current >= 0 ? m_table.row(m_current).identification : QString();
     // The same validator keeps the channels already read.
     if (ident.isEmpty() || ident != m_currentIdent)
@@ -201,4 +205,25 @@ bool SavedValidatorsModel::BtnDeleteClick()
     }
     reload();
     return true;
+}
+
+void SavedValidatorsModel::setHistory(
+    std::function<std::optional<quint32>(const QString &identification)> serialOf,
+    std::function<void(quint32)> show)
+{
+    m_serialOf = std::move(serialOf);
+    m_showHistory = std::move(show);
+    m_controls.setVisible(QStringLiteral("BtnHistory"), m_serialOf && m_showHistory);
+}
+
+void SavedValidatorsModel::BtnHistoryClick()
+{
+    if (m_current < 0 || !m_serialOf || !m_showHistory)
+        return;
+    const QString ident = m_table.row(m_current).identification;
+    if (const std::optional<quint32> serial = m_serialOf(ident))
+        m_showHistory(*serial);
+    else
+        m_prompt.tell(messageText(Msg::HistoryUnknownSaved, {ident}),
+                      UserPrompt::Kind::Information);
 }

@@ -4,6 +4,9 @@
 #include "SavedValidatorsTable.h"
 #include "ValidatorStore.h"
 
+#include <functional>
+#include <optional>
+
 class EditorModel;
 class TDBModule;
 class UserPrompt;
@@ -41,6 +44,14 @@ public:
     // Deletes the selected validator with its channels, once the person agrees.
     bool BtnDeleteClick();
 
+    // The History window of the selected validator, where the program has it: serialOf finds
+    // the serial number its history knows it by, show opens the window. Without them BtnHistory
+    // does not show.
+    void setHistory(std::function<std::optional<quint32>(const QString &identification)> serialOf,
+                    std::function<void(quint32)> show);
+    // Opens the selected validator's history, or says that none is known.
+    void BtnHistoryClick();
+
     void retranslate();
 
 private:
@@ -58,4 +69,6 @@ private:
     int m_current = -1;
     QString m_currentIdent; // whose channels m_channelRows hold
     QString m_listedState;  // the validator table's disk state when the list was read
+    std::function<std::optional<quint32>(const QString &)> m_serialOf;
+    std::function<void(quint32)> m_showHistory;
 };

@@ -7,8 +7,11 @@
 
 #include "ChannelCopyModel.h"
 #include "EditorModel.h"
+#include "HistoryModel.h"
+#include "HistoryRecorder.h"
 #include "SavedValidatorsModel.h"
 #include "TFormChanges.h"
+#include "TFormHistory.h"
 #include "TFormReadFileData.h"
 #include "TFormTransfert.h"
 #include "TFormValue.h"
@@ -306,6 +309,51 @@ void GuiEditorServices::browseSavedValidators(EditorModel &editor)
         return;
     SavedValidatorsModel model(*m_db, m_prompt, &editor);
     TFormReadFileData form(model, m_window);
+    if (HistoryStore *history = currentHistory()) {
+        model.setHistory(
+            [history](const QString &identification) {
+                return serialSavedAs(*history, identification);
+            },
+            [this, &editor, &form](quint32 serial) {
+                const QPointer<QWidget> window = m_window;
+                m_window = &form;
+                showHistory(editor, serial);
+                m_window = window;
+            });
+    }
+    form.exec();
+}
+
+void GuiEditorServices::validatorEvent(const ValidatorEvent &event)
+{
+    keepValidatorEvent(event, &m_prompt);
+}
+
+bool GuiEditorServices::historyAvailable()
+{
+    return currentHistory() != nullptr;
+}
+
+void GuiEditorServices::showHistory(EditorModel &editor, quint32 serial)
+{
+    HistoryStore *history = currentHistory();
+    if (!history)
+        return;
+    HistoryModel model(*history, &m_prompt);
+    if (!model.load(serial))
+        return;
+    // The editor writes to the validator connected: a state of its own history only, and
+    // against what it holds as far as the editor knows.
+    const BaselineSource &from = editor.baselineFrom();
+    if (editor.hasLink() && from.fromValidator() && from.serial == serial) {
+        model.setRestore(
+            [&editor, &model](const ConfigImage &state) {
+                editor.restoreState(state, model.title());
+                return true;
+            },
+            [&editor]() -> std::optional<ConfigImage> { return editor.baseline(); });
+    }
+    TFormHistory form(model, m_window);
     form.exec();
 }
 

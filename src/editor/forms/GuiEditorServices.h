@@ -64,6 +64,12 @@ public:
     bool batchAvailable() override { return true; }
     void runBatch(EditorModel &editor) override;
 
+    // Each validator's history, in the history the program keeps (currentHistory()): the
+    // editor's reads and writes are kept there; the History window over the editor.
+    void validatorEvent(const ValidatorEvent &event) override;
+    bool historyAvailable() override;
+    void showHistory(EditorModel &editor, quint32 serial) override;
+
     // The configuration sheet: its file dialog (answered by setNextSaveFileName too), the
     // print preview with the system's print dialog, and its windows chart.
     QString saveSheetFileName(const QString &suggested) override;

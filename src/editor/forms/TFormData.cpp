@@ -57,6 +57,7 @@ constexpr Place kPlaces[] = {
     {"BtnValues", Area::Tools},
     {"BtnSaved", Area::Tools},
     {"BtnBatch", Area::Tools},
+    {"BtnHistory", Area::Tools},
     {"BtnPrint", Area::Tools},
     {"BtnPdf", Area::Tools},
 };

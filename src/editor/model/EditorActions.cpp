@@ -1,5 +1,6 @@
 // The editor's handlers that reach beyond the form: writing, cloning, storing, files, the
 // small dialogs, closing and the timer.
+#include "Backups.h"
 #include "CloneTarget.h"
 #include "ConfigFile.h"
 #include "EditorModel.h"
@@ -31,8 +32,20 @@ void EditorModel::SpeedButton4Click()
         }
         if (!unwrittenChangesAccepted(false))
             return;
-        tables->storeValidator(m_s.image, identification,
-                               m_s.text(QStringLiteral("EDescription")).trimmed());
+        const ValidatorTables::Outcome stored = tables->storeValidator(
+            m_s.image, identification, m_s.text(QStringLiteral("EDescription")).trimmed());
+        // The validator read or written is the one the saved validator came from: its history
+        // notes the name, so that the browser finds the history of what it saved.
+        if (stored == ValidatorTables::Outcome::Stored && m_services &&
+            m_s.baselineFrom.fromValidator()) {
+            const ValidatorEvent event{QStringLiteral("store"),
+                                       m_s.baselineFrom.serial,
+                                       WriteOutcome::Finished,
+                                       std::nullopt,
+                                       m_s.baseline,
+                                       identification};
+            m_services->validatorEvent(event);
+        }
     });
 }
 
@@ -254,4 +267,23 @@ void EditorModel::tick()
     if (m_busy || !m_link)
         return;
     exclusive([&] { m_test.tick(m_services); });
+}
+
+void EditorModel::keepBackup(const ConfigImage &holds)
+{
+    const QString dir = m_services ? m_services->backupDirectory() : QString();
+    if (dir.isEmpty())
+        return;
+    QString error;
+    if (::keepBackup(dir, holds, QDateTime::currentDateTime(), &error).isEmpty() && m_s.prompt)
+        m_s.prompt->tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
+}
+
+void EditorModel::BtnHistoryClick()
+{
+    exclusive([&] {
+        EHFUBMIN0Exit();
+        if (m_services && m_s.baselineFrom.fromValidator())
+            m_services->showHistory(*this, m_s.baselineFrom.serial);
+    });
 }

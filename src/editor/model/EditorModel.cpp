@@ -40,6 +40,7 @@ constexpr Button kButtons[] = {
     {"BtnValues", Cap::ValuesTable, false},
     {"BtnSaved", Cap::SavedValidators, false},
     {"BtnBatch", Cap::Batch, true},
+    {"BtnHistory", Cap::History, true},
     {"BtnPrint", Cap::PrintSheet, false},
     {"BtnPdf", Cap::SaveSheetPdf, false},
     {"BitBtn1", Cap::Close, false},
@@ -92,6 +93,7 @@ EditorModel::EditorModel(UserPrompt *prompt, EditorServices *services, TMonnayeu
     c.setVisible(QStringLiteral("BtnValues"), services && services->valueTablesAvailable());
     c.setVisible(QStringLiteral("BtnSaved"), services && services->savedValidatorsAvailable());
     c.setVisible(QStringLiteral("BtnBatch"), services && services->batchAvailable());
+    c.setVisible(QStringLiteral("BtnHistory"), services && services->historyAvailable());
     for (const char *name : {"BtnLearn", "BtnReference", "BtnControl", "BtnOverlap"})
         c.setVisible(QLatin1String(name), services && services->learningAvailable());
     // The sheet is printed once the editor holds a configuration.
@@ -186,6 +188,9 @@ void EditorModel::showSheetButtons()
 {
     for (const char *name : {"BtnPrint", "BtnPdf"})
         m_s.controls.setEnabled(QLatin1String(name), m_holdsConfiguration);
+    // The history is the connected validator's: it shows once the validator was read or written.
+    m_s.controls.setEnabled(QStringLiteral("BtnHistory"),
+                            m_link && m_s.baselineFrom.fromValidator());
 }
 
 void EditorModel::loadImage(const ConfigImage &image, bool modified, BaselineSource::Kind kind,
@@ -305,17 +310,14 @@ void EditorModel::SpeedButton1Click()
         validatorHolds(m_s.image, BaselineSource::Kind::Read);
         m_lastRead = m_s.image;
         keepBackup(m_s.image);
+        if (m_services)
+            m_services->validatorEvent({QStringLiteral("read"),
+                                        m_s.image.serialNumber(),
+                                        WriteOutcome::Finished,
+                                        std::nullopt,
+                                        m_s.image,
+                                        {}});
     });
-}
-
-void EditorModel::keepBackup(const ConfigImage &holds)
-{
-    const QString dir = m_services ? m_services->backupDirectory() : QString();
-    if (dir.isEmpty())
-        return;
-    QString error;
-    if (::keepBackup(dir, holds, QDateTime::currentDateTime(), &error).isEmpty() && m_s.prompt)
-        m_s.prompt->tell(messageText(Msg::BackupFailed, {error}), UserPrompt::Kind::Warning);
 }
 
 // ---- editing ------------------------------------------------------------------------------
@@ -511,6 +513,8 @@ bool EditorModel::click(const QString &name, QString *error)
             if (m_services)
                 m_services->editValueTable(*this);
         });
+    } else if (name == QLatin1String("BtnHistory")) {
+        BtnHistoryClick();
     } else if (name == QLatin1String("BtnSaved")) {
         exclusive([&] {
             EHFUBMIN0Exit();

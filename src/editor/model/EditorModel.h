@@ -107,6 +107,12 @@ public:
     void BtnPdfClick();
     bool holdsConfiguration() const { return m_holdsConfiguration; }
     SheetOptions sheetOptions() const;
+    // Puts a configuration from the validator's history back: the editor shows it, then writes
+    // it as the full write does, kept in the history as a restore. The validator read (when it
+    // is the one connected) gets only what differs once the changes write can send that.
+    void restoreState(const ConfigImage &state, const QString &from);
+    // The History window of the validator read or written.
+    void BtnHistoryClick();
     // Coin learning, reference calibration, channel control and the overlap check.
     void learningClick(const QString &button);
 
@@ -190,5 +196,9 @@ private:
     // The configuration last read from the validator: what "Put back as it was" writes.
     std::optional<ConfigImage> m_lastRead;
     bool m_busy = false;
+    // A write puts back a state from the history.
+    bool m_restoring = false;
+    // The clone's target as read before the clone wrote over it.
+    std::optional<ConfigImage> m_cloneTarget;
     bool m_holdsConfiguration = false;
 };

@@ -2,6 +2,7 @@
 
 #include "CloneGroups.h"
 #include "ConfigSheet.h"
+#include "ValidatorEvent.h"
 
 #include <QString>
 #include <optional>
@@ -103,6 +104,14 @@ public:
     virtual void printSheet(const std::function<int(QPagedPaintDevice &)> &) {}
     // The windows chart the sheet shows for an image; empty: the sheet has no chart.
     virtual SheetChart sheetChart(const ConfigImage &) { return {}; }
+
+    // Each validator's history: a read or a write the editor did is kept there. A write whose
+    // event cannot be kept still stands; the services say the history could not be kept.
+    virtual void validatorEvent(const ValidatorEvent &) {}
+    // The History window of a serial number, where the program has it; restoring goes through
+    // the editor given.
+    virtual bool historyAvailable() { return false; }
+    virtual void showHistory(EditorModel &, quint32) {}
 };
 
 // Answers as a script would: every group, Continue, no dialogs, no files, no tables.

@@ -2,9 +2,11 @@
 #include "Captions.h"
 #include "ChangesWrite.h"
 #include "CloneTarget.h"
+#include "ConfigFile.h"
 #include "EditorModel.h"
 #include "EditorServices.h"
 #include "Messages.h"
+#include "RestoreWrite.h"
 #include "TMonnayeur.h"
 #include "UserPrompt.h"
 #include "WriteReport.h"
@@ -120,6 +122,7 @@ void EditorModel::SpeedButton2Click()
         const QString backups = m_services && m_services->backupBeforeCloning()
                                     ? m_services->backupDirectory()
                                     : QString();
+        m_cloneTarget.reset();
         if (!backups.isEmpty()) {
             showProgress(true, messageText(Msg::ValidatorReadingInProgress));
             ReadObserver reading;
@@ -127,8 +130,21 @@ void EditorModel::SpeedButton2Click()
                 setGauge(gauge);
                 flush();
             };
-            const bool goOn = keepCloneTarget(*m_link, backups, reading).goOn;
+            const TargetBackup kept = keepCloneTarget(*m_link, backups, reading);
+            const bool goOn = kept.goOn;
             showProgress(false);
+            // The target as read: its history's serial number and what the clone starts from.
+            ConfigImage target;
+            if (!kept.file.isEmpty() && loadConfigFile(kept.file, target, nullptr)) {
+                m_cloneTarget = target;
+                if (m_services)
+                    m_services->validatorEvent({QStringLiteral("read"),
+                                                target.serialNumber(),
+                                                WriteOutcome::Finished,
+                                                std::nullopt,
+                                                target,
+                                                {}});
+            }
             if (!goOn) {
                 display();
                 return;
@@ -137,6 +153,20 @@ void EditorModel::SpeedButton2Click()
         writeWithEnding({WriteJob::Kind::Clone, *groups});
         display();
     });
+}
+
+void EditorModel::restoreState(const ConfigImage &state, const QString &from)
+{
+    if (!m_link)
+        return;
+    loadImage(state, true, BaselineSource::Kind::File, from);
+    m_restoring = true;
+    // Put back on the validator read or written here, only what differs goes.
+    if (m_s.baselineFrom.fromValidator() && m_s.baselineFrom.serial == state.serialNumber())
+        BtnWriteChangesClick();
+    else
+        SpeedButton8Click();
+    m_restoring = false;
 }
 
 void EditorModel::writeWithEnding(WriteJob job)
@@ -192,7 +222,9 @@ WriteOutcome EditorModel::writeImage(ConfigImage &image, FullWriteOptions &optio
         setGauge(gauge);
         flush();
     };
-    const WriteOutcome outcome = fullWrite(*m_link, image, options, observer, &sent);
+    const WriteOutcome outcome = m_restoring
+                                     ? restoreWrite(*m_link, image, options, observer, &sent)
+                                     : fullWrite(*m_link, image, options, observer, &sent);
     showProgress(false);
     return outcome;
 }
@@ -213,14 +245,30 @@ WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &endin
         const WriteOutcome outcome = cloneWrite(*m_link, m_s.image, job.groups, observer, &sent);
         showProgress(false);
         // The image stays the source's: Changes and the modified flag are left as they were.
+        std::optional<VerifyResult> result;
         if (outcome == WriteOutcome::Finished) {
-            if (const std::optional<VerifyResult> result = verifyAfterWrite(sent)) {
+            result = verifyAfterWrite(sent);
+            if (result) {
                 ending.verified(*result);
                 // The target as the clone left it, where its state before is kept.
                 if (result->outcome != VerifyOutcome::ReadBackFailed &&
                     (!m_services || m_services->backupBeforeCloning()))
                     keepBackup(result->readBack);
             }
+        }
+        // The target's history: known by its serial number when it was read first or back.
+        if (m_services &&
+            (m_cloneTarget || (result && result->outcome != VerifyOutcome::ReadBackFailed))) {
+            const std::optional<ConfigImage> holds =
+                m_cloneTarget ? std::optional(expectedAfterWrite(*m_cloneTarget, sent))
+                              : std::nullopt;
+            m_services->validatorEvent(
+                {QStringLiteral("clone"),
+                 m_cloneTarget ? m_cloneTarget->serialNumber() : result->readBack.serialNumber(),
+                 outcome,
+                 result,
+                 holds,
+                 {}});
         }
         return outcome;
     }
@@ -242,8 +290,14 @@ WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &endin
     const WriteOutcome outcome = writeImage(image, options, sent, ending);
     if (!putBack)
         m_s.flags.serialOverride = options.serialOverride;
-    if (outcome != WriteOutcome::Finished)
+    const QString kind =
+        putBack || m_restoring ? QStringLiteral("restore") : QStringLiteral("write");
+    if (outcome != WriteOutcome::Finished) {
+        if (m_services)
+            m_services->validatorEvent(
+                {kind, image.serialNumber(), outcome, std::nullopt, std::nullopt, {}});
         return outcome;
+    }
     // The validator now holds the image, unless the read-back shows otherwise: then closing
     // offers to write it again, and Changes counts from what it holds.
     const std::optional<VerifyResult> result = verifyAfterWrite(sent);
@@ -251,6 +305,15 @@ WriteOutcome EditorModel::oneWrite(const WriteJob &job, const WriteEnding &endin
         ending.verified(*result);
     if (result && result->outcome != VerifyOutcome::ReadBackFailed)
         keepBackup(result->readBack);
+    // A step refused leaves what the validator holds unknown without the read-back.
+    if (m_services)
+        m_services->validatorEvent(
+            {kind,
+             image.serialNumber(),
+             outcome,
+             result,
+             stepsRefused(sent.steps).isEmpty() ? std::optional(image) : std::nullopt,
+             {}});
     const bool differs = result && result->outcome == VerifyOutcome::Mismatches;
     // Without the read-back, a refused step still leaves something to write again.
     const bool refused = !result && !stepsRefused(sent.steps).isEmpty();
@@ -283,6 +346,8 @@ void EditorModel::validatorHolds(const ConfigImage &image, BaselineSource::Kind 
 {
     m_s.baseline = image;
     m_s.baselineFrom = {kind, {}, image.serialNumber(), QDateTime::currentDateTime()};
+    // The History button follows the validator read or written.
+    showSheetButtons();
 }
 
 bool EditorModel::unwrittenChangesAccepted(bool opening)
@@ -388,6 +453,18 @@ void EditorModel::writeChanges(const ConfigImage &wanted, bool quiet)
                                        : expectedAfterWrite(m_s.baseline, result.sent),
                                BaselineSource::Kind::Written);
             m_s.flags.configModified = !configDifferences(m_s.baseline, m_s.image).isEmpty();
+        }
+        // The validator's history, once something was sent: what it holds is known when every
+        // block went in.
+        if (m_services && result.refusal == ChangesRefusal::None && !result.plan.empty()) {
+            const bool known = wrote && stepsRefused(result.sent.steps).isEmpty();
+            m_services->validatorEvent(
+                {m_restoring ? QStringLiteral("restore") : QStringLiteral("changes"),
+                 m_s.baseline.serialNumber(),
+                 result.outcome,
+                 verified,
+                 known ? std::optional(m_s.baseline) : std::nullopt,
+                 {}});
         }
     }
     const bool good = result.outcome == WriteOutcome::Finished &&

@@ -41,6 +41,7 @@ TFormReadFileData::TFormReadFileData(SavedValidatorsModel &model, QWidget *paren
       m_channels(grid<QTableWidget>("GridChannels", this)),
       m_open(named(new QPushButton(this), "BtnOpen")),
       m_delete(named(new QPushButton(this), "BtnDelete")),
+      m_history(named(new QPushButton(this), "BtnHistory")),
       m_close(named(new QPushButton(this), "BtnClose"))
 {
     setObjectName(QStringLiteral("TFormReadFileData"));
@@ -62,7 +63,7 @@ TFormReadFileData::TFormReadFileData(SavedValidatorsModel &model, QWidget *paren
     grids->addWidget(m_channels, 3);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
-    for (QPushButton *button : {m_open, m_delete, m_close}) {
+    for (QPushButton *button : {m_open, m_delete, m_history, m_close}) {
         button->setAutoDefault(false);
         buttons->addWidget(button);
     }
@@ -93,6 +94,7 @@ TFormReadFileData::TFormReadFileData(SavedValidatorsModel &model, QWidget *paren
         if (m_model.BtnDeleteClick())
             showValidators();
     });
+    connect(m_history, &QPushButton::clicked, this, [this] { m_model.BtnHistoryClick(); });
     connect(m_close, &QPushButton::clicked, this, &QDialog::reject);
     showTexts();
     showValidators();
@@ -106,6 +108,8 @@ void TFormReadFileData::showTexts()
     m_open->setText(c.state(QStringLiteral("BtnOpen")).text);
     m_delete->setText(c.state(QStringLiteral("BtnDelete")).text);
     m_close->setText(c.state(QStringLiteral("BtnClose")).text);
+    m_history->setText(c.state(QStringLiteral("BtnHistory")).text);
+    m_history->setVisible(c.state(QStringLiteral("BtnHistory")).visible);
     m_validators->setAccessibleName(c.state(QStringLiteral("TFormReadFileData")).text);
     m_channels->setAccessibleName(c.state(QStringLiteral("TFormReadFileData")).text + u' ' +
                                   SavedValidatorsModel::channelColumns().constFirst());
@@ -136,6 +140,7 @@ void TFormReadFileData::showChannels()
     const ControlSet &c = m_model.controls();
     m_open->setEnabled(c.state(QStringLiteral("BtnOpen")).enabled);
     m_delete->setEnabled(c.state(QStringLiteral("BtnDelete")).enabled);
+    m_history->setEnabled(c.state(QStringLiteral("BtnHistory")).enabled);
     const auto &rows = m_model.channelRows();
     // A keystroke that keeps the same validator leaves its grid as it is.
     if (rows == m_shownChannels && m_channels->rowCount() == rows.size())

@@ -34,6 +34,7 @@ private:
     QTableWidget *m_channels;
     QPushButton *m_open;
     QPushButton *m_delete;
+    QPushButton *m_history;
     QPushButton *m_close;
     QList<QStringList> m_shownChannels;
 };
