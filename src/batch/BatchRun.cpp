@@ -3,6 +3,8 @@
 #include "Backups.h"
 #include "BatchSheet.h"
 #include "Commands.h"
+#include "HistoryRecorder.h"
+#include "HistoryStore.h"
 #include "Messages.h"
 #include "ReadSequence.h"
 #include "RecordingPrompt.h"
@@ -260,6 +262,17 @@ void BatchRun::record(BatchResult result, const QString &detail, std::optional<C
             done.row.detail += (detail.isEmpty() ? QString() : QStringLiteral("\n")) +
                                messageText(Msg::BatchSheetNotWritten, {error});
     }
+    // The validator's history, for every validator written to, or tried.
+    HistoryStore *history = currentHistory();
+    const bool tried = result == BatchResult::Verified || result == BatchResult::Mismatch ||
+                       result == BatchResult::Failed;
+    QString historyError;
+    if (history && tried && m_serial != 0 &&
+        !history->record(historyEvent(m_serial, QStringLiteral("batch"), batchResultName(result),
+                                      holds, done.row.detail),
+                         &historyError))
+        done.row.detail += (done.row.detail.isEmpty() ? QString() : QStringLiteral("\n")) +
+                           messageText(Msg::HistoryNotKept, {historyError});
     done.backupFile = m_backupFile;
     done.holds = std::move(holds);
     if (result == BatchResult::Verified)

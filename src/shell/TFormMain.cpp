@@ -152,10 +152,11 @@ void TFormMain::retranslateUi()
     m_son1->setText(tr("&Sound"));
     m_ajustementauto1->setText(tr("&Auto adjust"));
     m_ecrituredirecte1->setText(tr("&Direct write"));
-    m_ecrituredirecte1->setToolTip(
+    // The hint stays the program's own; the status line says what the switch does.
+    m_ecrituredirecte1->setToolTip(tr("Only for calibration"));
+    m_ecrituredirecte1->setStatusTip(
         tr("Only for calibration: leaving a window, value, substitute or enable box of a channel "
            "writes that channel's change to the validator at once and checks it"));
-    m_ecrituredirecte1->setStatusTip(m_ecrituredirecte1->toolTip());
     m_verifyafterwrite1->setText(tr("&Verify after write"));
     m_verifyafterwrite1->setToolTip(
         tr("Reads the validator back after each write and lists what it does not hold"));

@@ -9,6 +9,8 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QThread>
 #include <csignal>
 #include <gtest/gtest.h>
@@ -159,6 +161,22 @@ TEST_F(BatchCommand, SixValidatorsInTurnAreLoggedAsTheyCome)
         EXPECT_EQ(cells[2], i == 3 ? QStringLiteral("0x23") : QStringLiteral("0x13"));
         EXPECT_EQ(cells[3], results[i]);
     }
+
+    // Each validator written to keeps the batch in its history: 2001 once (not again when it
+    // came back), the pulled one as failed, the one of another family not at all.
+    auto batchResults = [](const char *serial) {
+        const CliRun run = runTarvikCli({"history", serial, "--json"});
+        QStringList found;
+        const QJsonArray events = QJsonDocument::fromJson(run.out.toUtf8())["events"].toArray();
+        for (const QJsonValue &event : events) {
+            if (event["kind"].toString() == QLatin1String("batch"))
+                found << event["result"].toString();
+        }
+        return found;
+    };
+    EXPECT_EQ(batchResults("2001"), QStringList{"verified"});
+    EXPECT_EQ(batchResults("2003"), QStringList{"failed"});
+    EXPECT_TRUE(batchResults("3001").isEmpty());
 
     // Each verified validator holds the source's groups, its windows corrected by its own
     // reference channel, and keeps its own serial number.

@@ -108,6 +108,11 @@ TEST_F(ChangesWrite, OneWindowValueOrPriceSendsItsOwnBlockAndReadsOnlyThatBack)
     EXPECT_EQ(received.count(4, 2), 1);
     for (int read : {2, 8, 9, 13, 15, 17, 19, 21, 23})
         EXPECT_EQ(received.count(read), 0) << read;
+    // The validator's history keeps the write and how it ended.
+    const CliRun history = runTarvikCli({"history", "1001"});
+    EXPECT_EQ(history.exitCode, 0) << qPrintable(history.err);
+    EXPECT_TRUE(history.out.contains("Changes write (")) << qPrintable(history.out);
+    EXPECT_TRUE(history.out.contains("), verified")) << qPrintable(history.out);
 
     // One channel's value: the slice that holds it, and that slice read back.
     ConfigImage value = m_base;

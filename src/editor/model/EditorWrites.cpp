@@ -363,6 +363,66 @@ bool EditorModel::unwrittenChangesAccepted(bool opening)
                               captionText(Cap::CancelChoice)) == 0;
 }
 
+// ---- reading ------------------------------------------------------------------------------
+
+void EditorModel::SpeedButton1Click()
+{
+    if (!m_link)
+        return;
+    exclusive([&] {
+        m_s.flags.readFailed = false;
+        bool shown = false;
+        ReadObserver observer;
+        observer.progress = [&](int gauge) {
+            if (!shown) {
+                shown = true;
+                showProgress(true, messageText(Msg::ValidatorReadingInProgress));
+            }
+            setGauge(gauge);
+            flush();
+        };
+        observer.familyKnown = [&](bool light) {
+            showModel(light);
+            flush();
+        };
+        observer.pageReached = [&](int page) {
+            m_grid.showPage(page);
+            flush();
+            if (repaintNow)
+                repaintNow();
+        };
+        const ReadOutcome outcome =
+            readValidator(*m_link, m_s.image, m_s.flags.promptFlag, observer);
+        showProgress(false);
+        if (outcome != ReadOutcome::Done) {
+            // Nothing partial is shown: the editor closes.
+            m_s.flags.readFailed = true;
+            if (closeRequested)
+                closeRequested();
+            return;
+        }
+        m_s.flags.readOnOpen = false;
+        m_s.flags.editChanged = false;
+        m_holdsConfiguration = true;
+        showSheetButtons();
+        m_money.takeFromImage();
+        m_counters.takeFromImage();
+        display();
+        m_s.flags.promptFlag = true;
+        m_s.flags.configModified = false;
+        validatorHolds(m_s.image, BaselineSource::Kind::Read);
+        m_lastRead = m_s.image;
+        keepBackup(m_s.image);
+        if (m_services)
+            m_services->validatorEvent({QStringLiteral("read"),
+                                        m_s.image.serialNumber(),
+                                        WriteOutcome::Finished,
+                                        std::nullopt,
+                                        m_s.image,
+                                        {}});
+    });
+}
+
 // ---- writing only what changed ------------------------------------------------------------
 
 void EditorModel::showWriteChanges()
