@@ -333,6 +333,13 @@ constexpr Entry kTable[] = {
                                    "length prove %s")},
     {Msg::RepairNotReadBack,
      QT_TRANSLATE_NOOP("Messages", "the rebuilt table could not be read back as written")},
+    {Msg::ServerUnreachable,
+     QT_TRANSLATE_NOOP("Messages", "The server %s cannot be reached: nothing was stored.")},
+    {Msg::ServerUnreachableRead, QT_TRANSLATE_NOOP("Messages", "The server %s cannot be reached.")},
+    {Msg::ServerSchemaNewer,
+     QT_TRANSLATE_NOOP("Messages", "The tables on the server %s were made by a later version "
+                                   "(%d); this program knows version %d and changes nothing.")},
+    {Msg::ServerRefused, QT_TRANSLATE_NOOP("Messages", "The server %s refused: %s")},
 };
 
 } // namespace

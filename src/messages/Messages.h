@@ -183,6 +183,11 @@ enum class Msg
     // damaged headers
     RecordsRowsPastCount,
     RepairNotReadBack,
+    // the records on a database server
+    ServerUnreachable,
+    ServerUnreachableRead,
+    ServerSchemaNewer,
+    ServerRefused,
     Count_
 };
 
