@@ -52,6 +52,9 @@ bool parseGlobal(QStringList &args, GlobalOptions &o, QString &error)
         } else if (a == QLatin1String("--data-dir")) {
             if (!value(o.dataDir))
                 return false;
+        } else if (a == QLatin1String("--data-source")) {
+            if (!value(o.dataSource))
+                return false;
         } else if (a == QLatin1String("--trace")) {
             if (!value(o.trace))
                 return false;
@@ -108,7 +111,8 @@ QString cliUsage(const CliCommandTable &table)
     QString text =
         QStringLiteral("usage: tarvik-cli [--device PATH | --port COMn |\n"
                        "                   --simulate [--sim-family BYTE] [--sim-line LINE]]\n"
-                       "                  [--port-timeout MS] [--data-dir DIR] [--trace FILE]\n"
+                       "                  [--port-timeout MS] [--data-dir DIR]\n"
+                       "                  [--data-source DIR|postgresql://...] [--trace FILE]\n"
                        "                  COMMAND [ARGS]\n"
                        "       tarvik-cli --help | --version\n\ncommands:\n");
     for (auto it = table.cbegin(); it != table.cend(); ++it)
@@ -128,6 +132,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerLearnCommands(table);
     registerValueCommands(table);
     registerProfileCommands(table);
+    registerMigrateCommands(table);
     registerRepairCommands(table);
     registerDiffCommands(table);
     registerSheetCommands(table);

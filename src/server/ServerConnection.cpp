@@ -191,11 +191,13 @@ bool ServerConnection::createSchema(QString *error)
     };
     QString reason;
     if (!runSql(q, QStringLiteral("SELECT pg_advisory_xact_lock(7310)"), {}, &reason) ||
-        !runSql(
-            q,
-            QStringLiteral("CREATE TABLE IF NOT EXISTS tarvik_schema (version integer NOT NULL)"),
-            {}, &reason) ||
-        !runSql(q, QStringLiteral("SELECT max(version) FROM tarvik_schema"), {}, &reason))
+        !runSql(q, QStringLiteral("SELECT to_regclass('tarvik_schema') IS NULL"), {}, &reason))
+        return fail(reason);
+    const bool none = q.next() && q.value(0).toBool();
+    if (none && !runSql(q, QStringLiteral("CREATE TABLE tarvik_schema (version integer NOT NULL)"),
+                        {}, &reason))
+        return fail(reason);
+    if (!runSql(q, QStringLiteral("SELECT max(version) FROM tarvik_schema"), {}, &reason))
         return fail(reason);
     const int found = q.next() && !q.value(0).isNull() ? q.value(0).toInt() : 0;
     if (found > kSchemaVersion)
