@@ -230,7 +230,17 @@ ServerConnection::transaction(const std::function<bool(QSqlDatabase &, QString *
         *error = reached ? reason : unreachable(changes);
         return reached ? Result::Failed : Result::Lost;
     }
-    if (m_db.transaction()) {
+    // A connection the server ended while it was idle is made again once: nothing was sent.
+    bool begun = m_db.transaction();
+    if (!begun) {
+        close();
+        if (!open(&reason, &reached)) {
+            *error = reached ? reason : unreachable(changes);
+            return reached ? Result::Failed : Result::Lost;
+        }
+        begun = m_db.transaction();
+    }
+    if (begun) {
         if (work(m_db, &reason)) {
             if (m_db.commit())
                 return Result::Done;

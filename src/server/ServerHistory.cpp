@@ -1,13 +1,57 @@
 #include "ServerHistory.h"
 
-#include "ConfigFile.h"
 #include "ServerConnection.h"
 
 #include <QCryptographicHash>
 #include <QSqlQuery>
-#include <QTimeZone>
+#include <algorithm>
+#include <span>
 
 namespace {
+
+// Every byte of an image, block after block in the order ConfigImage declares them: the
+// history keeps what the program knew exactly, not what a file form makes of it.
+template <typename Fn> void eachBlock(Fn fn, auto &image)
+{
+    fn(image.version);
+    fn(image.ident);
+    fn(image.counters);
+    fn(image.prices);
+    fn(image.options);
+    fn(image.enable);
+    fn(image.values);
+    fn(image.block2);
+    fn(image.block13);
+    fn(std::span(&image.setting8, 1));
+    fn(image.status9);
+    for (auto &record : image.channels)
+        fn(record);
+}
+
+QByteArray imageBytes(const ConfigImage &image)
+{
+    QByteArray bytes;
+    eachBlock(
+        [&](const auto &block) {
+            bytes.append(reinterpret_cast<const char *>(block.data()), qsizetype(block.size()));
+        },
+        image);
+    return bytes;
+}
+
+bool imageFromBytes(const QByteArray &bytes, ConfigImage &image)
+{
+    if (bytes.size() != imageBytes(image).size())
+        return false;
+    qsizetype at = 0;
+    eachBlock(
+        [&](auto &&block) {
+            std::copy_n(bytes.constData() + at, block.size(), block.begin());
+            at += qsizetype(block.size());
+        },
+        image);
+    return true;
+}
 
 const QString kEventColumns =
     QStringLiteral("serial, happened, kind, result, program, machine, account, detail");
@@ -36,14 +80,14 @@ bool ServerHistory::record(const HistoryEvent &event, QString *error)
             QSqlQuery q(db);
             QVariant configuration(QMetaType::fromType<qlonglong>());
             if (event.configuration) {
-                const QByteArray json = configToJson(*event.configuration);
+                const QByteArray bytes = imageBytes(*event.configuration);
                 const QByteArray digest =
-                    QCryptographicHash::hash(json, QCryptographicHash::Sha256);
+                    QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
                 if (!runSql(q,
                             QStringLiteral("INSERT INTO history_configurations (digest, "
                                            "configuration) VALUES (?, ?) ON CONFLICT (digest) "
                                            "DO NOTHING"),
-                            {digest, QString::fromUtf8(json)}, why) ||
+                            {digest, bytes}, why) ||
                     !runSql(q,
                             QStringLiteral("SELECT id FROM history_configurations WHERE "
                                            "digest = ?"),
@@ -91,9 +135,8 @@ std::optional<QList<HistoryEvent>> ServerHistory::events(quint32 serial, QString
                 HistoryEvent e = eventOf(q);
                 if (!q.value(8).isNull()) {
                     ConfigImage image;
-                    QString bad;
-                    if (!configFromJson(q.value(8).toString().toUtf8(), image, &bad)) {
-                        *why = bad;
+                    if (!imageFromBytes(q.value(8).toByteArray(), image)) {
+                        *why = QStringLiteral("a configuration of the history is not whole");
                         return false;
                     }
                     e.configuration = image;

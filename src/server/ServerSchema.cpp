@@ -67,7 +67,7 @@ QStringList version1()
             .arg(columns(valueChannels, "bigint")),
         // A configuration is kept once however many events name it.
         QStringLiteral("CREATE TABLE history_configurations (id bigserial PRIMARY KEY, "
-                       "digest bytea NOT NULL UNIQUE, configuration text NOT NULL)"),
+                       "digest bytea NOT NULL UNIQUE, configuration bytea NOT NULL)"),
         QStringLiteral("CREATE TABLE history_events (serial bigint NOT NULL, happened "
                        "timestamptz NOT NULL, kind text NOT NULL, result text NOT NULL, program "
                        "text NOT NULL, machine text NOT NULL, account text NOT NULL, detail text "
