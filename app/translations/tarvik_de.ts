@@ -1446,6 +1446,18 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>Der Münzprüfer hat %d Änderungen dieses Editors nicht (siehe Änderungen); das Öffnen ersetzt sie im Editor. Trotzdem öffnen?</translation>
     </message>
+    <message>
+        <source>The server %s cannot be reached: nothing was stored.</source>
+        <translation>Der Server %s ist nicht erreichbar: Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The server %s cannot be reached.</source>
+        <translation>Der Server %s ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
+        <translation>Die Tabellen auf dem Server %s wurden von einer neueren Version (%d) angelegt; dieses Programm kennt Version %d und ändert nichts.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

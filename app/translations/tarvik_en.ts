@@ -1446,6 +1446,18 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</translation>
     </message>
+    <message>
+        <source>The server %s cannot be reached: nothing was stored.</source>
+        <translation>The server %s cannot be reached: nothing was stored.</translation>
+    </message>
+    <message>
+        <source>The server %s cannot be reached.</source>
+        <translation>The server %s cannot be reached.</translation>
+    </message>
+    <message>
+        <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
+        <translation>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

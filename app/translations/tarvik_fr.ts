@@ -1446,6 +1446,18 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>Le monnayeur n&apos;a pas %d modifications que cet éditeur contient (voir Modifications) ; l&apos;ouverture les remplace dans l&apos;éditeur. Ouvrir quand même ?</translation>
     </message>
+    <message>
+        <source>The server %s cannot be reached: nothing was stored.</source>
+        <translation>Le serveur %s est injoignable : rien n'a été enregistré.</translation>
+    </message>
+    <message>
+        <source>The server %s cannot be reached.</source>
+        <translation>Le serveur %s est injoignable.</translation>
+    </message>
+    <message>
+        <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
+        <translation>Les tables du serveur %s ont été créées par une version plus récente (%d) ; ce programme connaît la version %d et ne modifie rien.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -1446,6 +1446,18 @@
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
         <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche); l&apos;apertura le sostituisce nell&apos;editor. Aprire comunque?</translation>
     </message>
+    <message>
+        <source>The server %s cannot be reached: nothing was stored.</source>
+        <translation>Il server %s non è raggiungibile: non è stato salvato nulla.</translation>
+    </message>
+    <message>
+        <source>The server %s cannot be reached.</source>
+        <translation>Il server %s non è raggiungibile.</translation>
+    </message>
+    <message>
+        <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
+        <translation>Le tabelle sul server %s sono state create da una versione più recente (%d); questo programma conosce la versione %d e non modifica nulla.</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorPanel</name>

@@ -339,7 +339,6 @@ constexpr Entry kTable[] = {
     {Msg::ServerSchemaNewer,
      QT_TRANSLATE_NOOP("Messages", "The tables on the server %s were made by a later version "
                                    "(%d); this program knows version %d and changes nothing.")},
-    {Msg::ServerRefused, QT_TRANSLATE_NOOP("Messages", "The server %s refused: %s")},
 };
 
 } // namespace

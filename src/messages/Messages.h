@@ -187,7 +187,6 @@ enum class Msg
     ServerUnreachable,
     ServerUnreachableRead,
     ServerSchemaNewer,
-    ServerRefused,
     Count_
 };
 
