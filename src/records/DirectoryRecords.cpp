@@ -114,3 +114,24 @@ bool DirectoryRecords::removeValueTable(const QString &name)
     m_error = m_values.errorString();
     return ok;
 }
+
+bool DirectoryRecords::canChangeValidators()
+{
+    const bool ok = m_validators.canChange();
+    m_error = m_validators.errorString();
+    return ok;
+}
+
+bool DirectoryRecords::canChangeProfiles()
+{
+    const bool ok = m_profiles.canChange();
+    m_error = m_profiles.errorString();
+    return ok;
+}
+
+bool DirectoryRecords::canChangeValueTables()
+{
+    const bool ok = m_values.canChange();
+    m_error = m_values.errorString();
+    return ok;
+}

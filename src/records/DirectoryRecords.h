@@ -33,6 +33,9 @@ public:
     ValueTableStore::Outcome saveValueTable(const ValueBlock &block, const QString &name,
                                             const QString &description, bool light) override;
     bool removeValueTable(const QString &name) override;
+    bool canChangeValidators() override;
+    bool canChangeProfiles() override;
+    bool canChangeValueTables() override;
 
 private:
     TDBModule &m_db;

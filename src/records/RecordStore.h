@@ -40,6 +40,12 @@ public:
                            QString *description = nullptr,
                            ValidatorStore::LoadReport *report = nullptr);
 
+    // Whether validators, profiles or value tables take changes now; errorString() says why
+    // not. A server is reached when it is used, and says then when it cannot be.
+    virtual bool canChangeValidators() = 0;
+    virtual bool canChangeProfiles() = 0;
+    virtual bool canChangeValueTables() = 0;
+
     // Coin profiles: as ProfileStore has them.
     virtual QList<ProfileStore::Entry> profiles() = 0;
     virtual std::optional<ProfileRecord> loadProfile(const QString &name) = 0;

@@ -40,6 +40,9 @@ public:
     ValueTableStore::Outcome saveValueTable(const ValueBlock &block, const QString &name,
                                             const QString &description, bool light) override;
     bool removeValueTable(const QString &name) override;
+    bool canChangeValidators() override { return changeable(); }
+    bool canChangeProfiles() override { return changeable(); }
+    bool canChangeValueTables() override { return changeable(); }
 
 private:
     enum class Change
@@ -57,6 +60,11 @@ private:
     // Deletes the row of key in one transaction; false with notStored in m_error when none.
     bool removeRow(const QString &table, const QString &keyColumn, const QString &key,
                    const QString &notStored);
+    bool changeable()
+    {
+        m_error.clear();
+        return true;
+    }
     // Reads in one transaction; false with the reason in m_error.
     bool read(const Write &work);
 
