@@ -139,6 +139,7 @@ int main(int argc, char *argv[])
     context.createDataModule = [&prompt, &dataSource]() -> std::shared_ptr<void> {
         // Tables that cannot be opened have been reported; the program goes on without them.
         // A source that is not one (a bad address) is said, and there are no records.
+        dataSource = nullptr;
         auto source = std::make_shared<DataSource>();
         if (!source->open(DataSource::resolve(), prompt)) {
             prompt.tell(source->errorString(), UserPrompt::Kind::Error);

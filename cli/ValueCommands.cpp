@@ -8,6 +8,8 @@
 #include "ValueTableModel.h"
 #include "ValueTableStore.h"
 
+#include <algorithm>
+
 namespace {
 
 int listValues(CliContext &cli, DataSource &source, const QStringList &args)
@@ -62,38 +64,38 @@ int saveValues(CliContext &cli, DataSource &source, const QStringList &args)
 
 int applyValues(CliContext &cli, DataSource &source, const QStringList &arguments)
 {
-    // The value table form works on the directory's table.
-    if (!source.tables()) {
-        cli.err() << QStringLiteral("values apply works on a data directory; on a server, open "
-                                    "the value table in the program")
-                  << Qt::endl;
-        return kExitFailed;
-    }
-    ValueTableStore store(*source.tables(), cli.prompt());
     QStringList args = arguments;
     QString output;
     if (!takeOutputOption(args, output) || args.size() != 2 || args[0].startsWith(u'-') ||
         args[1].startsWith(u'-'))
         return kExitUsage;
-    const int at = store.find(args[0]);
-    if (at < 0) {
-        cli.err() << ValueTableStore::notStoredText(args[0].trimmed()) << Qt::endl;
+    RecordStore &records = source.records();
+    const QList<ValueTableStore::Entry> entries = records.valueTables();
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const auto &entry) {
+        return entry.name.compare(args[0].trimmed(), Qt::CaseInsensitive) == 0;
+    });
+    if (found == entries.end()) {
+        cli.err() << (records.errorString().isEmpty()
+                          ? ValueTableStore::notStoredText(args[0].trimmed())
+                          : records.errorString())
+                  << Qt::endl;
         return kExitFailed;
     }
     ConfigImage image;
     if (!readImageInput(cli, args[1], image))
         return kExitFailed;
     // As the form does it: open the row into the working copy, then Apply.
-    bool modified = false;
-    ValueTableModel form(image.values, &modified, image.isLight(), nullptr, &cli.prompt(), &store,
-                         false);
+    ValueTableModel::Editor editor{[&image] { return image.values; },
+                                   [&image](const ValueBlock &block) { image.values = block; },
+                                   [] {}};
+    ValueTableModel form(editor, image.isLight(), nullptr, &cli.prompt(), &records, false);
     form.FormActivate();
-    form.recordClick(at);
+    form.recordClick(int(found - entries.begin()));
     form.BitBtn5Click();
-    form.BitBtn3Click();
     // A field that did not convert has been told; a half-applied table is not written anywhere.
-    if (!store.conversionError().isEmpty())
+    if (!records.errorString().isEmpty())
         return kExitFailed;
+    form.BitBtn3Click();
     return writeImageOutput(cli, image, output);
 }
 

@@ -791,6 +791,38 @@
         <source>Cancel</source>
         <translation>Cancel</translation>
     </message>
+    <message>
+        <source>Data source...</source>
+        <translation>Data source...</translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation>Data source</translation>
+    </message>
+    <message>
+        <source>Data &amp;directory</source>
+        <translation>Data &amp;directory</translation>
+    </message>
+    <message>
+        <source>&amp;Server (PostgreSQL)</source>
+        <translation>&amp;Server (PostgreSQL)</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Directory:</translation>
+    </message>
+    <message>
+        <source>Address (postgresql://...):</source>
+        <translation>Address (postgresql://...):</translation>
+    </message>
+    <message>
+        <source>&amp;Test connection</source>
+        <translation>&amp;Test connection</translation>
+    </message>
+    <message>
+        <source>Connected to %s.</source>
+        <translation>Connected to %s.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1457,6 +1489,10 @@
     <message>
         <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
         <translation>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</translation>
+    </message>
+    <message>
+        <source>The password is not kept in the settings: put it in ~/.pgpass or PGPASSWORD.</source>
+        <translation>The password is not kept in the settings: put it in ~/.pgpass or PGPASSWORD.</translation>
     </message>
 </context>
 <context>

@@ -791,6 +791,38 @@
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>Data source...</source>
+        <translation>Source des données...</translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation>Source des données</translation>
+    </message>
+    <message>
+        <source>Data &amp;directory</source>
+        <translation>&amp;Répertoire de données</translation>
+    </message>
+    <message>
+        <source>&amp;Server (PostgreSQL)</source>
+        <translation>&amp;Serveur (PostgreSQL)</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Répertoire :</translation>
+    </message>
+    <message>
+        <source>Address (postgresql://...):</source>
+        <translation>Adresse (postgresql://...) :</translation>
+    </message>
+    <message>
+        <source>&amp;Test connection</source>
+        <translation>&amp;Tester la connexion</translation>
+    </message>
+    <message>
+        <source>Connected to %s.</source>
+        <translation>Connecté à %s.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1448,7 +1480,7 @@
     </message>
     <message>
         <source>The server %s cannot be reached: nothing was stored.</source>
-        <translation>Le serveur %s est injoignable : rien n'a été enregistré.</translation>
+        <translation>Le serveur %s est injoignable : rien n&apos;a été enregistré.</translation>
     </message>
     <message>
         <source>The server %s cannot be reached.</source>
@@ -1457,6 +1489,10 @@
     <message>
         <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
         <translation>Les tables du serveur %s ont été créées par une version plus récente (%d) ; ce programme connaît la version %d et ne modifie rien.</translation>
+    </message>
+    <message>
+        <source>The password is not kept in the settings: put it in ~/.pgpass or PGPASSWORD.</source>
+        <translation>Le mot de passe n'est pas conservé dans les paramètres : placez-le dans ~/.pgpass ou PGPASSWORD.</translation>
     </message>
 </context>
 <context>

@@ -791,6 +791,38 @@
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
+    <message>
+        <source>Data source...</source>
+        <translation>Origine dei dati...</translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation>Origine dei dati</translation>
+    </message>
+    <message>
+        <source>Data &amp;directory</source>
+        <translation>&amp;Cartella dei dati</translation>
+    </message>
+    <message>
+        <source>&amp;Server (PostgreSQL)</source>
+        <translation>&amp;Server (PostgreSQL)</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Cartella:</translation>
+    </message>
+    <message>
+        <source>Address (postgresql://...):</source>
+        <translation>Indirizzo (postgresql://...):</translation>
+    </message>
+    <message>
+        <source>&amp;Test connection</source>
+        <translation>&amp;Prova la connessione</translation>
+    </message>
+    <message>
+        <source>Connected to %s.</source>
+        <translation>Connesso a %s.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1457,6 +1489,10 @@
     <message>
         <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
         <translation>Le tabelle sul server %s sono state create da una versione più recente (%d); questo programma conosce la versione %d e non modifica nulla.</translation>
+    </message>
+    <message>
+        <source>The password is not kept in the settings: put it in ~/.pgpass or PGPASSWORD.</source>
+        <translation>La password non viene conservata nelle impostazioni: inseritela in ~/.pgpass o in PGPASSWORD.</translation>
     </message>
 </context>
 <context>

@@ -223,6 +223,14 @@ constexpr Entry kTable[] = {
     {Cap::SheetChart, QT_TRANSLATE_NOOP("Captions", "Windows chart")},
     {Cap::SheetPrinted, QT_TRANSLATE_NOOP("Captions", "Printed on %s")},
     {Cap::SheetPage, QT_TRANSLATE_NOOP("Captions", "Page %d of %d")},
+    {Cap::DataSourceItem, QT_TRANSLATE_NOOP("Captions", "Data source...")},
+    {Cap::DataSourceTitle, QT_TRANSLATE_NOOP("Captions", "Data source")},
+    {Cap::DataSourceDirectory, QT_TRANSLATE_NOOP("Captions", "Data &directory")},
+    {Cap::DataSourceServer, QT_TRANSLATE_NOOP("Captions", "&Server (PostgreSQL)")},
+    {Cap::DataSourceDirectoryLabel, QT_TRANSLATE_NOOP("Captions", "Directory:")},
+    {Cap::DataSourceAddressLabel, QT_TRANSLATE_NOOP("Captions", "Address (postgresql://...):")},
+    {Cap::DataSourceTest, QT_TRANSLATE_NOOP("Captions", "&Test connection")},
+    {Cap::DataSourceConnected, QT_TRANSLATE_NOOP("Captions", "Connected to %s.")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

@@ -221,6 +221,15 @@ enum class Cap
     SheetChart,
     SheetPrinted,
     SheetPage,
+    // the data source
+    DataSourceItem,
+    DataSourceTitle,
+    DataSourceDirectory,
+    DataSourceServer,
+    DataSourceDirectoryLabel,
+    DataSourceAddressLabel,
+    DataSourceTest,
+    DataSourceConnected,
     Count_
 };
 

@@ -336,6 +336,9 @@ constexpr Entry kTable[] = {
     {Msg::ServerUnreachable,
      QT_TRANSLATE_NOOP("Messages", "The server %s cannot be reached: nothing was stored.")},
     {Msg::ServerUnreachableRead, QT_TRANSLATE_NOOP("Messages", "The server %s cannot be reached.")},
+    {Msg::ServerPasswordNotKept,
+     QT_TRANSLATE_NOOP("Messages", "The password is not kept in the settings: put it in "
+                                   "~/.pgpass or PGPASSWORD.")},
     {Msg::ServerSchemaNewer,
      QT_TRANSLATE_NOOP("Messages", "The tables on the server %s were made by a later version "
                                    "(%d); this program knows version %d and changes nothing.")},

@@ -187,6 +187,7 @@ enum class Msg
     ServerUnreachable,
     ServerUnreachableRead,
     ServerSchemaNewer,
+    ServerPasswordNotKept,
     Count_
 };
 
