@@ -33,6 +33,7 @@ constexpr Topic kTopics[] = {
     {"TFormValue", "value-tables"},
     {"TFormReadFileData", "saved-validators"},
     {"TFormRepair", "repair"},
+    {"TFormDataSource", "records-server"},
     {"TMajFirmware", "firmware"},
     {"TConnectForm", "firmware"},
 };
