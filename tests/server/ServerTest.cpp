@@ -9,6 +9,7 @@
 #include "TestServer.h"
 
 #include <QProcess>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -165,4 +166,42 @@ TEST_F(ServerTest, HistoryKeepsEveryEventOnceAndEachConfigurationOnce)
     EXPECT_EQ(report.counts[0].copied, 0);
     EXPECT_EQ(report.counts[0].present, 4);
     EXPECT_EQ(other.history()->events(7)->value(1).configuration, b);
+}
+
+TEST_F(ServerTest, TarvikCliStoresOnTheServerAndMigratesADirectoryOnce)
+{
+    QTemporaryDir dir;
+    auto cli = [&](const QStringList &args, QString *out = nullptr) {
+        QProcess p;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("XDG_CONFIG_HOME"), dir.filePath(QStringLiteral("config")));
+        p.setProcessEnvironment(env);
+        p.start(QStringLiteral(TARVIK_CLI_PATH), args);
+        EXPECT_TRUE(p.waitForFinished(60000));
+        if (out)
+            *out = QString::fromUtf8(p.readAllStandardOutput());
+        return p.exitCode();
+    };
+    const QString file = dir.filePath(QStringLiteral("v.json"));
+    const QString tables = dir.filePath(QStringLiteral("tables"));
+    ASSERT_EQ(cli({"--simulate", "read", "-o", file}), 0);
+    ASSERT_EQ(cli({"--data-dir", tables, "save", file, "--ident", "D1"}), 0);
+    ASSERT_EQ(cli({"--data-dir", tables, "values", "save", "Euro", file}), 0);
+
+    QString out;
+    ASSERT_EQ(cli({"migrate", tables, uri}, &out), 0);
+    EXPECT_TRUE(out.contains(QLatin1String("validators: 1 copied, 0 already there, 1 checked")))
+        << qPrintable(out);
+    EXPECT_TRUE(out.contains(QLatin1String("value tables: 1 copied, 0 already there, 1 checked")));
+    ASSERT_EQ(cli({"migrate", tables, uri}, &out), 0);
+    EXPECT_TRUE(out.contains(QLatin1String("validators: 0 copied, 1 already there, 1 checked")));
+
+    ASSERT_EQ(cli({"--data-source", uri, "save", file, "--ident", "S2"}), 0);
+    EXPECT_EQ(cli({"--data-source", uri, "save", file, "--ident", "S2"}), 1); // not overwritten
+    ASSERT_EQ(cli({"--data-source", uri, "list"}, &out), 0);
+    EXPECT_EQ(out.count(u'\n'), 2);
+    EXPECT_EQ(cli({"--data-source", uri, "values", "apply", "euro", file, "-o",
+                   dir.filePath(QStringLiteral("w.json"))}),
+              0);
+    EXPECT_EQ(cli({"--data-source", "postgresql://localhost:1/x", "delete", "S2"}), 1);
 }

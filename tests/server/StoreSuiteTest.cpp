@@ -1,12 +1,18 @@
 // Every store operation on both kinds of data source, one suite: a data directory of dBase
 // tables and a database on the throwaway server.
 #include "DataSource.h"
+#include "DbfTable.h"
 #include "Messages.h"
 #include "RecordMigration.h"
 #include "RecordStore.h"
 #include "RecordingPrompt.h"
+#include "TDBModule.h"
 #include "TestServer.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <functional>
 #include <gtest/gtest.h>
@@ -304,6 +310,17 @@ TEST_P(StoreSuite, MigrateCopiesEverythingThereAndBackAndTwiceCopiesNothing)
     ValueBlock light{};
     ASSERT_TRUE(back.records().openValueTable(QStringLiteral("Light"), light, false, nullptr));
     EXPECT_FALSE(back.records().errorString().isEmpty()); // still a Light model's table
+
+    // A directory written from the server is read by dbfread as the directory's own are.
+    if (back.tables()) {
+        QProcess dbfread;
+        dbfread.start(QStringLiteral(TARVIK_PYTHON), {QStringLiteral(TARVIK_DBFREAD_SCRIPT),
+                                                      back.tables()->Channel()->filePath()});
+        ASSERT_TRUE(dbfread.waitForFinished(60000));
+        ASSERT_EQ(dbfread.exitCode(), 0) << dbfread.readAllStandardError().toStdString();
+        const QJsonObject dump = QJsonDocument::fromJson(dbfread.readAllStandardOutput()).object();
+        EXPECT_EQ(dump.value(QLatin1String("records")).toArray().size(), 120);
+    }
 
     // A name held otherwise in the target is left as it is and named.
     prompt.answers = {UserPrompt::Answer::Yes};
