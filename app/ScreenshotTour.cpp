@@ -262,6 +262,8 @@ void ScreenshotTour::buildSteps()
          editorButton("BtnSaved")},
         {QStringLiteral("repair"), QStringLiteral("TFormRepair"),
          [this] { m_main->Repairtables1Click(); }},
+        {QStringLiteral("data-source"), QStringLiteral("TFormDataSource"),
+         [this] { m_main->Datasource1Click(); }},
         {QStringLiteral("firmware"), QStringLiteral("TMajFirmware"),
          [this] {
              m_device->setMiniProgrammer(true);

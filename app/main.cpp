@@ -2,6 +2,7 @@
 #include "BenchProcess.h"
 #include "ConsolePrompt.h"
 #include "DataDirectory.h"
+#include "DataSource.h"
 #include "DevicePortOpener.h"
 #include "DisplayCheck.h"
 #include "EffectSoundPlayer.h"
@@ -9,6 +10,7 @@
 #include "HistoryRecorder.h"
 #include "Languages.h"
 #include "MessageBoxPrompt.h"
+#include "RecordStore.h"
 #include "Screenshot.h"
 #include "ScreenshotTour.h"
 #include "Settings.h"
@@ -24,6 +26,7 @@
 #include "UnattendedRuns.h"
 #include "VirtualValidator.h"
 #include <QDebug>
+#include <QDir>
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -127,30 +130,32 @@ int main(int argc, char *argv[])
     context.languages = &languages;
     context.sounds = &sounds;
     context.prompt = &prompt;
-    // The editor stores validators in the tables of the data module; the main window frees the
-    // module on Exit, after the last editor has closed.
-    TDBModule *dataModule = nullptr;
+    // The editor stores validators in the data source (the tables of the data directory, or a
+    // server); the main window frees it on Exit, after the last editor has closed.
+    DataSource *dataSource = nullptr;
     // A lock not free after a second is said where a script's output goes; the window cannot
     // repaint while it waits, and the message after the one bounded wait goes through the
     // prompt.
     TableLock::setWaitNotice([](const QString &text) { qWarning().noquote() << text; });
-    // Each validator's history lives beside the tables.
-    std::unique_ptr<HistoryStore> history;
+    // Each validator's history lives in the data source: beside the tables, or on the server.
     setHistoryProgram(QStringLiteral("tarvik"));
-    context.createDataModule = [&prompt, &dataModule, &history]() -> std::shared_ptr<void> {
+    context.createDataModule = [&prompt, &dataSource]() -> std::shared_ptr<void> {
         // Tables that cannot be opened have been reported; the program goes on without them.
-        auto module = std::make_shared<TDBModule>();
-        module->open(DataDirectory::resolve(), &prompt);
-        dataModule = module.get();
+        // A source that is not one (a bad address) is said, and there are no records.
+        dataSource = nullptr;
         setCurrentHistory(nullptr);
-        history = openHistory(module->dataDirectory().isEmpty() ? DataDirectory::resolve()
-                                                                : module->dataDirectory(),
-                              &prompt);
-        setCurrentHistory(history.get());
-        return module;
+        auto source = std::make_shared<DataSource>();
+        if (!source->open(DataSource::resolve(), prompt)) {
+            prompt.tell(source->errorString(), UserPrompt::Kind::Error);
+            return nullptr;
+        }
+        dataSource = source.get();
+        setCurrentHistory(source->history());
+        return source;
     };
     // The repair closes the module's tables around its work and opens them again after it.
-    context.repairTables = [&dataModule](QWidget *mainWindow) {
+    context.repairTables = [&dataSource](QWidget *mainWindow) {
+        TDBModule *dataModule = dataSource ? dataSource->tables() : nullptr;
         TableRepairModel model(dataModule ? dataModule->dataDirectory() : DataDirectory::resolve(),
                                dataModule);
         TFormRepair form(model, mainWindow);
@@ -169,7 +174,15 @@ int main(int argc, char *argv[])
                 closeUnattended(editor, mainWindow, panel.get(), options.screenshot);
             };
         }
-        TFormData::showModal(link, mainWindow, prompt, dataModule, afterOpeningRead);
+        // Every good read is kept in the data directory's backups, a server's user's too.
+        const QString backups =
+            dataSource ? QDir((dataSource->tables() ? dataSource->tables()->dataDirectory()
+                                                    : DataDirectory::resolve()))
+                             .filePath(QStringLiteral("backups"))
+                       : QString();
+        TFormData::showModal(link, mainWindow, prompt,
+                             dataSource ? &dataSource->records() : nullptr, backups,
+                             afterOpeningRead);
     };
 
     TFormMain window(context);

@@ -8,6 +8,8 @@
 // cost of the table lock itself. Last, the browser's filter at 10,000 validators
 // (RecordsBrowserBench.cpp).
 //   build/bin/records_bench [count] [directory] [driver]
+// With --sources, the directory and a server side by side through the store interface
+// (SourcesBench.cpp).
 #include "DbfTable.h"
 #include "TDBModule.h"
 #include "TableLock.h"
@@ -26,6 +28,7 @@
 #include <vector>
 
 int benchBrowserFilter(int count);
+int benchSources(int count);
 
 namespace {
 
@@ -44,6 +47,8 @@ void report(const char *what, std::vector<qint64> ns)
 int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
+    if (argc > 1 && qstrcmp(argv[1], "--sources") == 0)
+        return benchSources(argc > 2 ? std::max(100, atoi(argv[2])) : 10000);
     const int count = argc > 1 ? std::max(1, atoi(argv[1])) : 1000;
     QTemporaryDir temp;
     const QString dir = argc > 2 && argv[2][0] ? QString::fromLocal8Bit(argv[2]) : temp.path();

@@ -15,11 +15,8 @@
 #include <cstdio>
 #include <vector>
 
-namespace {
-
-constexpr double kTargetMs = 50.0;
-
-// The tables written in one commit each, as another tool would have filled them.
+// The tables written in one commit each, as another tool would have filled them: count
+// validators SHOP-00000... with their 60 channels.
 bool fillTables(const QString &dir, int count)
 {
     for (const TableSchema *schema : TableSchema::all()) {
@@ -63,6 +60,10 @@ bool fillTables(const QString &dir, int count)
     }
     return true;
 }
+
+namespace {
+
+constexpr double kTargetMs = 50.0;
 
 } // namespace
 

@@ -6,9 +6,10 @@
 #include "CliContext.h"
 #include "ConfigFile.h"
 #include "DataDirectory.h"
+#include "DataSource.h"
 #include "Messages.h"
+#include "RecordStore.h"
 #include "TDBModule.h"
-#include "ValidatorStore.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -149,11 +150,11 @@ bool loadSource(CliContext &cli, const QString &source, ConfigImage &image, QStr
         return readImageInput(cli, source, image);
     }
     name = source.mid(kSaved.size());
-    TDBModule db;
-    db.open(DataDirectory::resolve(cli.options().dataDir), &cli.prompt());
-    ValidatorStore store(db, cli.prompt());
+    DataSource records;
+    if (!openDataSource(cli, records, {&TDBModule::Gettoniere}))
+        return false;
     image = ConfigImage::blank();
-    if (store.loadInto(name, image))
+    if (records.records().loadValidatorInto(name, image))
         return true;
     cli.err() << messageText(Msg::BatchSourceNotSaved, {name}) << Qt::endl;
     return false;

@@ -4,13 +4,18 @@
 #include "Backups.h"
 #include "ConfigFile.h"
 #include "DataDirectory.h"
+#include "DataSource.h"
+#include "DbfTable.h"
 #include "Messages.h"
 #include "PortChoice.h"
 #include "PortMap.h"
 #include "ReadSequence.h"
 #include "SerialTransport.h"
 #include "SimulatedLink.h"
+#include "TDBModule.h"
 #include "TracingTransport.h"
+
+#include <algorithm>
 
 void CliPrompt::tell(const QString &text, Kind)
 {
@@ -158,6 +163,20 @@ bool readValidatorImage(CliContext &cli, ConfigImage &image)
                 historyEvent(image.serialNumber(), QStringLiteral("read"), {}, image),
                 &cli.prompt());
     return true;
+}
+
+bool openDataSource(CliContext &cli, DataSource &source,
+                    const QList<DbfTable *(TDBModule::*)() const> &reads)
+{
+    const QString named = DataSource::resolve(
+        cli.options().dataSource.isEmpty() ? cli.options().dataDir : cli.options().dataSource);
+    if (!source.open(named, cli.prompt())) {
+        cli.err() << source.errorString() << Qt::endl;
+        return false;
+    }
+    const TDBModule *tables = source.tables();
+    return !tables || std::all_of(reads.begin(), reads.end(),
+                                  [tables](auto table) { return (tables->*table)()->isOpen(); });
 }
 
 bool readImageInput(CliContext &cli, const QString &path, ConfigImage &image)

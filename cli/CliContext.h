@@ -53,6 +53,8 @@ struct GlobalOptions
     // How rough the virtual validator's line is (--sim-line): a bench's by default.
     LineProfile simLine = LineProfile::bench();
     QString dataDir;
+    // A data directory or a postgresql:// address (--data-source); it wins over --data-dir.
+    QString dataSource;
     QString trace;
 };
 
@@ -96,6 +98,17 @@ private:
     bool m_progressShown = false;
 };
 
+class DataSource;
+class DbfTable;
+class TDBModule;
+// Opens the data source the options name (--data-source, --data-dir, TARVIK_DATA_SOURCE, the
+// settings). For a directory, what cannot be opened or opens damaged has been said once, and
+// false is returned when one of the tables reads needs is not open; a server is reached on the
+// first operation.
+bool openDataSource(CliContext &cli, DataSource &source,
+                    const QList<DbfTable *(TDBModule::*)() const> &reads = {});
+
+struct ConfigImage;
 // Writes an image as a configuration file to path, or to stdout when path is empty.
 int writeImageOutput(CliContext &cli, const ConfigImage &image, const QString &path);
 // Reads the whole validator through the options' link, with the gauge on the terminal, and
@@ -153,6 +166,7 @@ void registerDiffCommands(CliCommandTable &table);
 void registerSheetCommands(CliCommandTable &table);
 void registerBatchCommands(CliCommandTable &table);
 void registerHistoryCommands(CliCommandTable &table);
+void registerMigrateCommands(CliCommandTable &table);
 
 // Runs tarvik-cli with the arguments after the program name.
 int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,

@@ -1,7 +1,7 @@
 #include "CliContext.h"
-#include "DataDirectory.h"
+#include "DataSource.h"
 #include "DbfTable.h"
-#include "ProfileStore.h"
+#include "RecordStore.h"
 #include "TDBModule.h"
 
 namespace {
@@ -17,18 +17,22 @@ int profilesCommand(CliContext &cli, const QStringList &arguments)
     if (!list && !remove)
         return kExitUsage;
     // What cannot be opened, or opens damaged, is said once.
-    TDBModule db;
-    db.open(DataDirectory::resolve(cli.options().dataDir), &cli.prompt());
-    if (!db.DemTable()->isOpen())
+    DataSource source;
+    if (!openDataSource(cli, source, {&TDBModule::DemTable}))
         return kExitFailed;
-    ProfileStore store(db, cli.prompt());
+    RecordStore &store = source.records();
     if (list) {
-        for (const ProfileStore::Entry &entry : store.list())
+        const QList<ProfileStore::Entry> entries = store.profiles();
+        if (entries.isEmpty() && !store.errorString().isEmpty()) {
+            cli.err() << store.errorString() << Qt::endl;
+            return kExitFailed;
+        }
+        for (const ProfileStore::Entry &entry : entries)
             cli.out() << entry.name << '\t' << entry.description << '\n';
         cli.out() << Qt::flush;
         return kExitOk;
     }
-    if (!store.remove(arguments.at(1))) {
+    if (!store.removeProfile(arguments.at(1))) {
         cli.err() << store.errorString() << Qt::endl;
         return kExitFailed;
     }

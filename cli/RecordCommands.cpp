@@ -1,24 +1,13 @@
 #include "CliContext.h"
-#include "DataDirectory.h"
+#include "DataSource.h"
 #include "DbfTable.h"
 #include "Messages.h"
+#include "RecordStore.h"
 #include "TDBModule.h"
-#include "ValidatorStore.h"
 
 #include <algorithm>
 
 namespace {
-
-// Opens the five tables of the data directory the options name; the first run creates them.
-// What cannot be opened, or opens damaged, has been said once, so a command stops without a
-// word of its own when a table it reads is not open.
-bool openTables(CliContext &cli, TDBModule &db,
-                const QList<DbfTable *(TDBModule::*)() const> &reads)
-{
-    db.open(DataDirectory::resolve(cli.options().dataDir), &cli.prompt());
-    return std::all_of(reads.begin(), reads.end(),
-                       [&db](auto table) { return (db.*table)()->isOpen(); });
-}
 
 QString joined(const QList<int> &channels)
 {
@@ -49,13 +38,15 @@ int saveCommand(CliContext &cli, const QStringList &args)
     ConfigImage image;
     if (!readImageInput(cli, file, image))
         return kExitFailed;
-    TDBModule db;
-    openTables(cli, db, {});
+    DataSource source;
+    if (!openDataSource(cli, source))
+        return kExitFailed;
     // "%s exist! Overwrite ?" is answered by --overwrite; the store tells why it failed.
     cli.prompt().setAnswer(overwrite ? UserPrompt::Answer::Yes : UserPrompt::Answer::No);
-    ValidatorStore store(db, cli.prompt());
-    return store.store(image, ident, description) == ValidatorStore::Outcome::Stored ? kExitOk
-                                                                                     : kExitFailed;
+    return source.records().storeValidator(image, ident, description) ==
+                   ValidatorStore::Outcome::Stored
+               ? kExitOk
+               : kExitFailed;
 }
 
 int loadCommand(CliContext &cli, const QStringList &arguments)
@@ -65,14 +56,14 @@ int loadCommand(CliContext &cli, const QStringList &arguments)
     if (!takeOutputOption(args, output) || args.size() != 1 || args.first().startsWith(u'-'))
         return kExitUsage;
     const QString ident = args.first();
-    TDBModule db;
-    if (!openTables(cli, db, {&TDBModule::Gettoniere}))
+    DataSource source;
+    if (!openDataSource(cli, source, {&TDBModule::Gettoniere}))
         return kExitFailed;
-    ValidatorStore store(db, cli.prompt());
+    RecordStore &store = source.records();
     // Opened as the editor opens it, into a blank image.
     ConfigImage image = ConfigImage::blank();
     ValidatorStore::LoadReport report;
-    if (!store.loadInto(ident, image, nullptr, &report)) {
+    if (!store.loadValidatorInto(ident, image, nullptr, &report)) {
         cli.err() << (store.errorString().isEmpty()
                           ? QStringLiteral("No validator is stored as %1").arg(ident)
                           : store.errorString())
@@ -99,11 +90,16 @@ int listCommand(CliContext &cli, const QStringList &args)
 {
     if (!args.isEmpty())
         return kExitUsage;
-    TDBModule db;
-    if (!openTables(cli, db, {&TDBModule::Gettoniere}))
+    DataSource source;
+    if (!openDataSource(cli, source, {&TDBModule::Gettoniere}))
         return kExitFailed;
-    ValidatorStore store(db, cli.prompt());
-    const auto entries = store.list();
+    RecordStore &store = source.records();
+    const auto entries = store.validators();
+    // A server that cannot be reached lists nothing and says so.
+    if (entries.isEmpty() && !store.errorString().isEmpty()) {
+        cli.err() << store.errorString() << Qt::endl;
+        return kExitFailed;
+    }
     for (const auto &entry : entries)
         cli.out() << entry.identification << '\t' << entry.description << '\t' << entry.version
                   << '\n';
@@ -115,10 +111,11 @@ int deleteCommand(CliContext &cli, const QStringList &args)
 {
     if (args.size() != 1 || args.first().startsWith(u'-'))
         return kExitUsage;
-    TDBModule db;
-    openTables(cli, db, {});
-    ValidatorStore store(db, cli.prompt());
-    if (!store.remove(args.first())) {
+    DataSource source;
+    if (!openDataSource(cli, source))
+        return kExitFailed;
+    RecordStore &store = source.records();
+    if (!store.removeValidator(args.first())) {
         cli.err() << (store.errorString().isEmpty()
                           ? QStringLiteral("No validator is stored as %1").arg(args.first())
                           : store.errorString())

@@ -1,6 +1,8 @@
 #include "CliContext.h"
 #include "DataDirectory.h"
+#include "DataSource.h"
 #include "HistoryRecorder.h"
+#include "ServerConnection.h"
 #include "TableLock.h"
 
 #include "PortChoice.h"
@@ -53,6 +55,9 @@ bool parseGlobal(QStringList &args, GlobalOptions &o, QString &error)
             }
         } else if (a == QLatin1String("--data-dir")) {
             if (!value(o.dataDir))
+                return false;
+        } else if (a == QLatin1String("--data-source")) {
+            if (!value(o.dataSource))
                 return false;
         } else if (a == QLatin1String("--trace")) {
             if (!value(o.trace))
@@ -110,7 +115,8 @@ QString cliUsage(const CliCommandTable &table)
     QString text =
         QStringLiteral("usage: tarvik-cli [--device PATH | --port COMn |\n"
                        "                   --simulate [--sim-family BYTE] [--sim-line LINE]]\n"
-                       "                  [--port-timeout MS] [--data-dir DIR] [--trace FILE]\n"
+                       "                  [--port-timeout MS] [--data-dir DIR]\n"
+                       "                  [--data-source DIR|postgresql://...] [--trace FILE]\n"
                        "                  COMMAND [ARGS]\n"
                        "       tarvik-cli --help | --version\n\ncommands:\n");
     for (auto it = table.cbegin(); it != table.cend(); ++it)
@@ -130,6 +136,7 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     registerLearnCommands(table);
     registerValueCommands(table);
     registerProfileCommands(table);
+    registerMigrateCommands(table);
     registerRepairCommands(table);
     registerDiffCommands(table);
     registerSheetCommands(table);
@@ -165,11 +172,18 @@ int runCli(const QStringList &arguments, QTextStream &out, QTextStream &err,
     const TableLock::WaitBudget wait;
     TableLock::setWaitNotice(
         [&err](const QString &text) { err << "tarvik-cli: " << text << Qt::endl; });
-    // What the command does to a validator is kept in its history, beside the tables.
+    // What the command does to a validator is kept in its history, in the data source: beside
+    // the tables, or on the server (reached on the first event).
     setHistoryProgram(QStringLiteral("tarvik-cli"));
-    const std::unique_ptr<HistoryStore> history =
-        openHistory(DataDirectory::resolve(options.dataDir), &context.prompt());
-    setCurrentHistory(history.get());
+    const QString source =
+        DataSource::resolve(options.dataSource.isEmpty() ? options.dataDir : options.dataSource);
+    DataSource server;
+    std::unique_ptr<HistoryStore> history;
+    if (!ServerAddress::isServer(source))
+        history = openHistory(DataDirectory::resolve(source), &context.prompt());
+    else if (server.open(source, context.prompt()))
+        history.reset(); // the server's own
+    setCurrentHistory(history ? history.get() : server.history());
     const int code = command.run(context, args);
     setCurrentHistory(nullptr);
     TableLock::setWaitNotice({});

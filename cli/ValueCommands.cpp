@@ -1,25 +1,33 @@
 #include "CliContext.h"
 #include "ConfigImage.h"
-#include "DataDirectory.h"
+#include "DataSource.h"
 #include "DbfTable.h"
 #include "Messages.h"
+#include "RecordStore.h"
 #include "TDBModule.h"
 #include "ValueTableModel.h"
 #include "ValueTableStore.h"
 
+#include <algorithm>
+
 namespace {
 
-int listValues(CliContext &cli, ValueTableStore &store, const QStringList &args)
+int listValues(CliContext &cli, DataSource &source, const QStringList &args)
 {
     if (!args.isEmpty())
         return kExitUsage;
-    for (const auto &entry : store.list())
+    const QList<ValueTableStore::Entry> entries = source.records().valueTables();
+    if (entries.isEmpty() && !source.records().errorString().isEmpty()) {
+        cli.err() << source.records().errorString() << Qt::endl;
+        return kExitFailed;
+    }
+    for (const auto &entry : entries)
         cli.out() << entry.name << '\t' << entry.description << '\n';
     cli.out() << Qt::flush;
     return kExitOk;
 }
 
-int saveValues(CliContext &cli, ValueTableStore &store, const QStringList &args)
+int saveValues(CliContext &cli, DataSource &source, const QStringList &args)
 {
     QString name, file, description;
     bool overwrite = false;
@@ -48,47 +56,55 @@ int saveValues(CliContext &cli, ValueTableStore &store, const QStringList &args)
         return kExitFailed;
     // "%s exist! Overwrite ?" is answered by --overwrite.
     cli.prompt().setAnswer(overwrite ? UserPrompt::Answer::Yes : UserPrompt::Answer::No);
-    return store.save(image.values, name, description, image.isLight()) ==
+    return source.records().saveValueTable(image.values, name, description, image.isLight()) ==
                    ValueTableStore::Outcome::Saved
                ? kExitOk
                : kExitFailed;
 }
 
-int applyValues(CliContext &cli, ValueTableStore &store, const QStringList &arguments)
+int applyValues(CliContext &cli, DataSource &source, const QStringList &arguments)
 {
     QStringList args = arguments;
     QString output;
     if (!takeOutputOption(args, output) || args.size() != 2 || args[0].startsWith(u'-') ||
         args[1].startsWith(u'-'))
         return kExitUsage;
-    const int at = store.find(args[0]);
-    if (at < 0) {
-        cli.err() << ValueTableStore::notStoredText(args[0].trimmed()) << Qt::endl;
+    RecordStore &records = source.records();
+    const QList<ValueTableStore::Entry> entries = records.valueTables();
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const auto &entry) {
+        return entry.name.compare(args[0].trimmed(), Qt::CaseInsensitive) == 0;
+    });
+    if (found == entries.end()) {
+        cli.err() << (records.errorString().isEmpty()
+                          ? ValueTableStore::notStoredText(args[0].trimmed())
+                          : records.errorString())
+                  << Qt::endl;
         return kExitFailed;
     }
     ConfigImage image;
     if (!readImageInput(cli, args[1], image))
         return kExitFailed;
     // As the form does it: open the row into the working copy, then Apply.
-    bool modified = false;
-    ValueTableModel form(image.values, &modified, image.isLight(), nullptr, &cli.prompt(), &store,
-                         false);
+    ValueTableModel::Editor editor{[&image] { return image.values; },
+                                   [&image](const ValueBlock &block) { image.values = block; },
+                                   [] {}};
+    ValueTableModel form(editor, image.isLight(), nullptr, &cli.prompt(), &records, false);
     form.FormActivate();
-    form.recordClick(at);
+    form.recordClick(int(found - entries.begin()));
     form.BitBtn5Click();
-    form.BitBtn3Click();
     // A field that did not convert has been told; a half-applied table is not written anywhere.
-    if (!store.conversionError().isEmpty())
+    if (!records.errorString().isEmpty())
         return kExitFailed;
+    form.BitBtn3Click();
     return writeImageOutput(cli, image, output);
 }
 
-int deleteValues(CliContext &cli, ValueTableStore &store, const QStringList &args)
+int deleteValues(CliContext &cli, DataSource &source, const QStringList &args)
 {
     if (args.size() != 1 || args.first().startsWith(u'-'))
         return kExitUsage;
-    if (!store.remove(args.first())) {
-        cli.err() << store.errorString() << Qt::endl;
+    if (!source.records().removeValueTable(args.first())) {
+        cli.err() << source.records().errorString() << Qt::endl;
         return kExitFailed;
     }
     return kExitOk;
@@ -100,7 +116,7 @@ int valuesCommand(CliContext &cli, const QStringList &arguments)
         return kExitUsage;
     const QString sub = arguments.first();
     const QStringList args = arguments.mid(1);
-    using Run = int (*)(CliContext &, ValueTableStore &, const QStringList &);
+    using Run = int (*)(CliContext &, DataSource &, const QStringList &);
     Run run = sub == QLatin1String("list")     ? listValues
               : sub == QLatin1String("save")   ? saveValues
               : sub == QLatin1String("apply")  ? applyValues
@@ -110,12 +126,13 @@ int valuesCommand(CliContext &cli, const QStringList &arguments)
         return kExitUsage;
     // What cannot be opened, or opens damaged, is said once; listing and applying need the
     // value table open, saving and deleting say why they are refused.
-    TDBModule db;
-    db.open(DataDirectory::resolve(cli.options().dataDir), &cli.prompt());
-    if ((run == listValues || run == applyValues) && !db.ValueTable()->isOpen())
+    DataSource source;
+    if (!openDataSource(cli, source))
         return kExitFailed;
-    ValueTableStore store(db, cli.prompt());
-    return run(cli, store, args);
+    if ((run == listValues || run == applyValues) && source.tables() &&
+        !source.tables()->ValueTable()->isOpen())
+        return kExitFailed;
+    return run(cli, source, args);
 }
 
 } // namespace

@@ -999,6 +999,38 @@
         <source>History...</source>
         <translation>Verlauf...</translation>
     </message>
+<message>
+        <source>Data source...</source>
+        <translation>Datenquelle...</translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation>Datenquelle</translation>
+    </message>
+    <message>
+        <source>Data &amp;directory</source>
+        <translation>Daten&amp;verzeichnis</translation>
+    </message>
+    <message>
+        <source>&amp;Server (PostgreSQL)</source>
+        <translation>&amp;Server (PostgreSQL)</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Verzeichnis:</translation>
+    </message>
+    <message>
+        <source>Address (postgresql://...):</source>
+        <translation>Adresse (postgresql://...):</translation>
+    </message>
+    <message>
+        <source>&amp;Test connection</source>
+        <translation>Verbindung &amp;testen</translation>
+    </message>
+    <message>
+        <source>Connected to %s.</source>
+        <translation>Verbunden mit %s.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1803,6 +1835,22 @@
     <message>
         <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
         <translation>Kein Verlauf nennt den als %s gespeicherten Münzprüfer: sein Verlauf ist bekannt, sobald er nach einem Lesen oder Schreiben gespeichert wird</translation>
+    </message>
+<message>
+        <source>The server %s cannot be reached: nothing was stored.</source>
+        <translation>Der Server %s ist nicht erreichbar: Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The server %s cannot be reached.</source>
+        <translation>Der Server %s ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
+        <translation>Die Tabellen auf dem Server %s wurden von einer neueren Version (%d) angelegt; dieses Programm kennt Version %d und ändert nichts.</translation>
+    </message>
+    <message>
+        <source>The password is not kept in the settings: put it in ~/.pgpass or PGPASSWORD.</source>
+        <translation>Das Passwort wird nicht in den Einstellungen gespeichert: Tragen Sie es in ~/.pgpass oder PGPASSWORD ein.</translation>
     </message>
 </context>
 <context>

@@ -999,6 +999,38 @@
         <source>History...</source>
         <translation>History...</translation>
     </message>
+<message>
+        <source>Data source...</source>
+        <translation>Data source...</translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation>Data source</translation>
+    </message>
+    <message>
+        <source>Data &amp;directory</source>
+        <translation>Data &amp;directory</translation>
+    </message>
+    <message>
+        <source>&amp;Server (PostgreSQL)</source>
+        <translation>&amp;Server (PostgreSQL)</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Directory:</translation>
+    </message>
+    <message>
+        <source>Address (postgresql://...):</source>
+        <translation>Address (postgresql://...):</translation>
+    </message>
+    <message>
+        <source>&amp;Test connection</source>
+        <translation>&amp;Test connection</translation>
+    </message>
+    <message>
+        <source>Connected to %s.</source>
+        <translation>Connected to %s.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1803,6 +1835,22 @@
     <message>
         <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
         <translation>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</translation>
+    </message>
+<message>
+        <source>The server %s cannot be reached: nothing was stored.</source>
+        <translation>The server %s cannot be reached: nothing was stored.</translation>
+    </message>
+    <message>
+        <source>The server %s cannot be reached.</source>
+        <translation>The server %s cannot be reached.</translation>
+    </message>
+    <message>
+        <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
+        <translation>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</translation>
+    </message>
+    <message>
+        <source>The password is not kept in the settings: put it in ~/.pgpass or PGPASSWORD.</source>
+        <translation>The password is not kept in the settings: put it in ~/.pgpass or PGPASSWORD.</translation>
     </message>
 </context>
 <context>

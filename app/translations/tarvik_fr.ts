@@ -999,6 +999,38 @@
         <source>History...</source>
         <translation>Historique...</translation>
     </message>
+<message>
+        <source>Data source...</source>
+        <translation>Source des données...</translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation>Source des données</translation>
+    </message>
+    <message>
+        <source>Data &amp;directory</source>
+        <translation>&amp;Répertoire de données</translation>
+    </message>
+    <message>
+        <source>&amp;Server (PostgreSQL)</source>
+        <translation>&amp;Serveur (PostgreSQL)</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Répertoire :</translation>
+    </message>
+    <message>
+        <source>Address (postgresql://...):</source>
+        <translation>Adresse (postgresql://...) :</translation>
+    </message>
+    <message>
+        <source>&amp;Test connection</source>
+        <translation>&amp;Tester la connexion</translation>
+    </message>
+    <message>
+        <source>Connected to %s.</source>
+        <translation>Connecté à %s.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1803,6 +1835,22 @@
     <message>
         <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
         <translation>Aucun historique ne mentionne le monnayeur enregistré sous %s : son historique est connu une fois qu'il est enregistré après une lecture ou une écriture</translation>
+    </message>
+<message>
+        <source>The server %s cannot be reached: nothing was stored.</source>
+        <translation>Le serveur %s est injoignable : rien n'a été enregistré.</translation>
+    </message>
+    <message>
+        <source>The server %s cannot be reached.</source>
+        <translation>Le serveur %s est injoignable.</translation>
+    </message>
+    <message>
+        <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
+        <translation>Les tables du serveur %s ont été créées par une version plus récente (%d) ; ce programme connaît la version %d et ne modifie rien.</translation>
+    </message>
+    <message>
+        <source>The password is not kept in the settings: put it in ~/.pgpass or PGPASSWORD.</source>
+        <translation>Le mot de passe n'est pas conservé dans les paramètres : placez-le dans ~/.pgpass ou PGPASSWORD.</translation>
     </message>
 </context>
 <context>

@@ -999,6 +999,38 @@
         <source>History...</source>
         <translation>Storico...</translation>
     </message>
+<message>
+        <source>Data source...</source>
+        <translation>Origine dei dati...</translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation>Origine dei dati</translation>
+    </message>
+    <message>
+        <source>Data &amp;directory</source>
+        <translation>&amp;Cartella dei dati</translation>
+    </message>
+    <message>
+        <source>&amp;Server (PostgreSQL)</source>
+        <translation>&amp;Server (PostgreSQL)</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Cartella:</translation>
+    </message>
+    <message>
+        <source>Address (postgresql://...):</source>
+        <translation>Indirizzo (postgresql://...):</translation>
+    </message>
+    <message>
+        <source>&amp;Test connection</source>
+        <translation>&amp;Prova la connessione</translation>
+    </message>
+    <message>
+        <source>Connected to %s.</source>
+        <translation>Connesso a %s.</translation>
+    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1803,6 +1835,22 @@
     <message>
         <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
         <translation>Nessuno storico indica la gettoniera salvata come %s: il suo storico è noto una volta salvata dopo una lettura o una scrittura</translation>
+    </message>
+<message>
+        <source>The server %s cannot be reached: nothing was stored.</source>
+        <translation>Il server %s non è raggiungibile: non è stato salvato nulla.</translation>
+    </message>
+    <message>
+        <source>The server %s cannot be reached.</source>
+        <translation>Il server %s non è raggiungibile.</translation>
+    </message>
+    <message>
+        <source>The tables on the server %s were made by a later version (%d); this program knows version %d and changes nothing.</source>
+        <translation>Le tabelle sul server %s sono state create da una versione più recente (%d); questo programma conosce la versione %d e non modifica nulla.</translation>
+    </message>
+    <message>
+        <source>The password is not kept in the settings: put it in ~/.pgpass or PGPASSWORD.</source>
+        <translation>La password non viene conservata nelle impostazioni: inseritela in ~/.pgpass o in PGPASSWORD.</translation>
     </message>
 </context>
 <context>

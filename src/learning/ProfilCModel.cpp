@@ -1,6 +1,7 @@
 #include "ProfilCModel.h"
 
 #include "ConfigImage.h"
+#include "DirectoryRecords.h"
 #include "EditorState.h"
 #include "Messages.h"
 #include "ProfileStore.h"
@@ -117,6 +118,21 @@ DecimalWord ProfilCModel::valueBase(const ConfigImage &image, int channel)
 
 ProfilCModel::ProfilCModel(ProfileStore &store, UserPrompt *prompt, int channel,
                            const ConfigImage &image)
+    : ProfilCModel(std::make_unique<DirectoryRecords>(store.module(), store.prompt()), prompt,
+                   channel, image)
+{}
+
+ProfilCModel::ProfilCModel(std::unique_ptr<RecordStore> own, UserPrompt *prompt, int channel,
+                           const ConfigImage &image)
+    : ProfilCModel(*own, prompt, channel, image)
+{
+    m_own = std::move(own);
+}
+
+ProfilCModel::~ProfilCModel() = default;
+
+ProfilCModel::ProfilCModel(RecordStore &store, UserPrompt *prompt, int channel,
+                           const ConfigImage &image)
     : FormModel(kContext, prompt), m_store(store), m_base(valueBase(image, channel))
 {
     build();
@@ -173,7 +189,7 @@ void ProfilCModel::refreshProfiles()
 {
     m_profiles.clear();
     QStringList names;
-    for (const ProfileStore::Entry &entry : m_store.list()) {
+    for (const ProfileStore::Entry &entry : m_store.profiles()) {
         m_profiles.append({entry.name, entry.description});
         names.append(entry.name);
     }
@@ -315,14 +331,14 @@ void ProfilCModel::navigate(const QString &button)
 
 void ProfilCModel::deleteProfile(int row)
 {
-    if (!m_store.canChange()) {
+    if (!m_store.canChangeProfiles()) {
         tell(m_store.errorString(), UserPrompt::Kind::Error);
         return;
     }
     if (ask(messageText(Msg::DeleteRecord), UserPrompt::Buttons::OkCancel) !=
         UserPrompt::Answer::Ok)
         return;
-    if (!m_store.remove(m_profiles.at(row).first))
+    if (!m_store.removeProfile(m_profiles.at(row).first))
         tell(m_store.errorString(), UserPrompt::Kind::Error);
     // The row after the deleted one takes its place, or the last row.
     refreshProfiles();
@@ -352,7 +368,7 @@ void ProfilCModel::BtnOpenClick()
     const int row = control(kProfiles).itemIndex;
     if (row < 0 || row >= m_profiles.size())
         return;
-    const std::optional<ProfileRecord> p = m_store.load(m_profiles.at(row).first);
+    const std::optional<ProfileRecord> p = m_store.loadProfile(m_profiles.at(row).first);
     if (!p) {
         if (!m_store.errorString().isEmpty())
             tell(m_store.errorString(), UserPrompt::Kind::Error);
@@ -391,7 +407,7 @@ void ProfilCModel::BtnSaveClick()
     for (int row = 0; row < kToleranceRows; ++row)
         p.tolerances[std::size_t(row)] = (*values)[std::size_t(row)];
     flush();
-    if (m_store.save(p) != ProfileStore::Outcome::Saved)
+    if (m_store.saveProfile(p) != ProfileStore::Outcome::Saved)
         return;
     refreshProfiles();
     for (int row = 0; row < m_profiles.size(); ++row) {

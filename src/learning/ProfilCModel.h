@@ -4,9 +4,11 @@
 #include "Encodings.h"
 #include "FormModel.h"
 
+#include <memory>
 #include <optional>
 
 class ProfileStore;
+class RecordStore;
 struct ConfigImage;
 
 // The coin profile form TFormProfilC without its widgets: the profile's name, description,
@@ -21,7 +23,10 @@ class ProfilCModel final : public FormModel
 public:
     // channel: the coin learning form's channel (1-based; 0 when none is chosen), whose credit
     // base in image normalises the value.
+    ProfilCModel(RecordStore &store, UserPrompt *prompt, int channel, const ConfigImage &image);
+    // Over the profile table of a data module.
     ProfilCModel(ProfileStore &store, UserPrompt *prompt, int channel, const ConfigImage &image);
+    ~ProfilCModel() override;
 
     static constexpr int kToleranceRows = 14;
     // The names of the tolerance grid's row r (0-based): its value edit and its key.
@@ -69,7 +74,11 @@ private:
     void showTolerance(int row, int value);
     int toleranceRowOf(const QString &name) const;
 
-    ProfileStore &m_store;
+    ProfilCModel(std::unique_ptr<RecordStore> own, UserPrompt *prompt, int channel,
+                 const ConfigImage &image);
+
+    std::unique_ptr<RecordStore> m_own; // the data module's, when made over its profile table
+    RecordStore &m_store;
     DecimalWord m_base;
     QList<QPair<QString, QString>> m_profiles; // name, description
     bool m_valueChanged = false;

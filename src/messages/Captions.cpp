@@ -290,6 +290,14 @@ constexpr Entry kTable[] = {
     {Cap::HistoryComparison, QT_TRANSLATE_NOOP("Captions", "From event %d to event %d")},
     {Cap::HistoryEmpty, QT_TRANSLATE_NOOP("Captions", "No event is kept for this validator")},
     {Cap::History, QT_TRANSLATE_NOOP("Captions", "History...")},
+    {Cap::DataSourceItem, QT_TRANSLATE_NOOP("Captions", "Data source...")},
+    {Cap::DataSourceTitle, QT_TRANSLATE_NOOP("Captions", "Data source")},
+    {Cap::DataSourceDirectory, QT_TRANSLATE_NOOP("Captions", "Data &directory")},
+    {Cap::DataSourceServer, QT_TRANSLATE_NOOP("Captions", "&Server (PostgreSQL)")},
+    {Cap::DataSourceDirectoryLabel, QT_TRANSLATE_NOOP("Captions", "Directory:")},
+    {Cap::DataSourceAddressLabel, QT_TRANSLATE_NOOP("Captions", "Address (postgresql://...):")},
+    {Cap::DataSourceTest, QT_TRANSLATE_NOOP("Captions", "&Test connection")},
+    {Cap::DataSourceConnected, QT_TRANSLATE_NOOP("Captions", "Connected to %s.")},
 };
 
 static_assert(std::size(kTable) == std::size_t(Cap::Count_), "one text per caption");

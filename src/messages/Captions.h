@@ -287,6 +287,15 @@ enum class Cap
     HistoryComparison,
     HistoryEmpty,
     History,
+    // the data source
+    DataSourceItem,
+    DataSourceTitle,
+    DataSourceDirectory,
+    DataSourceServer,
+    DataSourceDirectoryLabel,
+    DataSourceAddressLabel,
+    DataSourceTest,
+    DataSourceConnected,
     Count_
 };
 

@@ -412,6 +412,15 @@ constexpr Entry kTable[] = {
     {Msg::HistoryUnknownSaved,
      QT_TRANSLATE_NOOP("Messages", "No history notes the validator saved as %s: its history "
                                    "is known once it is saved after a read or a write")},
+    {Msg::ServerUnreachable,
+     QT_TRANSLATE_NOOP("Messages", "The server %s cannot be reached: nothing was stored.")},
+    {Msg::ServerUnreachableRead, QT_TRANSLATE_NOOP("Messages", "The server %s cannot be reached.")},
+    {Msg::ServerPasswordNotKept,
+     QT_TRANSLATE_NOOP("Messages", "The password is not kept in the settings: put it in "
+                                   "~/.pgpass or PGPASSWORD.")},
+    {Msg::ServerSchemaNewer,
+     QT_TRANSLATE_NOOP("Messages", "The tables on the server %s were made by a later version "
+                                   "(%d); this program knows version %d and changes nothing.")},
 };
 
 } // namespace

@@ -223,6 +223,11 @@ enum class Msg
     HistoryNotRead,
     HistoryOtherValidator,
     HistoryUnknownSaved,
+    // the records on a database server
+    ServerUnreachable,
+    ServerUnreachableRead,
+    ServerSchemaNewer,
+    ServerPasswordNotKept,
     Count_
 };
 

@@ -65,6 +65,8 @@ public:
     bool canChange();
 
     QString errorString() const { return m_error; }
+    TDBModule &module() const { return m_db; }
+    UserPrompt &prompt() const { return m_prompt; }
 
 private:
     bool tableUsable();

@@ -1,5 +1,7 @@
 #include "SavedValidatorsModel.h"
 
+#include "DirectoryRecords.h"
+
 #include "Captions.h"
 #include "DbfTable.h"
 #include "EditorModel.h"
@@ -42,7 +44,22 @@ QString joined(const QList<int> &channels)
 } // namespace
 
 SavedValidatorsModel::SavedValidatorsModel(TDBModule &db, UserPrompt &prompt, EditorModel *editor)
-    : m_db(db), m_prompt(prompt), m_editor(editor), m_store(db, prompt)
+    : m_db(&db), m_prompt(prompt), m_editor(editor),
+      m_own(std::make_unique<DirectoryRecords>(db, prompt)), m_store(*m_own)
+{
+    init();
+}
+
+SavedValidatorsModel::SavedValidatorsModel(RecordStore &store, UserPrompt &prompt,
+                                           EditorModel *editor)
+    : m_prompt(prompt), m_editor(editor), m_store(store)
+{
+    init();
+}
+
+SavedValidatorsModel::~SavedValidatorsModel() = default;
+
+void SavedValidatorsModel::init()
 {
     ControlSet &c = m_controls;
     c.add(QStringLiteral("TFormReadFileData"), ControlKind::Label);
@@ -92,9 +109,10 @@ void SavedValidatorsModel::setFilter(const QString &text)
     m_controls.setText(QStringLiteral("EFilter"), text);
     // A stat of the two files, not a read: another program's store shows at the next key, and
     // so does a store this program read meanwhile (opening or deleting reads the tables).
-    const DbfTable *validators = m_db.Gettoniere();
-    if (validators && validators->isOpen() &&
-        (validators->changedOnDisk() || validators->diskStateKey() != m_listedState)) {
+    // A server is asked again at each key.
+    const DbfTable *validators = m_db ? m_db->Gettoniere() : nullptr;
+    if (!m_db || (validators && validators->isOpen() &&
+                  (validators->changedOnDisk() || validators->diskStateKey() != m_listedState))) {
         reload();
         return;
     }
@@ -106,8 +124,8 @@ void SavedValidatorsModel::setFilter(const QString &text)
 void SavedValidatorsModel::reload()
 {
     QList<SavedValidatorsTable::Row> all;
-    const QList<ValidatorStore::Entry> entries = m_store.list();
-    m_listedState = m_db.Gettoniere() ? m_db.Gettoniere()->diskStateKey() : QString();
+    const QList<ValidatorStore::Entry> entries = m_store.validators();
+    m_listedState = m_db && m_db->Gettoniere() ? m_db->Gettoniere()->diskStateKey() : QString();
     all.reserve(entries.size());
     // The tables hold no serial number: it stays empty until a history keeps one.
     for (const ValidatorStore::Entry &entry : entries)
@@ -135,7 +153,8 @@ void SavedValidatorsModel::loadChannels()
     m_channelRows.clear();
     m_currentIdent.clear();
     ConfigImage image = ConfigImage::blank();
-    if (m_current < 0 || !m_store.load(m_table.row(m_current).identification, image))
+    if (m_current < 0 || !m_store.loadValidator(m_table.row(m_current).identification, image,
+                                                nullptr, nullptr, nullptr))
         return;
     m_currentIdent = m_table.row(m_current).identification;
     const DecimalWord bases[2] = {
@@ -164,7 +183,7 @@ bool SavedValidatorsModel::BtnOpenClick()
         return false;
     ConfigImage image = m_editor->image();
     ValidatorStore::LoadReport report;
-    if (!m_store.loadInto(ident, image, nullptr, &report)) {
+    if (!m_store.loadValidatorInto(ident, image, nullptr, &report)) {
         m_prompt.tell(m_store.errorString(), UserPrompt::Kind::Error);
         return false;
     }
@@ -191,7 +210,7 @@ bool SavedValidatorsModel::BtnDeleteClick()
         return false;
     const QString ident = m_table.row(m_current).identification;
     // A table that cannot be changed is said before anything is asked.
-    if (!m_store.canChange()) {
+    if (!m_store.canChangeValidators()) {
         m_prompt.tell(m_store.errorString(), UserPrompt::Kind::Error);
         return false;
     }
@@ -199,7 +218,7 @@ bool SavedValidatorsModel::BtnDeleteClick()
                      UserPrompt::Kind::Confirmation,
                      UserPrompt::Buttons::YesNo) != UserPrompt::Answer::Yes)
         return false;
-    if (!m_store.remove(ident)) {
+    if (!m_store.removeValidator(ident)) {
         m_prompt.tell(m_store.errorString(), UserPrompt::Kind::Error);
         return false;
     }

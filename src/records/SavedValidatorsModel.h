@@ -5,9 +5,11 @@
 #include "ValidatorStore.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class EditorModel;
+class RecordStore;
 class TDBModule;
 class UserPrompt;
 
@@ -17,7 +19,11 @@ class UserPrompt;
 class SavedValidatorsModel final
 {
 public:
+    SavedValidatorsModel(RecordStore &store, UserPrompt &prompt, EditorModel *editor);
+    // Over the tables of a data module.
     SavedValidatorsModel(TDBModule &db, UserPrompt &prompt, EditorModel *editor);
+    ~SavedValidatorsModel();
+    Q_DISABLE_COPY_MOVE(SavedValidatorsModel)
 
     const ControlSet &controls() const { return m_controls; }
     ControlSet &controls() { return m_controls; }
@@ -59,10 +65,13 @@ private:
     void reload();
     void loadChannels();
 
-    TDBModule &m_db;
+    void init();
+
+    TDBModule *m_db = nullptr; // the data module's tables; nothing for a server
     UserPrompt &m_prompt;
     EditorModel *m_editor;
-    ValidatorStore m_store;
+    std::unique_ptr<RecordStore> m_own; // over the data module's tables, when made so
+    RecordStore &m_store;
     ControlSet m_controls;
     SavedValidatorsTable m_table;
     QList<QStringList> m_channelRows;

@@ -273,9 +273,20 @@ bool ValidatorStore::loadInto(const QString &identification, ConfigImage &image,
         return false;
     const DbfTable &validators = *m_db.Gettoniere();
     const int v = validators.locate(QStringLiteral("IDENT"), identification.trimmed());
+    openInto(stored, familyOf(validators.text(v, QStringLiteral("VERSION"))), image);
+    return true;
+}
+
+int ValidatorStore::familyOf(const QString &version)
+{
     bool ok = false;
-    const int family = validators.text(v, QStringLiteral("VERSION")).trimmed().toInt(&ok);
-    if (ok && family >= 0 && family <= 255)
+    const int family = version.trimmed().toInt(&ok);
+    return ok && family >= 0 && family <= 255 ? family : -1;
+}
+
+void ValidatorStore::openInto(const ConfigImage &stored, int family, ConfigImage &image)
+{
+    if (family >= 0)
         image.version[0] = quint8(family);
     image.options = stored.options;
     image.prices = stored.prices;
@@ -287,7 +298,6 @@ bool ValidatorStore::loadInto(const QString &identification, ConfigImage &image,
             record[Rec::Enabled] = 0;
     }
     image.rebuildEnableBitmap();
-    return true;
 }
 
 QList<ValidatorStore::Entry> ValidatorStore::list() const

@@ -50,6 +50,11 @@ public:
     bool loadInto(const QString &identification, ConfigImage &image, QString *description = nullptr,
                   LoadReport *report = nullptr);
 
+    // The family byte a stored VERSION text gives; -1 when it gives none.
+    static int familyOf(const QString &version);
+    // What loadInto() does with a loaded blank image and the stored family byte.
+    static void openInto(const ConfigImage &stored, int family, ConfigImage &image);
+
     struct Entry
     {
         QString identification;

@@ -1,5 +1,7 @@
 #include "ValueTableModel.h"
 
+#include "DirectoryRecords.h"
+
 #include "EditorState.h"
 
 #include "Encodings.h"
@@ -93,12 +95,23 @@ Bases basesOf(const ValueBlock &b)
 } // namespace
 
 ValueTableModel::ValueTableModel(Editor editor, bool light, TMonnayeur *link, UserPrompt *prompt,
-                                 ValueTableStore *store, bool directWrite)
+                                 RecordStore *store, bool directWrite)
     : m_editor(std::move(editor)), m_light(light), m_link(link), m_prompt(prompt), m_store(store),
       m_directWrite(directWrite)
 {
     init();
 }
+
+ValueTableModel::ValueTableModel(Editor editor, bool light, TMonnayeur *link, UserPrompt *prompt,
+                                 ValueTableStore *store, bool directWrite)
+    : m_editor(std::move(editor)), m_light(light), m_link(link), m_prompt(prompt),
+      m_own(store ? std::make_unique<DirectoryRecords>(store->module(), store->prompt()) : nullptr),
+      m_store(m_own.get()), m_directWrite(directWrite)
+{
+    init();
+}
+
+ValueTableModel::~ValueTableModel() = default;
 
 ValueTableModel::ValueTableModel(ValueBlock &editorBlock, bool *configModified, bool light,
                                  TMonnayeur *link, UserPrompt *prompt, ValueTableStore *store,
@@ -346,13 +359,13 @@ void ValueTableModel::click(const QString &name)
     else if (name == QLatin1String("DBNavigator1Last") && !m_records.isEmpty())
         recordClick(int(m_records.size()) - 1);
     else if (name == QLatin1String("DBNavigator1Delete") && m_store && m_record >= 0 &&
-             !m_store->canChange())
+             !m_store->canChangeValueTables())
         tell(m_store->errorString(), int(UserPrompt::Kind::Error));
     else if (name == QLatin1String("DBNavigator1Delete") && m_store && m_record >= 0 && m_prompt &&
              m_prompt->ask(messageText(Msg::DeleteRecord), UserPrompt::Kind::Confirmation,
                            UserPrompt::Buttons::OkCancel) == UserPrompt::Answer::Ok) {
         const int at = m_record;
-        if (!m_store->remove(at))
+        if (!m_store->removeValueTable(m_records.at(at).name))
             tell(m_store->errorString(), int(UserPrompt::Kind::Error));
         refreshRecords();
         m_record = std::min(at, int(m_records.size()) - 1);
@@ -460,7 +473,7 @@ void ValueTableModel::recordDoubleClick(int row)
 
 void ValueTableModel::refreshRecords()
 {
-    m_records = m_store ? m_store->list() : QList<ValueTableStore::Entry>{};
+    m_records = m_store ? m_store->valueTables() : QList<ValueTableStore::Entry>{};
     if (m_record >= m_records.size())
         m_record = int(m_records.size()) - 1;
     if (m_record < 0 && !m_records.isEmpty())
@@ -533,20 +546,23 @@ void ValueTableModel::BitBtn2Click()
     }
     if (!m_store)
         return;
-    if (m_store->save(m_copy, name, m_controls.state(edit(5)).text, m_light) ==
+    if (m_store->saveValueTable(m_copy, name, m_controls.state(edit(5)).text, m_light) ==
         ValueTableStore::Outcome::Saved) {
         refreshRecords();
-        m_record = m_store->find(name);
+        const auto at = std::find_if(m_records.begin(), m_records.end(), [&](const auto &e) {
+            return e.name.compare(name.trimmed(), Qt::CaseInsensitive) == 0;
+        });
+        m_record = at == m_records.end() ? -1 : int(at - m_records.begin());
     }
     flush();
 }
 
 void ValueTableModel::BitBtn5Click()
 {
-    if (!m_store || m_record < 0)
+    if (!m_store || m_record < 0 || m_record >= m_records.size())
         return;
     ValueTableStore::Entry entry;
-    if (!m_store->open(m_record, m_copy, m_light, &entry))
+    if (!m_store->openValueTable(m_records.at(m_record).name, m_copy, m_light, &entry))
         return;
     m_controls.setText(edit(4), entry.name);
     m_controls.setText(edit(5), entry.description);

@@ -4,10 +4,13 @@
 #include "ControlSet.h"
 #include "ValueTableStore.h"
 
+#include <memory>
+
 #include <QString>
 #include <array>
 #include <functional>
 
+class RecordStore;
 class TMonnayeur;
 class UserPrompt;
 
@@ -29,7 +32,11 @@ public:
     // link and store may be null (no validator, no tables): their buttons are then disabled.
     // directWrite makes "&Transfert" visible.
     ValueTableModel(Editor editor, bool light, TMonnayeur *link, UserPrompt *prompt,
+                    RecordStore *store, bool directWrite);
+    // Over the value table of a data module.
+    ValueTableModel(Editor editor, bool light, TMonnayeur *link, UserPrompt *prompt,
                     ValueTableStore *store, bool directWrite);
+    ~ValueTableModel();
     // Over the editor's block and flag themselves.
     ValueTableModel(ValueBlock &editorBlock, bool *configModified, bool light, TMonnayeur *link,
                     UserPrompt *prompt, ValueTableStore *store, bool directWrite);
@@ -129,7 +136,8 @@ private:
     bool m_light;
     TMonnayeur *m_link;
     UserPrompt *m_prompt;
-    ValueTableStore *m_store;
+    std::unique_ptr<RecordStore> m_own; // over the data module's table, when made so
+    RecordStore *m_store;
     bool m_directWrite;
     ControlSet m_controls;
     ValueBlock m_copy{};

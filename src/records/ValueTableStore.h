@@ -61,6 +61,8 @@ public:
     bool canChange();
 
     QString errorString() const { return m_error; }
+    TDBModule &module() const { return m_db; }
+    UserPrompt &prompt() const { return m_prompt; }
     // Why the last open stopped before the last field; empty when every field converted.
     QString conversionError() const { return m_conversionError; }
 

@@ -34,6 +34,7 @@ constexpr Topic kTopics[] = {
     {"TFormValue", "value-tables"},
     {"TFormReadFileData", "saved-validators"},
     {"TFormRepair", "repair"},
+    {"TFormDataSource", "records-server"},
     {"TMajFirmware", "firmware"},
     {"TConnectForm", "firmware"},
 };

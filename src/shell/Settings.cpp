@@ -1,5 +1,7 @@
 #include "Settings.h"
 
+#include "DataSource.h"
+
 #include "Transport.h"
 #include <QDateTime>
 #include <QDir>
@@ -36,6 +38,7 @@ constexpr KeyInfo kKeys[int(Settings::Key::Count_)] = {
     {"PortTimeout", KeyInfo::Type::PortTimeout},
     {"CloneBackup", KeyInfo::Type::Bool},
     {"LearnChannel", KeyInfo::Type::Channel},
+    {"DataSource", KeyInfo::Type::Text},
 };
 
 // A stored value in its typed form, or an invalid variant when it cannot be read as one.
@@ -116,6 +119,11 @@ QVariant Settings::defaultValue(Key key)
     default:
         return QString();
     }
+}
+
+void Settings::setDataSource(const QString &address)
+{
+    set(Key::DataSource, DataSource::withoutPassword(address.trimmed()));
 }
 
 QString Settings::path(Key key) const

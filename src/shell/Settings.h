@@ -30,6 +30,7 @@ public:
         PortTimeout,  // "PortTimeout": the wait in ms for a count echo or a reply's first byte
         CloneBackup,  // "CloneBackup": a clone reads and keeps the target's configuration first
         LearnChannel, // "LearnChannel": the channel the coin learning form starts on (0: none)
+        DataSource,   // "DataSource": a postgresql:// address; empty: the data directory
         Count_
     };
 
@@ -61,6 +62,7 @@ public:
     bool verifyAfterWrite() const { return value(Key::Verify).toBool(); }
     QString language() const { return value(Key::Language).toString(); }
     QString dataDirectory() const { return value(Key::DataDirectory).toString(); }
+    QString dataSource() const { return value(Key::DataSource).toString(); }
     QString portMap() const { return value(Key::PortMap).toString(); }
     int portTimeoutMs() const { return value(Key::PortTimeout).toInt(); }
     bool backupBeforeCloning() const { return value(Key::CloneBackup).toBool(); }
@@ -75,6 +77,8 @@ public:
     void setVerifyAfterWrite(bool on) { set(Key::Verify, on); }
     void setLanguage(const QString &code) { set(Key::Language, code); }
     void setDataDirectory(const QString &path) { set(Key::DataDirectory, path); }
+    // Kept without its password, which libpq finds in ~/.pgpass or PGPASSWORD.
+    void setDataSource(const QString &address);
     void setPortMap(const QString &map) { set(Key::PortMap, map); }
     void setPortTimeoutMs(int ms) { set(Key::PortTimeout, ms); }
     void setBackupBeforeCloning(bool on) { set(Key::CloneBackup, on); }

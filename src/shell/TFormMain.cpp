@@ -1,5 +1,8 @@
 #include "TFormMain.h"
 
+#include "DataSourceModel.h"
+#include "TFormDataSource.h"
+
 #include "DataDirectory.h"
 
 #include "Captions.h"
@@ -144,6 +147,10 @@ void TFormMain::buildMenu()
     m_repairtables1->setObjectName(QStringLiteral("Repairtables1"));
     m_repairtables1->setEnabled(bool(m_context.repairTables));
     connect(m_repairtables1, &QAction::triggered, this, &TFormMain::Repairtables1Click);
+    m_datasource1 = m_parameters->addAction(QString());
+    m_datasource1->setObjectName(QStringLiteral("Datasource1"));
+    m_datasource1->setEnabled(m_context.createDataModule && m_context.settings && m_context.prompt);
+    connect(m_datasource1, &QAction::triggered, this, &TFormMain::Datasource1Click);
 }
 
 void TFormMain::retranslateUi()
@@ -173,6 +180,7 @@ void TFormMain::retranslateUi()
     m_porttimeout1->setStatusTip(m_porttimeout1->toolTip());
     m_firmware1->setText(tr("Firmware upgrade..."));
     m_repairtables1->setText(captionText(Cap::RepairTables));
+    m_datasource1->setText(captionText(Cap::DataSourceItem));
     m_bitBtn2->setText(tr("&Back"));
     m_bitBtn1->setText(tr("&Exit"));
 }
@@ -357,6 +365,19 @@ void TFormMain::Porttimeout1Click()
         return;
     m_context.settings->setPortTimeoutMs(dialog.intValue());
     m_link.setPortTimeout(dialog.intValue());
+}
+
+void TFormMain::Datasource1Click()
+{
+    if (!m_datasource1->isEnabled())
+        return;
+    DataSourceModel model(*m_context.settings, *m_context.prompt);
+    TFormDataSource form(model, this);
+    if (form.exec() != QDialog::Accepted)
+        return;
+    // The records come from the new source at once.
+    m_dataModule.reset();
+    m_dataModule = m_context.createDataModule();
 }
 
 void TFormMain::Repairtables1Click()

@@ -36,6 +36,7 @@ public:
     void Firmware1Click();
     void Porttimeout1Click();
     void Repairtables1Click();
+    void Datasource1Click();
 
     ValidatorLink &link() { return m_link; }
     bool editorActive() const { return m_editorActive; }
@@ -77,6 +78,7 @@ private:
     QAction *m_firmware1 = nullptr;
     QAction *m_porttimeout1 = nullptr;
     QAction *m_repairtables1 = nullptr;
+    QAction *m_datasource1 = nullptr;
     QList<QAction *> m_languageItems;
     QLabel *m_image1;
     QLabel *m_lVersion;

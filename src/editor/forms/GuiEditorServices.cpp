@@ -25,10 +25,10 @@
 #include "GuiLearning.h"
 #include "LearningFlows.h"
 #include "Messages.h"
+#include "RecordStore.h"
 #include "Settings.h"
 #include "TCloningChk.h"
 #include "TConnectForm.h"
-#include "TDBModule.h"
 #include "TFormAvertissementDif.h"
 #include "TFormCondotto.h"
 #include "TFormProfilC.h"
@@ -42,6 +42,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <utility>
@@ -75,7 +76,9 @@ QString askSaveFileName(QWidget *window, const QString &caption, const QString &
 
 } // namespace
 
-GuiEditorServices::GuiEditorServices(UserPrompt &prompt, TDBModule *db) : m_prompt(prompt), m_db(db)
+GuiEditorServices::GuiEditorServices(UserPrompt &prompt, RecordStore *records,
+                                     const QString &backupDirectory)
+    : m_prompt(prompt), m_records(records), m_backupDirectory(backupDirectory)
 {}
 
 GuiEditorServices::~GuiEditorServices() = default;
@@ -173,18 +176,16 @@ void GuiEditorServices::firmwareRequested(TMonnayeur &link)
 
 ValidatorTables *GuiEditorServices::tables()
 {
-    if (!m_db)
+    if (!m_records)
         return nullptr;
     if (!m_tables)
-        m_tables = std::make_unique<ValidatorStoreTables>(*m_db, m_prompt);
+        m_tables = std::make_unique<ValidatorStoreTables>(*m_records);
     return m_tables.get();
 }
 
 QString GuiEditorServices::backupDirectory()
 {
-    if (!m_db || m_db->dataDirectory().isEmpty())
-        return {};
-    return QDir(m_db->dataDirectory()).filePath(QStringLiteral("backups"));
+    return m_backupDirectory;
 }
 
 bool GuiEditorServices::verifyAfterWrite()
@@ -225,7 +226,7 @@ template <typename Flow> auto GuiEditorServices::withLearning(const ConfigImage 
     GuiLearningWindows windows(m_window);
     GuiLearningServices services(
         m_window, &m_prompt, [this, &image](int channel) -> std::optional<CoinProfile> {
-            return TFormProfilC::choose(m_window, m_db, m_prompt, channel, image);
+            return TFormProfilC::choose(m_window, m_records, m_prompt, channel, image);
         });
     LearningContext context;
     context.prompt = &m_prompt;
@@ -291,13 +292,11 @@ void GuiEditorServices::editValueTable(EditorModel &editor)
         editor.editImage(image);
     };
     access.modified = [&editor] { editor.flags().configModified = true; };
-    std::unique_ptr<ValueTableStore> store;
-    if (m_db)
-        store = std::make_unique<ValueTableStore>(*m_db, m_prompt);
+
     // The switch as the main window left it: read again each time the form opens.
     Settings settings;
     settings.load();
-    ValueTableModel model(access, editor.image().isLight(), editor.link(), &m_prompt, store.get(),
+    ValueTableModel model(access, editor.image().isLight(), editor.link(), &m_prompt, m_records,
                           settings.directWrite());
     TFormValue form(model, m_window);
     form.exec();
@@ -305,9 +304,9 @@ void GuiEditorServices::editValueTable(EditorModel &editor)
 
 void GuiEditorServices::browseSavedValidators(EditorModel &editor)
 {
-    if (!m_db)
+    if (!m_records)
         return;
-    SavedValidatorsModel model(*m_db, m_prompt, &editor);
+    SavedValidatorsModel model(*m_records, m_prompt, &editor);
     TFormReadFileData form(model, m_window);
     if (HistoryStore *history = currentHistory()) {
         model.setHistory(
@@ -365,17 +364,17 @@ void GuiEditorServices::runBatch(EditorModel &editor)
     if (editor.holdsConfiguration())
         sources.editorImage = editor.image();
     sources.chooseFile = [this] { return openConfigFileName(); };
-    if (m_db) {
-        ValidatorStore store(*m_db, m_prompt);
-        for (const ValidatorStore::Entry &entry : store.list())
+    if (m_records) {
+        for (const ValidatorStore::Entry &entry : m_records->validators())
             sources.saved.append(entry.identification);
         sources.loadSaved = [this](const QString &identification, ConfigImage &image, QString *) {
-            ValidatorStore loader(*m_db, m_prompt);
-            return loader.loadInto(identification, image);
+            return m_records->loadValidatorInto(identification, image);
         };
     }
-    sources.dataDirectory =
-        m_db && !m_db->dataDirectory().isEmpty() ? m_db->dataDirectory() : DataDirectory::resolve();
+    // The batch's logs go beside the backups, in the data directory of this bench.
+    sources.dataDirectory = m_backupDirectory.isEmpty()
+                                ? DataDirectory::resolve()
+                                : QFileInfo(m_backupDirectory).absolutePath();
     if (!m_sounds)
         m_sounds = std::make_unique<EffectSoundPlayer>();
     BatchModel model(editor.link(), &m_prompt, m_sounds.get(), std::move(sources));

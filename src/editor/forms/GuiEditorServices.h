@@ -7,7 +7,7 @@
 #include <memory>
 
 class EffectSoundPlayer;
-class TDBModule;
+class RecordStore;
 class UserPrompt;
 class ValidatorStoreTables;
 struct LearningContext;
@@ -18,7 +18,9 @@ class GuiEditorServices final : public EditorServices
 {
 public:
     // db may be null: no tables and no backups.
-    GuiEditorServices(UserPrompt &prompt, TDBModule *db);
+    // records may be null: no tables. Backups go into backupDirectory (none when empty).
+    GuiEditorServices(UserPrompt &prompt, RecordStore *records,
+                      const QString &backupDirectory = {});
     ~GuiEditorServices() override;
     Q_DISABLE_COPY_MOVE(GuiEditorServices)
 
@@ -58,7 +60,7 @@ public:
     void showChanges(ChangesModel &changes) override;
     bool valueTablesAvailable() override { return true; }
     void editValueTable(EditorModel &editor) override;
-    bool savedValidatorsAvailable() override { return m_db != nullptr; }
+    bool savedValidatorsAvailable() override { return m_records != nullptr; }
     void browseSavedValidators(EditorModel &editor) override;
     // The Batch window over the editor's link, with the program's sounds.
     bool batchAvailable() override { return true; }
@@ -82,7 +84,8 @@ private:
     void playCoin();
 
     UserPrompt &m_prompt;
-    TDBModule *m_db;
+    RecordStore *m_records;
+    QString m_backupDirectory;
     QPointer<QWidget> m_window;
     std::unique_ptr<ValidatorStoreTables> m_tables;
     std::unique_ptr<EffectSoundPlayer> m_sounds;

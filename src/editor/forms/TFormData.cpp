@@ -238,11 +238,12 @@ QBoxLayout *TFormData::areaOf(const Control &control) const
 }
 
 void TFormData::showModal(ValidatorLink &link, QWidget *mainWindow, UserPrompt &prompt,
-                          TDBModule *db, const std::function<void(TFormData &)> &afterOpeningRead)
+                          RecordStore *records, const QString &backupDirectory,
+                          const std::function<void(TFormData &)> &afterOpeningRead)
 {
     if (!link.monnayeur())
         return;
-    GuiEditorServices services(prompt, db);
+    GuiEditorServices services(prompt, records, backupDirectory);
     TFormData editor(prompt, services, link.monnayeur(), mainWindow);
     services.setWindow(&editor);
     editor.model().flags().readOnOpen = true;

@@ -10,7 +10,7 @@ class EditorModel;
 class EditorServices;
 class QBoxLayout;
 class QTimer;
-class TDBModule;
+class RecordStore;
 class TMonnayeur;
 class UserPrompt;
 class ValidatorLink;
@@ -35,10 +35,10 @@ public:
 
     // Opens the editor on the open link, modal over the main window only so that a window
     // beside it stays usable; it reads the validator once shown, and closes again when that
-    // read fails. afterOpeningRead runs once the opening read has ended. db may be null: no
-    // tables, no backups.
+    // read fails. afterOpeningRead runs once the opening read has ended. records may be null
+    // (no tables), backupDirectory empty (no backups).
     static void showModal(ValidatorLink &link, QWidget *mainWindow, UserPrompt &prompt,
-                          TDBModule *db = nullptr,
+                          RecordStore *records = nullptr, const QString &backupDirectory = {},
                           const std::function<void(TFormData &)> &afterOpeningRead = {});
 
     // Takes the size the form asks for, within the screen.

@@ -54,15 +54,15 @@ TFormProfilC::~TFormProfilC()
     m_painting = true;
 }
 
-std::optional<CoinProfile> TFormProfilC::choose(QWidget *parent, TDBModule *db, UserPrompt &prompt,
-                                                int channel, const ConfigImage &image)
+std::optional<CoinProfile> TFormProfilC::choose(QWidget *parent, RecordStore *records,
+                                                UserPrompt &prompt, int channel,
+                                                const ConfigImage &image)
 {
-    if (!db) {
+    if (!records) {
         prompt.tell(messageText(Msg::TablesUnavailable), UserPrompt::Kind::Warning);
         return std::nullopt;
     }
-    ProfileStore store(*db, prompt);
-    ProfilCModel model(store, &prompt, channel, image);
+    ProfilCModel model(*records, &prompt, channel, image);
     TFormProfilC form(model, parent);
     form.exec();
     return model.result();

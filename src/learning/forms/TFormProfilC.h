@@ -9,7 +9,7 @@
 class ProfilCModel;
 class QButtonGroup;
 class QTableWidget;
-class TDBModule;
+class RecordStore;
 class UserPrompt;
 struct ConfigImage;
 
@@ -27,8 +27,9 @@ public:
     // db for the learning channel (1-based, 0 for none; its base in image shapes the value)
     // and returns what "&Exit" handed over, nothing after "&Cancel". Without tables it says so
     // and returns nothing.
-    static std::optional<CoinProfile> choose(QWidget *parent, TDBModule *db, UserPrompt &prompt,
-                                             int channel, const ConfigImage &image);
+    static std::optional<CoinProfile> choose(QWidget *parent, RecordStore *records,
+                                             UserPrompt &prompt, int channel,
+                                             const ConfigImage &image);
 
     // Escape and the window's close button count as "&Cancel".
     void reject() override;
