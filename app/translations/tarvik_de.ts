@@ -592,7 +592,7 @@
         <translation>gesperrt</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
+        <source>Option &apos;%s&apos;</source>
         <translation>Option „%s“</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>vom Münzprüfer abgelehnt</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
+        <source>Validator&apos;s own block</source>
         <translation>Eigener Block des Münzprüfers</translation>
     </message>
     <message>
@@ -795,7 +795,7 @@
         <source>Write changes</source>
         <translation>Änderungen schreiben</translation>
     </message>
-<message>
+    <message>
         <source>Batch...</source>
         <translation>Serie...</translation>
     </message>
@@ -808,7 +808,7 @@
         <translation>Quelle</translation>
     </message>
     <message>
-        <source>The editor's configuration</source>
+        <source>The editor&apos;s configuration</source>
         <translation>Die Konfiguration des Editors</translation>
     </message>
     <message>
@@ -911,7 +911,7 @@
         <source>Validators done</source>
         <translation>Bearbeitete Münzprüfer</translation>
     </message>
-<message>
+    <message>
         <source>History of validator %d</source>
         <translation>Verlauf des Münzprüfers %d</translation>
     </message>
@@ -999,7 +999,7 @@
         <source>History...</source>
         <translation>Verlauf...</translation>
     </message>
-<message>
+    <message>
         <source>Data source...</source>
         <translation>Datenquelle...</translation>
     </message>
@@ -1047,7 +1047,7 @@
         <translation>Lesefehler vom Münzprüfer</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>Der Kommunikationsanschluss COM%d ist nicht frei oder falsch eingestellt.</translation>
     </message>
     <message>
@@ -1115,8 +1115,8 @@
         <translation>Wert unter dem Minimum, er wird korrigiert.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' ist kein gültiger Ganzzahlwert</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; ist kein gültiger Ganzzahlwert</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -1247,7 +1247,7 @@
         <translation>Aktualisierung... Bitte warten !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
+        <source>Don&apos;t Stop or disconnect !!!</source>
         <translation>Nicht abbrechen oder trennen !!!</translation>
     </message>
     <message>
@@ -1347,7 +1347,7 @@
         <translation>Schlüssel %s fehlt oder passt nicht zu seinem Feld</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
+        <source>its language driver differs from the table&apos;s</source>
         <translation>sein Sprachtreiber weicht von dem der Tabelle ab</translation>
     </message>
     <message>
@@ -1523,11 +1523,11 @@
         <translation>Der Datenträger meldete einen Fehler (%s): es wurde nichts geschrieben</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>„%s“ kann nicht in %s gespeichert werden: seine Codepage kennt %s nicht. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>„%s“ ist zu lang für %s: es fasst höchstens %s Zeichen. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
@@ -1655,19 +1655,19 @@
         <translation>Überschneidung mit %s</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
         <translation>Die eigene Konfiguration des Münzprüfers konnte vor dem Klonen nicht gelesen werden: nichts wurde geklont.</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
         <translation>Die eigene Konfiguration des Münzprüfers konnte vor dem Klonen nicht gesichert werden: %s. Trotzdem klonen?</translation>
     </message>
     <message>
-        <source>The validator's own configuration was kept in %s.</source>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
         <translation>Die eigene Konfiguration des Münzprüfers wurde in %s gesichert.</translation>
     </message>
     <message>
-        <source>Windows corrected for this validator's sensors: %s.</source>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
         <translation>Fenster für die Sensoren dieses Münzprüfers korrigiert: %s.</translation>
     </message>
     <message>
@@ -1710,7 +1710,7 @@
         <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
         <translation>Der Inhalt des Münzprüfers %s ist nicht bekannt (er wurde hier nicht gelesen): Nur die ganze Konfiguration kann geschrieben werden.</translation>
     </message>
-<message>
+    <message>
         <source>Plug the next validator</source>
         <translation>Den nächsten Münzprüfer anschließen</translation>
     </message>
@@ -1802,7 +1802,7 @@
         <source>The configuration sheet could not be written: %s</source>
         <translation>Das Konfigurationsblatt konnte nicht geschrieben werden: %s</translation>
     </message>
-<message>
+    <message>
         <source>The history could not be kept: %s</source>
         <translation>Der Verlauf konnte nicht gespeichert werden: %s</translation>
     </message>
@@ -1836,7 +1836,7 @@
         <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
         <translation>Kein Verlauf nennt den als %s gespeicherten Münzprüfer: sein Verlauf ist bekannt, sobald er nach einem Lesen oder Schreiben gespeichert wird</translation>
     </message>
-<message>
+    <message>
         <source>The server %s cannot be reached: nothing was stored.</source>
         <translation>Der Server %s ist nicht erreichbar: Es wurde nichts gespeichert.</translation>
     </message>
@@ -1955,7 +1955,7 @@
         <source>Pause in replies (ms)</source>
         <translation>Pause in Antworten (ms)</translation>
     </message>
-<message>
+    <message>
         <source>Unplug</source>
         <translation>Abziehen</translation>
     </message>
@@ -2149,7 +2149,7 @@
         <translation>Port-&amp;Zeitlimit...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
         <translation>Wie lange auf das erste Byte des Prüfers gewartet wird: für Bluetooth- oder Funk-Seriell-Adapter erhöhen</translation>
     </message>
     <message>
@@ -2157,7 +2157,7 @@
         <translation>Port-Zeitlimit</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
         <translation>Wartezeit auf das Echo der Anzahl oder das erste Byte einer Antwort, in Millisekunden (Vorgabe %1):</translation>
     </message>
     <message>
@@ -2169,14 +2169,14 @@
         <translation>Liest den Münzprüfer, auf den ein Klon schreibt, und sichert zuerst dessen eigene Konfiguration bei den Sicherungen</translation>
     </message>
     <message>
-        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel's change to the validator at once and checks it</source>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
         <translation>Nur zur Kalibrierung: Das Verlassen eines Fenster-, Wert-, Ersatz- oder Freigabefelds eines Kanals schreibt dessen Änderung sofort in den Münzprüfer und prüft sie</translation>
     </message>
-<message>
+    <message>
         <source>Only for calibration</source>
         <translation>Nur für die Kalibrierung</translation>
     </message>
-    </context>
+</context>
 <context>
     <name>TFormProfilC</name>
     <message>

@@ -592,8 +592,8 @@
         <translation>disabled</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
-        <translation>Option '%s'</translation>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Option &apos;%s&apos;</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -684,8 +684,8 @@
         <translation>refused by the validator</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
-        <translation>Validator's own block</translation>
+        <source>Validator&apos;s own block</source>
+        <translation>Validator&apos;s own block</translation>
     </message>
     <message>
         <source>%s (channels %s)</source>
@@ -795,7 +795,7 @@
         <source>Write changes</source>
         <translation>Write changes</translation>
     </message>
-<message>
+    <message>
         <source>Batch...</source>
         <translation>Batch...</translation>
     </message>
@@ -808,8 +808,8 @@
         <translation>Source</translation>
     </message>
     <message>
-        <source>The editor's configuration</source>
-        <translation>The editor's configuration</translation>
+        <source>The editor&apos;s configuration</source>
+        <translation>The editor&apos;s configuration</translation>
     </message>
     <message>
         <source>A configuration file</source>
@@ -911,7 +911,7 @@
         <source>Validators done</source>
         <translation>Validators done</translation>
     </message>
-<message>
+    <message>
         <source>History of validator %d</source>
         <translation>History of validator %d</translation>
     </message>
@@ -999,7 +999,7 @@
         <source>History...</source>
         <translation>History...</translation>
     </message>
-<message>
+    <message>
         <source>Data source...</source>
         <translation>Data source...</translation>
     </message>
@@ -1047,8 +1047,8 @@
         <translation>Reading Error fron validator</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
-        <translation>Comunication Port COM%d isn't free or Setting error.</translation>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <translation>Comunication Port COM%d isn&apos;t free or Setting error.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
@@ -1115,8 +1115,8 @@
         <translation>Value under the minimum, it will be correct.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' is not a valid integer value</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; is not a valid integer value</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -1247,8 +1247,8 @@
         <translation>Updating... Please Wait !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
-        <translation>Don't Stop or disconnect !!!</translation>
+        <source>Don&apos;t Stop or disconnect !!!</source>
+        <translation>Don&apos;t Stop or disconnect !!!</translation>
     </message>
     <message>
         <source>Please connect the mini-programer.</source>
@@ -1347,8 +1347,8 @@
         <translation>tag %s is missing or does not match its field</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
-        <translation>its language driver differs from the table's</translation>
+        <source>its language driver differs from the table&apos;s</source>
+        <translation>its language driver differs from the table&apos;s</translation>
     </message>
     <message>
         <source>The data directory %s has been created with empty tables</source>
@@ -1523,12 +1523,12 @@
         <translation>The disk reported an error (%s): nothing was written</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
-        <translation>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
-        <translation>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</translation>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</translation>
     </message>
     <message>
         <source>%s counts %s records in its header, but its index and its length prove %s</source>
@@ -1655,20 +1655,20 @@
         <translation>Overlap with %s</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
-        <translation>The validator's own configuration could not be read before cloning: nothing was cloned.</translation>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
+        <translation>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
-        <translation>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</translation>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <translation>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</translation>
     </message>
     <message>
-        <source>The validator's own configuration was kept in %s.</source>
-        <translation>The validator's own configuration was kept in %s.</translation>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
+        <translation>The validator&apos;s own configuration was kept in %s.</translation>
     </message>
     <message>
-        <source>Windows corrected for this validator's sensors: %s.</source>
-        <translation>Windows corrected for this validator's sensors: %s.</translation>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
+        <translation>Windows corrected for this validator&apos;s sensors: %s.</translation>
     </message>
     <message>
         <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
@@ -1710,7 +1710,7 @@
         <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
         <translation>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</translation>
     </message>
-<message>
+    <message>
         <source>Plug the next validator</source>
         <translation>Plug the next validator</translation>
     </message>
@@ -1802,7 +1802,7 @@
         <source>The configuration sheet could not be written: %s</source>
         <translation>The configuration sheet could not be written: %s</translation>
     </message>
-<message>
+    <message>
         <source>The history could not be kept: %s</source>
         <translation>The history could not be kept: %s</translation>
     </message>
@@ -1836,7 +1836,7 @@
         <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
         <translation>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</translation>
     </message>
-<message>
+    <message>
         <source>The server %s cannot be reached: nothing was stored.</source>
         <translation>The server %s cannot be reached: nothing was stored.</translation>
     </message>
@@ -1955,7 +1955,7 @@
         <source>Pause in replies (ms)</source>
         <translation>Pause in replies (ms)</translation>
     </message>
-<message>
+    <message>
         <source>Unplug</source>
         <translation>Unplug</translation>
     </message>
@@ -2149,16 +2149,16 @@
         <translation>Port &amp;time-out...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
-        <translation>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</translation>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
+        <translation>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</translation>
     </message>
     <message>
         <source>Port time-out</source>
         <translation>Port time-out</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
-        <translation>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</translation>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
+        <translation>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</translation>
     </message>
     <message>
         <source>&amp;Back up before cloning</source>
@@ -2169,14 +2169,14 @@
         <translation>Reads the validator a clone writes to and keeps its own configuration among the backups first</translation>
     </message>
     <message>
-        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel's change to the validator at once and checks it</source>
-        <translation>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel's change to the validator at once and checks it</translation>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
+        <translation>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</translation>
     </message>
-<message>
+    <message>
         <source>Only for calibration</source>
         <translation>Only for calibration</translation>
     </message>
-    </context>
+</context>
 <context>
     <name>TFormProfilC</name>
     <message>

@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>Option bits</source>
-        <translation>Bits d'option</translation>
+        <translation>Bits d&apos;option</translation>
     </message>
     <message>
         <source>Separator</source>
@@ -592,7 +592,7 @@
         <translation>inhibé</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
+        <source>Option &apos;%s&apos;</source>
         <translation>Option « %s »</translation>
     </message>
     <message>
@@ -613,7 +613,7 @@
     </message>
     <message>
         <source>Enable table :</source>
-        <translation>Table d'activation :</translation>
+        <translation>Table d&apos;activation :</translation>
     </message>
     <message>
         <source>Changes</source>
@@ -684,7 +684,7 @@
         <translation>refusé par le monnayeur</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
+        <source>Validator&apos;s own block</source>
         <translation>Bloc propre du monnayeur</translation>
     </message>
     <message>
@@ -741,7 +741,7 @@
     </message>
     <message>
         <source>No base value is set: give the base value first</source>
-        <translation>Aucune valeur de base n'est définie : donnez d'abord la valeur de base</translation>
+        <translation>Aucune valeur de base n&apos;est définie : donnez d&apos;abord la valeur de base</translation>
     </message>
     <message>
         <source>A number from 0 to 254; empty: not set</source>
@@ -761,19 +761,19 @@
     </message>
     <message>
         <source>Since written to validator %s at %s</source>
-        <translation>Depuis l'écriture dans le monnayeur %s à %s</translation>
+        <translation>Depuis l&apos;écriture dans le monnayeur %s à %s</translation>
     </message>
     <message>
         <source>Since opened from %s (the validator was not read)</source>
-        <translation>Depuis l'ouverture de %s (le monnayeur n'a pas été lu)</translation>
+        <translation>Depuis l&apos;ouverture de %s (le monnayeur n&apos;a pas été lu)</translation>
     </message>
     <message>
         <source>Since opened from file %s (the validator was not read)</source>
-        <translation>Depuis l'ouverture du fichier %s (le monnayeur n'a pas été lu)</translation>
+        <translation>Depuis l&apos;ouverture du fichier %s (le monnayeur n&apos;a pas été lu)</translation>
     </message>
     <message>
         <source>Since the editor opened (the validator was not read)</source>
-        <translation>Depuis l'ouverture de l'éditeur (le monnayeur n'a pas été lu)</translation>
+        <translation>Depuis l&apos;ouverture de l&apos;éditeur (le monnayeur n&apos;a pas été lu)</translation>
     </message>
     <message>
         <source>Write again</source>
@@ -795,7 +795,7 @@
         <source>Write changes</source>
         <translation>Écrire les modifications</translation>
     </message>
-<message>
+    <message>
         <source>Batch...</source>
         <translation>Série...</translation>
     </message>
@@ -808,8 +808,8 @@
         <translation>Source</translation>
     </message>
     <message>
-        <source>The editor's configuration</source>
-        <translation>La configuration de l'éditeur</translation>
+        <source>The editor&apos;s configuration</source>
+        <translation>La configuration de l&apos;éditeur</translation>
     </message>
     <message>
         <source>A configuration file</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>How many (0: until Stop) :</source>
-        <translation>Combien (0 : jusqu'à Arrêter) :</translation>
+        <translation>Combien (0 : jusqu&apos;à Arrêter) :</translation>
     </message>
     <message>
         <source>Write a validator again when it comes back</source>
@@ -911,7 +911,7 @@
         <source>Validators done</source>
         <translation>Monnayeurs traités</translation>
     </message>
-<message>
+    <message>
         <source>History of validator %d</source>
         <translation>Historique du monnayeur %d</translation>
     </message>
@@ -985,21 +985,21 @@
     </message>
     <message>
         <source>Changes of event %d since the one before</source>
-        <translation>Modifications de l'événement %d depuis le précédent</translation>
+        <translation>Modifications de l&apos;événement %d depuis le précédent</translation>
     </message>
     <message>
         <source>From event %d to event %d</source>
-        <translation>De l'événement %d à l'événement %d</translation>
+        <translation>De l&apos;événement %d à l&apos;événement %d</translation>
     </message>
     <message>
         <source>No event is kept for this validator</source>
-        <translation>Aucun événement n'est conservé pour ce monnayeur</translation>
+        <translation>Aucun événement n&apos;est conservé pour ce monnayeur</translation>
     </message>
     <message>
         <source>History...</source>
         <translation>Historique...</translation>
     </message>
-<message>
+    <message>
         <source>Data source...</source>
         <translation>Source des données...</translation>
     </message>
@@ -1047,12 +1047,12 @@
         <translation>Erreur de lecture du monnayeur</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
-        <translation>Le port de communication COM%d n'est pas libre ou son paramétrage est erroné.</translation>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
+        <translation>Le port de communication COM%d n&apos;est pas libre ou son paramétrage est erroné.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
-        <translation>Cet utilisateur n'a pas le droit d'ouvrir le port série. Ajoutez l'utilisateur au groupe dialout (sudo usermod -aG dialout $USER), puis fermez la session et ouvrez-la de nouveau.</translation>
+        <translation>Cet utilisateur n&apos;a pas le droit d&apos;ouvrir le port série. Ajoutez l&apos;utilisateur au groupe dialout (sudo usermod -aG dialout $USER), puis fermez la session et ouvrez-la de nouveau.</translation>
     </message>
     <message>
         <source>Select port !!!</source>
@@ -1115,8 +1115,8 @@
         <translation>Valeur inférieure au minimum, elle sera corrigée.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' n'est pas une valeur entière valide</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; n&apos;est pas une valeur entière valide</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -1128,11 +1128,11 @@
     </message>
     <message>
         <source>Modifing this value will take effect on channels from 1 to 30 !</source>
-        <translation>La modification de cette valeur s'applique aux canaux 1 à 30 !</translation>
+        <translation>La modification de cette valeur s&apos;applique aux canaux 1 à 30 !</translation>
     </message>
     <message>
         <source>Modifing this value will take effect on channels from 31 to 60 !</source>
-        <translation>La modification de cette valeur s'applique aux canaux 31 à 60 !</translation>
+        <translation>La modification de cette valeur s&apos;applique aux canaux 31 à 60 !</translation>
     </message>
     <message>
         <source>The value of channels %d and %d is incompatible for the function multi-pulse (max %d pulses)</source>
@@ -1140,7 +1140,7 @@
     </message>
     <message>
         <source>Impossible displacement, the channel of origin and the one of destination coincides</source>
-        <translation>Déplacement impossible : le canal d'origine et le canal de destination sont identiques</translation>
+        <translation>Déplacement impossible : le canal d&apos;origine et le canal de destination sont identiques</translation>
     </message>
     <message>
         <source>Identification field must be filled</source>
@@ -1156,7 +1156,7 @@
     </message>
     <message>
         <source>The validity of data of this validator is not guaranteed by BRUNFELDGroup!</source>
-        <translation>La validité des données de ce monnayeur n'est pas garantie par BRUNFELDGroup !</translation>
+        <translation>La validité des données de ce monnayeur n&apos;est pas garantie par BRUNFELDGroup !</translation>
     </message>
     <message>
         <source>Select number of channel !</source>
@@ -1240,15 +1240,15 @@
     </message>
     <message>
         <source>Operation cancelled by operator</source>
-        <translation>Opération annulée par l'opérateur</translation>
+        <translation>Opération annulée par l&apos;opérateur</translation>
     </message>
     <message>
         <source>Updating... Please Wait !</source>
         <translation>Mise à jour... Veuillez patienter !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
-        <translation>N'arrêtez pas et ne déconnectez pas !!!</translation>
+        <source>Don&apos;t Stop or disconnect !!!</source>
+        <translation>N&apos;arrêtez pas et ne déconnectez pas !!!</translation>
     </message>
     <message>
         <source>Please connect the mini-programer.</source>
@@ -1256,7 +1256,7 @@
     </message>
     <message>
         <source>The user guide %s is not installed.</source>
-        <translation>Le guide de l'utilisateur %s n'est pas installé.</translation>
+        <translation>Le guide de l&apos;utilisateur %s n&apos;est pas installé.</translation>
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
@@ -1276,15 +1276,15 @@
     </message>
     <message>
         <source>%s is not a dBase table of level 3, 4, 5 or 7</source>
-        <translation>%s n'est pas une table dBase de niveau 3, 4, 5 ou 7</translation>
+        <translation>%s n&apos;est pas une table dBase de niveau 3, 4, 5 ou 7</translation>
     </message>
     <message>
         <source>%s has a damaged header: its header length, record length and field widths do not add up</source>
-        <translation>L'en-tête de %s est endommagé : la longueur d'en-tête, la longueur d'enregistrement et les largeurs des champs ne concordent pas</translation>
+        <translation>L&apos;en-tête de %s est endommagé : la longueur d&apos;en-tête, la longueur d&apos;enregistrement et les largeurs des champs ne concordent pas</translation>
     </message>
     <message>
         <source>%s has a damaged header: field %s is not valid</source>
-        <translation>L'en-tête de %s est endommagé : le champ %s n'est pas valide</translation>
+        <translation>L&apos;en-tête de %s est endommagé : le champ %s n&apos;est pas valide</translation>
     </message>
     <message>
         <source>%s is truncated: it holds %s of its %s records</source>
@@ -1292,7 +1292,7 @@
     </message>
     <message>
         <source>%s has no field %s</source>
-        <translation>%s n'a pas de champ %s</translation>
+        <translation>%s n&apos;a pas de champ %s</translation>
     </message>
     <message>
         <source>%s: field %s is of type %s where %s is expected</source>
@@ -1304,7 +1304,7 @@
     </message>
     <message>
         <source>%s cannot be changed: its index tag %s (%s) is not one this program can keep up to date</source>
-        <translation>%s ne peut pas être modifié : son étiquette d'index %s (%s) ne peut pas être tenue à jour par ce programme</translation>
+        <translation>%s ne peut pas être modifié : son étiquette d&apos;index %s (%s) ne peut pas être tenue à jour par ce programme</translation>
     </message>
     <message>
         <source>%s cannot be changed: its language driver %s sorts keys in an order this program cannot keep</source>
@@ -1316,11 +1316,11 @@
     </message>
     <message>
         <source>The index %s was not usable (%s) and has been rebuilt from %s</source>
-        <translation>L'index %s n'était pas utilisable (%s) et a été reconstruit à partir de %s</translation>
+        <translation>L&apos;index %s n&apos;était pas utilisable (%s) et a été reconstruit à partir de %s</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s) and cannot be rebuilt now</source>
-        <translation>L'index %s n'est pas utilisable (%s) et ne peut pas être reconstruit maintenant</translation>
+        <translation>L&apos;index %s n&apos;est pas utilisable (%s) et ne peut pas être reconstruit maintenant</translation>
     </message>
     <message>
         <source>it is missing</source>
@@ -1336,7 +1336,7 @@
     </message>
     <message>
         <source>its keys are out of order</source>
-        <translation>ses clés ne sont pas dans l'ordre</translation>
+        <translation>ses clés ne sont pas dans l&apos;ordre</translation>
     </message>
     <message>
         <source>its entries do not match the records</source>
@@ -1344,10 +1344,10 @@
     </message>
     <message>
         <source>tag %s is missing or does not match its field</source>
-        <translation>l'étiquette %s est absente ou ne correspond pas à son champ</translation>
+        <translation>l&apos;étiquette %s est absente ou ne correspond pas à son champ</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
+        <source>its language driver differs from the table&apos;s</source>
         <translation>son pilote de langue diffère de celui de la table</translation>
     </message>
     <message>
@@ -1360,23 +1360,23 @@
     </message>
     <message>
         <source>No validator %s is stored</source>
-        <translation>Aucun monnayeur %s n'est enregistré</translation>
+        <translation>Aucun monnayeur %s n&apos;est enregistré</translation>
     </message>
     <message>
         <source>The settings could not be read; the defaults are used until a setting is changed.</source>
-        <translation>Les paramètres n'ont pas pu être lus ; les valeurs par défaut sont utilisées jusqu'à la modification d'un paramètre.</translation>
+        <translation>Les paramètres n&apos;ont pas pu être lus ; les valeurs par défaut sont utilisées jusqu&apos;à la modification d&apos;un paramètre.</translation>
     </message>
     <message>
         <source>The file %s could not be read.</source>
-        <translation>Le fichier %s n'a pas pu être lu.</translation>
+        <translation>Le fichier %s n&apos;a pas pu être lu.</translation>
     </message>
     <message>
         <source>The sheet could not be written to %s: %s. Nothing else was changed.</source>
-        <translation>La fiche n'a pas pu être écrite dans %s : %s. Rien d'autre n'a été modifié.</translation>
+        <translation>La fiche n&apos;a pas pu être écrite dans %s : %s. Rien d&apos;autre n&apos;a été modifié.</translation>
     </message>
     <message>
         <source>The sheet could not be printed.</source>
-        <translation>La fiche n'a pas pu être imprimée.</translation>
+        <translation>La fiche n&apos;a pas pu être imprimée.</translation>
     </message>
     <message>
         <source>%s was changed by another program; open it again before changing it</source>
@@ -1384,7 +1384,7 @@
     </message>
     <message>
         <source>%s: waited %s s for %s holding the lock; nothing written</source>
-        <translation>%s : attente de %s s pour %s qui détient le verrou ; rien n'a été écrit</translation>
+        <translation>%s : attente de %s s pour %s qui détient le verrou ; rien n&apos;a été écrit</translation>
     </message>
     <message>
         <source>another program</source>
@@ -1400,7 +1400,7 @@
     </message>
     <message>
         <source>The backup of this read could not be written: %s</source>
-        <translation>La sauvegarde de cette lecture n'a pas pu être écrite : %s</translation>
+        <translation>La sauvegarde de cette lecture n&apos;a pas pu être écrite : %s</translation>
     </message>
     <message>
         <source>The tables of the data directory are not open.</source>
@@ -1408,7 +1408,7 @@
     </message>
     <message>
         <source>The file holds a %s validator but a %s validator is connected: nothing was written.</source>
-        <translation>Le fichier contient un monnayeur %s mais un monnayeur %s est connecté : rien n'a été écrit.</translation>
+        <translation>Le fichier contient un monnayeur %s mais un monnayeur %s est connecté : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>%d Overlapping</source>
@@ -1420,11 +1420,11 @@
     </message>
     <message>
         <source>%s has no row for channels %s: they open empty.</source>
-        <translation>%s n'a pas de ligne pour les canaux %s : ils s'ouvrent vides.</translation>
+        <translation>%s n&apos;a pas de ligne pour les canaux %s : ils s&apos;ouvrent vides.</translation>
     </message>
     <message>
         <source>%s has more than one row for channels %s: the first row of each is used.</source>
-        <translation>%s a plus d'une ligne pour les canaux %s : la première de chacun est utilisée.</translation>
+        <translation>%s a plus d&apos;une ligne pour les canaux %s : la première de chacun est utilisée.</translation>
     </message>
     <message>
         <source>Delete %s and its channels from the tables?</source>
@@ -1432,11 +1432,11 @@
     </message>
     <message>
         <source>No value table %s is stored</source>
-        <translation>Aucune table de valeurs %s n'est enregistrée</translation>
+        <translation>Aucune table de valeurs %s n&apos;est enregistrée</translation>
     </message>
     <message>
         <source>Delete record?</source>
-        <translation>Supprimer l'enregistrement ?</translation>
+        <translation>Supprimer l&apos;enregistrement ?</translation>
     </message>
     <message>
         <source>%s is truncated inside its header: none of its records can be read</source>
@@ -1456,11 +1456,11 @@
     </message>
     <message>
         <source>%s is not open: nothing can be read from it or stored in it</source>
-        <translation>%s n'est pas ouvert : rien ne peut y être lu ni enregistré</translation>
+        <translation>%s n&apos;est pas ouvert : rien ne peut y être lu ni enregistré</translation>
     </message>
     <message>
         <source>%s is sound and was left untouched</source>
-        <translation>%s est intact et n'a pas été modifié</translation>
+        <translation>%s est intact et n&apos;a pas été modifié</translation>
     </message>
     <message>
         <source>%s repaired: %s records kept, %s could not be read; the damaged files are kept in %s</source>
@@ -1472,11 +1472,11 @@
     </message>
     <message>
         <source>%s could not be repaired: %s</source>
-        <translation>%s n'a pas pu être réparé : %s</translation>
+        <translation>%s n&apos;a pas pu être réparé : %s</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s)</source>
-        <translation>L'index %s n'est pas utilisable (%s)</translation>
+        <translation>L&apos;index %s n&apos;est pas utilisable (%s)</translation>
     </message>
     <message>
         <source>Verifying...</source>
@@ -1492,7 +1492,7 @@
     </message>
     <message>
         <source>Verification failed: the validator could not be read back.</source>
-        <translation>Échec de la vérification : le monnayeur n'a pas pu être relu.</translation>
+        <translation>Échec de la vérification : le monnayeur n&apos;a pas pu être relu.</translation>
     </message>
     <message>
         <source>... and %d more.</source>
@@ -1500,35 +1500,35 @@
     </message>
     <message>
         <source>No space left on the disk: nothing was written</source>
-        <translation>Plus de place sur le disque : rien n'a été écrit</translation>
+        <translation>Plus de place sur le disque : rien n&apos;a été écrit</translation>
     </message>
     <message>
         <source>The disk quota is used up: nothing was written</source>
-        <translation>Le quota du disque est épuisé : rien n'a été écrit</translation>
+        <translation>Le quota du disque est épuisé : rien n&apos;a été écrit</translation>
     </message>
     <message>
         <source>The disk is read-only: nothing was written</source>
-        <translation>Le disque est en lecture seule : rien n'a été écrit</translation>
+        <translation>Le disque est en lecture seule : rien n&apos;a été écrit</translation>
     </message>
     <message>
         <source>Writing in this folder is not allowed: nothing was written</source>
-        <translation>L'écriture dans ce dossier n'est pas autorisée : rien n'a été écrit</translation>
+        <translation>L&apos;écriture dans ce dossier n&apos;est pas autorisée : rien n&apos;a été écrit</translation>
     </message>
     <message>
         <source>The folder does not exist: nothing was written</source>
-        <translation>Le dossier n'existe pas : rien n'a été écrit</translation>
+        <translation>Le dossier n&apos;existe pas : rien n&apos;a été écrit</translation>
     </message>
     <message>
         <source>The disk reported an error (%s): nothing was written</source>
-        <translation>Le disque a signalé une erreur (%s) : rien n'a été écrit</translation>
+        <translation>Le disque a signalé une erreur (%s) : rien n&apos;a été écrit</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
-        <translation>« %s » ne peut pas être enregistré dans %s : sa page de codes n'a pas %s. Rien n'a été écrit.</translation>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <translation>« %s » ne peut pas être enregistré dans %s : sa page de codes n&apos;a pas %s. Rien n&apos;a été écrit.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
-        <translation>« %s » est trop long pour %s : il contient au plus %s caractères. Rien n'a été écrit.</translation>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <translation>« %s » est trop long pour %s : il contient au plus %s caractères. Rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>%s counts %s records in its header, but its index and its length prove %s</source>
@@ -1536,31 +1536,31 @@
     </message>
     <message>
         <source>the rebuilt table could not be read back as written</source>
-        <translation>la table reconstruite n'a pas pu être relue telle qu'elle a été écrite</translation>
+        <translation>la table reconstruite n&apos;a pas pu être relue telle qu&apos;elle a été écrite</translation>
     </message>
     <message>
         <source>The settings file %s could not be read; it has been kept as %s. The defaults are used, with the tables in %s.</source>
-        <translation>Le fichier de paramètres %s n'a pas pu être lu ; il a été conservé sous %s. Les valeurs par défaut sont utilisées, avec les tables dans %s.</translation>
+        <translation>Le fichier de paramètres %s n&apos;a pas pu être lu ; il a été conservé sous %s. Les valeurs par défaut sont utilisées, avec les tables dans %s.</translation>
     </message>
     <message>
         <source>The settings file %s could not be read. The defaults are used, with the tables in %s.</source>
-        <translation>Le fichier de paramètres %s n'a pas pu être lu. Les valeurs par défaut sont utilisées, avec les tables dans %s.</translation>
+        <translation>Le fichier de paramètres %s n&apos;a pas pu être lu. Les valeurs par défaut sont utilisées, avec les tables dans %s.</translation>
     </message>
     <message>
         <source>No coin profile %s is stored</source>
-        <translation>Aucun profil de pièce %s n'est enregistré</translation>
+        <translation>Aucun profil de pièce %s n&apos;est enregistré</translation>
     </message>
     <message>
         <source>An amount cannot be negative: %s was not stored.</source>
-        <translation>Un montant ne peut pas être négatif : %s n'a pas été enregistré.</translation>
+        <translation>Un montant ne peut pas être négatif : %s n&apos;a pas été enregistré.</translation>
     </message>
     <message>
         <source>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</source>
-        <translation>Le monnayeur contient maintenant une configuration partiellement écrite (écrit : %s) ; rien de ce qui a déjà été écrit n'a été annulé. Écrivez-la de nouveau avant utilisation.</translation>
+        <translation>Le monnayeur contient maintenant une configuration partiellement écrite (écrit : %s) ; rien de ce qui a déjà été écrit n&apos;a été annulé. Écrivez-la de nouveau avant utilisation.</translation>
     </message>
     <message>
         <source>Nothing was written: the validator holds what it held before.</source>
-        <translation>Rien n'a été écrit : le monnayeur contient ce qu'il contenait avant.</translation>
+        <translation>Rien n&apos;a été écrit : le monnayeur contient ce qu&apos;il contenait avant.</translation>
     </message>
     <message>
         <source>The validator refused: %s.</source>
@@ -1568,11 +1568,11 @@
     </message>
     <message>
         <source>No answer came after sending %s: the validator may or may not hold it.</source>
-        <translation>Aucune réponse après l'envoi de %s : le monnayeur le contient peut-être, ou non.</translation>
+        <translation>Aucune réponse après l&apos;envoi de %s : le monnayeur le contient peut-être, ou non.</translation>
     </message>
     <message>
         <source>Channel %d was not saved into the validator.</source>
-        <translation>Le canal %d n'a pas été enregistré dans le monnayeur.</translation>
+        <translation>Le canal %d n&apos;a pas été enregistré dans le monnayeur.</translation>
     </message>
     <message>
         <source>Channel %d of the validator now holds %s.</source>
@@ -1580,11 +1580,11 @@
     </message>
     <message>
         <source>%s is empty: it is not a firmware file. Nothing was sent.</source>
-        <translation>%s est vide : ce n'est pas un fichier firmware. Rien n'a été envoyé.</translation>
+        <translation>%s est vide : ce n&apos;est pas un fichier firmware. Rien n&apos;a été envoyé.</translation>
     </message>
     <message>
         <source>%s is not a Motorola S-record firmware file: line %d %s. Nothing was sent.</source>
-        <translation>%s n'est pas un fichier firmware Motorola S-record : la ligne %d %s. Rien n'a été envoyé.</translation>
+        <translation>%s n&apos;est pas un fichier firmware Motorola S-record : la ligne %d %s. Rien n&apos;a été envoyé.</translation>
     </message>
     <message>
         <source>does not begin with S0 to S9</source>
@@ -1592,11 +1592,11 @@
     </message>
     <message>
         <source>holds a character that is not a hexadecimal digit</source>
-        <translation>contient un caractère qui n'est pas un chiffre hexadécimal</translation>
+        <translation>contient un caractère qui n&apos;est pas un chiffre hexadécimal</translation>
     </message>
     <message>
         <source>has a byte count that does not match its length</source>
-        <translation>a un nombre d'octets qui ne correspond pas à sa longueur</translation>
+        <translation>a un nombre d&apos;octets qui ne correspond pas à sa longueur</translation>
     </message>
     <message>
         <source>has a wrong checksum</source>
@@ -1604,15 +1604,15 @@
     </message>
     <message>
         <source>The mini-programmer must be in its upgrade mode before the file is sent. Send %s now?</source>
-        <translation>Le mini-programmateur doit être en mode mise à jour avant l'envoi du fichier. Envoyer %s maintenant ?</translation>
+        <translation>Le mini-programmateur doit être en mode mise à jour avant l&apos;envoi du fichier. Envoyer %s maintenant ?</translation>
     </message>
     <message>
         <source>%s holds %d bytes: sent byte by byte at 9600 baud, it takes hours. Send it all the same?</source>
-        <translation>%s contient %d octets : envoyé octet par octet à 9600 bauds, cela prend des heures. L'envoyer quand même ?</translation>
+        <translation>%s contient %d octets : envoyé octet par octet à 9600 bauds, cela prend des heures. L&apos;envoyer quand même ?</translation>
     </message>
     <message>
         <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
-        <translation>Le port a été perdu pendant le transfert : %d octets sur %d ont quitté le port : la mise à jour n'est pas complète.</translation>
+        <translation>Le port a été perdu pendant le transfert : %d octets sur %d ont quitté le port : la mise à jour n&apos;est pas complète.</translation>
     </message>
     <message>
         <source>%s is locked by %s: waiting at most %s s</source>
@@ -1620,11 +1620,11 @@
     </message>
     <message>
         <source>%s: waited %s s for %s holding the lock; nothing read</source>
-        <translation>%s : %s s d'attente de %s qui détient le verrou ; rien n'a été lu</translation>
+        <translation>%s : %s s d&apos;attente de %s qui détient le verrou ; rien n&apos;a été lu</translation>
     </message>
     <message>
         <source>%s is not a file (a folder, a pipe or a device): it is not opened</source>
-        <translation>%s n'est pas un fichier (un dossier, un tube ou un périphérique) : il n'est pas ouvert</translation>
+        <translation>%s n&apos;est pas un fichier (un dossier, un tube ou un périphérique) : il n&apos;est pas ouvert</translation>
     </message>
     <message>
         <source>The data directory %s cannot be read: %s</source>
@@ -1632,19 +1632,19 @@
     </message>
     <message>
         <source>%s holds %s channel rows of no stored validator: %s</source>
-        <translation>%s contient %s lignes de canaux d'aucun monnayeur enregistré : %s</translation>
+        <translation>%s contient %s lignes de canaux d&apos;aucun monnayeur enregistré : %s</translation>
     </message>
     <message>
         <source>%s holds validators without channel rows: %s; they are kept and open with every channel empty</source>
-        <translation>%s contient des monnayeurs sans lignes de canaux : %s ; ils sont conservés et s'ouvrent avec tous les canaux vides</translation>
+        <translation>%s contient des monnayeurs sans lignes de canaux : %s ; ils sont conservés et s&apos;ouvrent avec tous les canaux vides</translation>
     </message>
     <message>
         <source>%s: %s channel rows of no stored validator removed (copies in %s)</source>
-        <translation>%s : %s lignes de canaux d'aucun monnayeur enregistré supprimées (copies dans %s)</translation>
+        <translation>%s : %s lignes de canaux d&apos;aucun monnayeur enregistré supprimées (copies dans %s)</translation>
     </message>
     <message>
         <source>Coin ignored: choose a channel first</source>
-        <translation>Pièce ignorée : choisissez d'abord un canal</translation>
+        <translation>Pièce ignorée : choisissez d&apos;abord un canal</translation>
     </message>
     <message>
         <source>Matched: %s</source>
@@ -1655,24 +1655,24 @@
         <translation>Chevauchement avec %s</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
-        <translation>La configuration propre du monnayeur n'a pas pu être lue avant le clonage : rien n'a été cloné.</translation>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
+        <translation>La configuration propre du monnayeur n&apos;a pas pu être lue avant le clonage : rien n&apos;a été cloné.</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
-        <translation>La configuration propre du monnayeur n'a pas pu être conservée avant le clonage : %s. Cloner quand même ?</translation>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <translation>La configuration propre du monnayeur n&apos;a pas pu être conservée avant le clonage : %s. Cloner quand même ?</translation>
     </message>
     <message>
-        <source>The validator's own configuration was kept in %s.</source>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
         <translation>La configuration propre du monnayeur a été conservée dans %s.</translation>
     </message>
     <message>
-        <source>Windows corrected for this validator's sensors: %s.</source>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
         <translation>Fenêtres corrigées pour les capteurs de ce monnayeur : %s.</translation>
     </message>
     <message>
         <source>Windows copied as they are: the source or this validator has no reference channel to correct them by.</source>
-        <translation>Fenêtres copiées telles quelles : la source ou ce monnayeur n'a pas de canal de référence pour les corriger.</translation>
+        <translation>Fenêtres copiées telles quelles : la source ou ce monnayeur n&apos;a pas de canal de référence pour les corriger.</translation>
     </message>
     <message>
         <source>Verifying... do not unplug the validator</source>
@@ -1680,37 +1680,37 @@
     </message>
     <message>
         <source>The validator does not have %d changes this editor holds (see Changes). Store in the tables all the same?</source>
-        <translation>Le monnayeur n'a pas %d modifications que cet éditeur contient (voir Modifications). Enregistrer dans les tables quand même ?</translation>
+        <translation>Le monnayeur n&apos;a pas %d modifications que cet éditeur contient (voir Modifications). Enregistrer dans les tables quand même ?</translation>
     </message>
     <message>
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
-        <translation>Le monnayeur n'a pas %d modifications que cet éditeur contient (voir Modifications) ; l'ouverture les remplace dans l'éditeur. Ouvrir quand même ?</translation>
+        <translation>Le monnayeur n&apos;a pas %d modifications que cet éditeur contient (voir Modifications) ; l&apos;ouverture les remplace dans l&apos;éditeur. Ouvrir quand même ?</translation>
     </message>
     <message>
         <source>What the validator holds is the configuration of a %s validator with %s channels, the one to write is of a %s validator with %s channels: nothing was written.</source>
-        <translation>Le monnayeur contient la configuration d'un monnayeur %s à %s canaux, celle à écrire est d'un monnayeur %s à %s canaux : rien n'a été écrit.</translation>
+        <translation>Le monnayeur contient la configuration d&apos;un monnayeur %s à %s canaux, celle à écrire est d&apos;un monnayeur %s à %s canaux : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>This validator (serial %s) is not the one read (serial %s): nothing was written.</source>
-        <translation>Ce monnayeur (numéro de série %s) n'est pas celui qui a été lu (numéro de série %s) : rien n'a été écrit.</translation>
+        <translation>Ce monnayeur (numéro de série %s) n&apos;est pas celui qui a été lu (numéro de série %s) : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>This validator (serial %s) has %s firmware, the one read (serial %s) had %s: nothing was written.</source>
-        <translation>Ce monnayeur (numéro de série %s) a un micrologiciel %s, celui qui a été lu (numéro de série %s) avait %s : rien n'a été écrit.</translation>
+        <translation>Ce monnayeur (numéro de série %s) a un micrologiciel %s, celui qui a été lu (numéro de série %s) avait %s : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Validator %s was programmed (%s) after what it holds was read: it was written elsewhere since. Read it again; nothing was written.</source>
-        <translation>Le monnayeur %s a été programmé (%s) après la lecture de son contenu : il a été écrit ailleurs depuis. Relisez-le ; rien n'a été écrit.</translation>
+        <translation>Le monnayeur %s a été programmé (%s) après la lecture de son contenu : il a été écrit ailleurs depuis. Relisez-le ; rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>The validator already holds this configuration: nothing was written.</source>
-        <translation>Le monnayeur contient déjà cette configuration : rien n'a été écrit.</translation>
+        <translation>Le monnayeur contient déjà cette configuration : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
-        <translation>Le contenu du monnayeur %s n'est pas connu (il n'a pas été lu ici) : seule la configuration entière peut être écrite.</translation>
+        <translation>Le contenu du monnayeur %s n&apos;est pas connu (il n&apos;a pas été lu ici) : seule la configuration entière peut être écrite.</translation>
     </message>
-<message>
+    <message>
         <source>Plug the next validator</source>
         <translation>Branchez le monnayeur suivant</translation>
     </message>
@@ -1744,7 +1744,7 @@
     </message>
     <message>
         <source>%s is of another family: unplug it</source>
-        <translation>%s est d'une autre famille : débranchez-le</translation>
+        <translation>%s est d&apos;une autre famille : débranchez-le</translation>
     </message>
     <message>
         <source>Batch finished: %d verified, %d failed, %d skipped.</source>
@@ -1752,11 +1752,11 @@
     </message>
     <message>
         <source>No validator was plugged for %d s: the batch stopped.</source>
-        <translation>Aucun monnayeur branché depuis %d s : la série s'est arrêtée.</translation>
+        <translation>Aucun monnayeur branché depuis %d s : la série s&apos;est arrêtée.</translation>
     </message>
     <message>
         <source>The batch log could not be written (%s): the batch stopped.</source>
-        <translation>Le journal de la série n'a pas pu être écrit (%s) : la série s'est arrêtée.</translation>
+        <translation>Le journal de la série n&apos;a pas pu être écrit (%s) : la série s&apos;est arrêtée.</translation>
     </message>
     <message>
         <source>Already verified in this batch at %s: not written again.</source>
@@ -1764,31 +1764,31 @@
     </message>
     <message>
         <source>A %s validator, the configuration is for %s: nothing was written.</source>
-        <translation>Un monnayeur %s, la configuration est pour %s : rien n'a été écrit.</translation>
+        <translation>Un monnayeur %s, la configuration est pour %s : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Its own configuration could not be read: nothing was written.</source>
-        <translation>Sa propre configuration n'a pas pu être lue : rien n'a été écrit.</translation>
+        <translation>Sa propre configuration n&apos;a pas pu être lue : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Its own configuration could not be kept (%s): nothing was written.</source>
-        <translation>Sa propre configuration n'a pas pu être conservée (%s) : rien n'a été écrit.</translation>
+        <translation>Sa propre configuration n&apos;a pas pu être conservée (%s) : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>It no longer answered before the write: nothing was written.</source>
-        <translation>Il ne répondait plus avant l'écriture : rien n'a été écrit.</translation>
+        <translation>Il ne répondait plus avant l&apos;écriture : rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Written, but it could not be read back to verify it.</source>
-        <translation>Écrit, mais il n'a pas pu être relu pour le vérifier.</translation>
+        <translation>Écrit, mais il n&apos;a pas pu être relu pour le vérifier.</translation>
     </message>
     <message>
         <source>No validator is stored as %s.</source>
-        <translation>Aucun monnayeur n'est enregistré sous %s.</translation>
+        <translation>Aucun monnayeur n&apos;est enregistré sous %s.</translation>
     </message>
     <message>
         <source>Choose at least one group to write, or the full write.</source>
-        <translation>Choisissez au moins un groupe à écrire, ou l'écriture complète.</translation>
+        <translation>Choisissez au moins un groupe à écrire, ou l&apos;écriture complète.</translation>
     </message>
     <message>
         <source>How many validators: a number from 0 to 9999.</source>
@@ -1800,15 +1800,15 @@
     </message>
     <message>
         <source>The configuration sheet could not be written: %s</source>
-        <translation>La fiche de configuration n'a pas pu être écrite : %s</translation>
+        <translation>La fiche de configuration n&apos;a pas pu être écrite : %s</translation>
     </message>
-<message>
+    <message>
         <source>The history could not be kept: %s</source>
-        <translation>L'historique n'a pas pu être conservé : %s</translation>
+        <translation>L&apos;historique n&apos;a pas pu être conservé : %s</translation>
     </message>
     <message>
         <source>No history is known for the serial number %s</source>
-        <translation>Aucun historique n'est connu pour le numéro de série %s</translation>
+        <translation>Aucun historique n&apos;est connu pour le numéro de série %s</translation>
     </message>
     <message>
         <source>This event holds no configuration to put back</source>
@@ -1826,19 +1826,19 @@
     </message>
     <message>
         <source>The history could not be read: %s</source>
-        <translation>L'historique n'a pas pu être lu : %s</translation>
+        <translation>L&apos;historique n&apos;a pas pu être lu : %s</translation>
     </message>
     <message>
         <source>The validator connected has the serial number %s, not %s: nothing was written</source>
-        <translation>Le monnayeur connecté a le numéro de série %s, pas %s : rien n'a été écrit</translation>
+        <translation>Le monnayeur connecté a le numéro de série %s, pas %s : rien n&apos;a été écrit</translation>
     </message>
     <message>
         <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
-        <translation>Aucun historique ne mentionne le monnayeur enregistré sous %s : son historique est connu une fois qu'il est enregistré après une lecture ou une écriture</translation>
+        <translation>Aucun historique ne mentionne le monnayeur enregistré sous %s : son historique est connu une fois qu&apos;il est enregistré après une lecture ou une écriture</translation>
     </message>
-<message>
+    <message>
         <source>The server %s cannot be reached: nothing was stored.</source>
-        <translation>Le serveur %s est injoignable : rien n'a été enregistré.</translation>
+        <translation>Le serveur %s est injoignable : rien n&apos;a été enregistré.</translation>
     </message>
     <message>
         <source>The server %s cannot be reached.</source>
@@ -1850,7 +1850,7 @@
     </message>
     <message>
         <source>The password is not kept in the settings: put it in ~/.pgpass or PGPASSWORD.</source>
-        <translation>Le mot de passe n'est pas conservé dans les paramètres : placez-le dans ~/.pgpass ou PGPASSWORD.</translation>
+        <translation>Le mot de passe n&apos;est pas conservé dans les paramètres : placez-le dans ~/.pgpass ou PGPASSWORD.</translation>
     </message>
 </context>
 <context>
@@ -1933,11 +1933,11 @@
     </message>
     <message>
         <source>Adapter bursts every (ms) :</source>
-        <translation>Paquets de l'adaptateur toutes les (ms) :</translation>
+        <translation>Paquets de l&apos;adaptateur toutes les (ms) :</translation>
     </message>
     <message>
         <source>Pause in replies after byte, for (ms) :</source>
-        <translation>Pause dans les réponses après l'octet, pendant (ms) :</translation>
+        <translation>Pause dans les réponses après l&apos;octet, pendant (ms) :</translation>
     </message>
     <message>
         <source>Random seed :</source>
@@ -1955,7 +1955,7 @@
         <source>Pause in replies (ms)</source>
         <translation>Pause dans les réponses (ms)</translation>
     </message>
-<message>
+    <message>
         <source>Unplug</source>
         <translation>Débrancher</translation>
     </message>
@@ -1996,7 +1996,7 @@
     </message>
     <message>
         <source>Enable table :</source>
-        <translation>Table d'activation :</translation>
+        <translation>Table d&apos;activation :</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -2142,14 +2142,14 @@
     </message>
     <message>
         <source>Reads the validator back after each write and lists what it does not hold</source>
-        <translation>Relit le monnayeur après chaque écriture et liste ce qu'il ne contient pas</translation>
+        <translation>Relit le monnayeur après chaque écriture et liste ce qu&apos;il ne contient pas</translation>
     </message>
     <message>
         <source>Port &amp;time-out...</source>
         <translation>&amp;Délai du port...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
         <translation>Combien de temps attendre le premier octet du monnayeur : augmentez-le pour les adaptateurs série Bluetooth ou radio</translation>
     </message>
     <message>
@@ -2157,8 +2157,8 @@
         <translation>Délai du port</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
-        <translation>Attente de l'écho du nombre ou du premier octet d'une réponse, en millisecondes (%1 par défaut) :</translation>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
+        <translation>Attente de l&apos;écho du nombre ou du premier octet d&apos;une réponse, en millisecondes (%1 par défaut) :</translation>
     </message>
     <message>
         <source>&amp;Back up before cloning</source>
@@ -2166,17 +2166,17 @@
     </message>
     <message>
         <source>Reads the validator a clone writes to and keeps its own configuration among the backups first</source>
-        <translation>Lit le monnayeur sur lequel un clonage écrit et conserve d'abord sa propre configuration parmi les sauvegardes</translation>
+        <translation>Lit le monnayeur sur lequel un clonage écrit et conserve d&apos;abord sa propre configuration parmi les sauvegardes</translation>
     </message>
     <message>
-        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel's change to the validator at once and checks it</source>
-        <translation>Uniquement pour l'étalonnage : quitter une case de fenêtre, de valeur, de substitut ou d'activation d'un canal écrit aussitôt la modification de ce canal dans le monnayeur et la vérifie</translation>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
+        <translation>Uniquement pour l&apos;étalonnage : quitter une case de fenêtre, de valeur, de substitut ou d&apos;activation d&apos;un canal écrit aussitôt la modification de ce canal dans le monnayeur et la vérifie</translation>
     </message>
-<message>
+    <message>
         <source>Only for calibration</source>
-        <translation>Uniquement pour l'étalonnage</translation>
+        <translation>Uniquement pour l&apos;étalonnage</translation>
     </message>
-    </context>
+</context>
 <context>
     <name>TFormProfilC</name>
     <message>
@@ -2321,7 +2321,7 @@
     </message>
     <message>
         <source>Delete record</source>
-        <translation>Supprimer l'enregistrement</translation>
+        <translation>Supprimer l&apos;enregistrement</translation>
     </message>
 </context>
 <context>
@@ -2649,7 +2649,7 @@
     </message>
     <message>
         <source>Delete record</source>
-        <translation>Supprimer l'enregistrement</translation>
+        <translation>Supprimer l&apos;enregistrement</translation>
     </message>
 </context>
 <context>

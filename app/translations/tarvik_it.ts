@@ -592,8 +592,8 @@
         <translation>disabilitato</translation>
     </message>
     <message>
-        <source>Option '%s'</source>
-        <translation>Opzione '%s'</translation>
+        <source>Option &apos;%s&apos;</source>
+        <translation>Opzione &apos;%s&apos;</translation>
     </message>
     <message>
         <source>Channels data</source>
@@ -669,7 +669,7 @@
     </message>
     <message>
         <source>No changes since the configuration was last read, opened or written.</source>
-        <translation>Nessuna modifica dall'ultima lettura, apertura o scrittura della configurazione.</translation>
+        <translation>Nessuna modifica dall&apos;ultima lettura, apertura o scrittura della configurazione.</translation>
     </message>
     <message>
         <source>Channel windows</source>
@@ -684,7 +684,7 @@
         <translation>rifiutato dalla gettoniera</translation>
     </message>
     <message>
-        <source>Validator's own block</source>
+        <source>Validator&apos;s own block</source>
         <translation>Blocco proprio della gettoniera</translation>
     </message>
     <message>
@@ -749,7 +749,7 @@
     </message>
     <message>
         <source>In tens, from 0 to 2540 (a last digit is dropped); empty: not set</source>
-        <translation>A decine, da 0 a 2540 (l'ultima cifra viene scartata); vuoto: non impostato</translation>
+        <translation>A decine, da 0 a 2540 (l&apos;ultima cifra viene scartata); vuoto: non impostato</translation>
     </message>
     <message>
         <source>Milliseconds in steps of 10, at most 630; empty: not set</source>
@@ -765,15 +765,15 @@
     </message>
     <message>
         <source>Since opened from %s (the validator was not read)</source>
-        <translation>Dall'apertura di %s (la gettoniera non è stata letta)</translation>
+        <translation>Dall&apos;apertura di %s (la gettoniera non è stata letta)</translation>
     </message>
     <message>
         <source>Since opened from file %s (the validator was not read)</source>
-        <translation>Dall'apertura del file %s (la gettoniera non è stata letta)</translation>
+        <translation>Dall&apos;apertura del file %s (la gettoniera non è stata letta)</translation>
     </message>
     <message>
         <source>Since the editor opened (the validator was not read)</source>
-        <translation>Dall'apertura dell'editor (la gettoniera non è stata letta)</translation>
+        <translation>Dall&apos;apertura dell&apos;editor (la gettoniera non è stata letta)</translation>
     </message>
     <message>
         <source>Write again</source>
@@ -781,7 +781,7 @@
     </message>
     <message>
         <source>Put back as it was</source>
-        <translation>Ripristina com'era</translation>
+        <translation>Ripristina com&apos;era</translation>
     </message>
     <message>
         <source>Go on</source>
@@ -795,7 +795,7 @@
         <source>Write changes</source>
         <translation>Scrivi le modifiche</translation>
     </message>
-<message>
+    <message>
         <source>Batch...</source>
         <translation>Serie...</translation>
     </message>
@@ -808,8 +808,8 @@
         <translation>Origine</translation>
     </message>
     <message>
-        <source>The editor's configuration</source>
-        <translation>La configurazione dell'editor</translation>
+        <source>The editor&apos;s configuration</source>
+        <translation>La configurazione dell&apos;editor</translation>
     </message>
     <message>
         <source>A configuration file</source>
@@ -911,7 +911,7 @@
         <source>Validators done</source>
         <translation>Gettoniere trattate</translation>
     </message>
-<message>
+    <message>
         <source>History of validator %d</source>
         <translation>Storico della gettoniera %d</translation>
     </message>
@@ -985,11 +985,11 @@
     </message>
     <message>
         <source>Changes of event %d since the one before</source>
-        <translation>Modifiche dell'evento %d rispetto al precedente</translation>
+        <translation>Modifiche dell&apos;evento %d rispetto al precedente</translation>
     </message>
     <message>
         <source>From event %d to event %d</source>
-        <translation>Dall'evento %d all'evento %d</translation>
+        <translation>Dall&apos;evento %d all&apos;evento %d</translation>
     </message>
     <message>
         <source>No event is kept for this validator</source>
@@ -999,7 +999,7 @@
         <source>History...</source>
         <translation>Storico...</translation>
     </message>
-<message>
+    <message>
         <source>Data source...</source>
         <translation>Origine dei dati...</translation>
     </message>
@@ -1047,12 +1047,12 @@
         <translation>Errore di lettura dalla gettoniera</translation>
     </message>
     <message>
-        <source>Comunication Port COM%d isn't free or Setting error.</source>
+        <source>Comunication Port COM%d isn&apos;t free or Setting error.</source>
         <translation>La porta di comunicazione COM%d non è libera o è impostata in modo errato.</translation>
     </message>
     <message>
         <source>This user may not open the serial port. Add the user to the dialout group (sudo usermod -aG dialout $USER), then log out and log in again.</source>
-        <translation>Questo utente non ha il permesso di aprire la porta seriale. Aggiungere l'utente al gruppo dialout (sudo usermod -aG dialout $USER), poi chiudere la sessione e accedere di nuovo.</translation>
+        <translation>Questo utente non ha il permesso di aprire la porta seriale. Aggiungere l&apos;utente al gruppo dialout (sudo usermod -aG dialout $USER), poi chiudere la sessione e accedere di nuovo.</translation>
     </message>
     <message>
         <source>Select port !!!</source>
@@ -1115,8 +1115,8 @@
         <translation>Valore inferiore al minimo, sarà corretto.</translation>
     </message>
     <message>
-        <source>'%s' is not a valid integer value</source>
-        <translation>'%s' non è un valore intero valido</translation>
+        <source>&apos;%s&apos; is not a valid integer value</source>
+        <translation>&apos;%s&apos; non è un valore intero valido</translation>
     </message>
     <message>
         <source>Value over %d ms, it will be adjusted!</source>
@@ -1240,14 +1240,14 @@
     </message>
     <message>
         <source>Operation cancelled by operator</source>
-        <translation>Operazione annullata dall'operatore</translation>
+        <translation>Operazione annullata dall&apos;operatore</translation>
     </message>
     <message>
         <source>Updating... Please Wait !</source>
         <translation>Aggiornamento in corso... Attendere !</translation>
     </message>
     <message>
-        <source>Don't Stop or disconnect !!!</source>
+        <source>Don&apos;t Stop or disconnect !!!</source>
         <translation>Non interrompere né scollegare !!!</translation>
     </message>
     <message>
@@ -1256,7 +1256,7 @@
     </message>
     <message>
         <source>The user guide %s is not installed.</source>
-        <translation>La guida dell'utente %s non è installata.</translation>
+        <translation>La guida dell&apos;utente %s non è installata.</translation>
     </message>
     <message>
         <source>Channel %d of the validator differs from the one of this configuration: the windows may not suit this validator. Continue?</source>
@@ -1280,11 +1280,11 @@
     </message>
     <message>
         <source>%s has a damaged header: its header length, record length and field widths do not add up</source>
-        <translation>%s ha un'intestazione danneggiata: lunghezza dell'intestazione, lunghezza del record e larghezze dei campi non corrispondono</translation>
+        <translation>%s ha un&apos;intestazione danneggiata: lunghezza dell&apos;intestazione, lunghezza del record e larghezze dei campi non corrispondono</translation>
     </message>
     <message>
         <source>%s has a damaged header: field %s is not valid</source>
-        <translation>%s ha un'intestazione danneggiata: il campo %s non è valido</translation>
+        <translation>%s ha un&apos;intestazione danneggiata: il campo %s non è valido</translation>
     </message>
     <message>
         <source>%s is truncated: it holds %s of its %s records</source>
@@ -1316,11 +1316,11 @@
     </message>
     <message>
         <source>The index %s was not usable (%s) and has been rebuilt from %s</source>
-        <translation>L'indice %s non era utilizzabile (%s) ed è stato ricostruito da %s</translation>
+        <translation>L&apos;indice %s non era utilizzabile (%s) ed è stato ricostruito da %s</translation>
     </message>
     <message>
         <source>The index %s is not usable (%s) and cannot be rebuilt now</source>
-        <translation>L'indice %s non è utilizzabile (%s) e non può essere ricostruito ora</translation>
+        <translation>L&apos;indice %s non è utilizzabile (%s) e non può essere ricostruito ora</translation>
     </message>
     <message>
         <source>it is missing</source>
@@ -1347,7 +1347,7 @@
         <translation>il tag %s manca o non corrisponde al suo campo</translation>
     </message>
     <message>
-        <source>its language driver differs from the table's</source>
+        <source>its language driver differs from the table&apos;s</source>
         <translation>il suo driver di lingua differisce da quello della tabella</translation>
     </message>
     <message>
@@ -1364,7 +1364,7 @@
     </message>
     <message>
         <source>The settings could not be read; the defaults are used until a setting is changed.</source>
-        <translation>Non è stato possibile leggere le impostazioni; si usano i valori predefiniti finché non si modifica un'impostazione.</translation>
+        <translation>Non è stato possibile leggere le impostazioni; si usano i valori predefiniti finché non si modifica un&apos;impostazione.</translation>
     </message>
     <message>
         <source>The file %s could not be read.</source>
@@ -1372,7 +1372,7 @@
     </message>
     <message>
         <source>The sheet could not be written to %s: %s. Nothing else was changed.</source>
-        <translation>Non è stato possibile scrivere la scheda in %s: %s. Nient'altro è stato modificato.</translation>
+        <translation>Non è stato possibile scrivere la scheda in %s: %s. Nient&apos;altro è stato modificato.</translation>
     </message>
     <message>
         <source>The sheet could not be printed.</source>
@@ -1452,7 +1452,7 @@
     </message>
     <message>
         <source>%s. Nothing of it can be read; the file is left as it is.</source>
-        <translation>%s. Non se ne può leggere nulla; il file viene lasciato com'è.</translation>
+        <translation>%s. Non se ne può leggere nulla; il file viene lasciato com&apos;è.</translation>
     </message>
     <message>
         <source>%s is not open: nothing can be read from it or stored in it</source>
@@ -1476,7 +1476,7 @@
     </message>
     <message>
         <source>The index %s is not usable (%s)</source>
-        <translation>L'indice %s non è utilizzabile (%s)</translation>
+        <translation>L&apos;indice %s non è utilizzabile (%s)</translation>
     </message>
     <message>
         <source>Verifying...</source>
@@ -1523,11 +1523,11 @@
         <translation>Il disco ha segnalato un errore (%s): non è stato scritto nulla</translation>
     </message>
     <message>
-        <source>"%s" cannot be stored in %s: its code page has no %s. Nothing was written.</source>
+        <source>&quot;%s&quot; cannot be stored in %s: its code page has no %s. Nothing was written.</source>
         <translation>«%s» non può essere memorizzato in %s: la sua tabella codici non ha %s. Non è stato scritto nulla.</translation>
     </message>
     <message>
-        <source>"%s" is too long for %s: it holds at most %s characters. Nothing was written.</source>
+        <source>&quot;%s&quot; is too long for %s: it holds at most %s characters. Nothing was written.</source>
         <translation>«%s» è troppo lungo per %s: contiene al massimo %s caratteri. Non è stato scritto nulla.</translation>
     </message>
     <message>
@@ -1556,7 +1556,7 @@
     </message>
     <message>
         <source>The validator now holds a partly written configuration (written: %s); nothing already written was undone. Write it again before use.</source>
-        <translation>La gettoniera contiene ora una configurazione scritta in parte (scritto: %s); nulla di quanto già scritto è stato annullato. Scriverla di nuovo prima dell'uso.</translation>
+        <translation>La gettoniera contiene ora una configurazione scritta in parte (scritto: %s); nulla di quanto già scritto è stato annullato. Scriverla di nuovo prima dell&apos;uso.</translation>
     </message>
     <message>
         <source>Nothing was written: the validator holds what it held before.</source>
@@ -1568,7 +1568,7 @@
     </message>
     <message>
         <source>No answer came after sending %s: the validator may or may not hold it.</source>
-        <translation>Nessuna risposta dopo l'invio di %s: la gettoniera potrebbe contenerlo oppure no.</translation>
+        <translation>Nessuna risposta dopo l&apos;invio di %s: la gettoniera potrebbe contenerlo oppure no.</translation>
     </message>
     <message>
         <source>Channel %d was not saved into the validator.</source>
@@ -1604,7 +1604,7 @@
     </message>
     <message>
         <source>The mini-programmer must be in its upgrade mode before the file is sent. Send %s now?</source>
-        <translation>Il mini-programmatore deve essere in modalità aggiornamento prima dell'invio del file. Inviare %s ora?</translation>
+        <translation>Il mini-programmatore deve essere in modalità aggiornamento prima dell&apos;invio del file. Inviare %s ora?</translation>
     </message>
     <message>
         <source>%s holds %d bytes: sent byte by byte at 9600 baud, it takes hours. Send it all the same?</source>
@@ -1612,7 +1612,7 @@
     </message>
     <message>
         <source>The port was lost during the transfer: %d of %d bytes left the port: the upgrade is not complete.</source>
-        <translation>La porta è stata persa durante il trasferimento: %d byte su %d hanno lasciato la porta: l'aggiornamento non è completo.</translation>
+        <translation>La porta è stata persa durante il trasferimento: %d byte su %d hanno lasciato la porta: l&apos;aggiornamento non è completo.</translation>
     </message>
     <message>
         <source>%s is locked by %s: waiting at most %s s</source>
@@ -1655,19 +1655,19 @@
         <translation>Sovrapposizione con %s</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be read before cloning: nothing was cloned.</source>
+        <source>The validator&apos;s own configuration could not be read before cloning: nothing was cloned.</source>
         <translation>Non è stato possibile leggere la configurazione della gettoniera prima della clonazione: nulla è stato clonato.</translation>
     </message>
     <message>
-        <source>The validator's own configuration could not be kept before cloning: %s. Clone all the same?</source>
+        <source>The validator&apos;s own configuration could not be kept before cloning: %s. Clone all the same?</source>
         <translation>Non è stato possibile conservare la configurazione della gettoniera prima della clonazione: %s. Clonare comunque?</translation>
     </message>
     <message>
-        <source>The validator's own configuration was kept in %s.</source>
+        <source>The validator&apos;s own configuration was kept in %s.</source>
         <translation>La configurazione della gettoniera è stata conservata in %s.</translation>
     </message>
     <message>
-        <source>Windows corrected for this validator's sensors: %s.</source>
+        <source>Windows corrected for this validator&apos;s sensors: %s.</source>
         <translation>Finestre corrette per i sensori di questa gettoniera: %s.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
     </message>
     <message>
         <source>The validator does not have %d changes this editor holds (see Changes); opening replaces them in the editor. Open all the same?</source>
-        <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche); l'apertura le sostituisce nell'editor. Aprire comunque?</translation>
+        <translation>La gettoniera non ha %d modifiche presenti in questo editor (vedere Modifiche); l&apos;apertura le sostituisce nell&apos;editor. Aprire comunque?</translation>
     </message>
     <message>
         <source>What the validator holds is the configuration of a %s validator with %s channels, the one to write is of a %s validator with %s channels: nothing was written.</source>
@@ -1708,9 +1708,9 @@
     </message>
     <message>
         <source>What validator %s holds is not known (it was not read here): only the whole configuration can be written.</source>
-        <translation>Il contenuto della gettoniera %s non è noto (non è stata letta qui): si può scrivere solo l'intera configurazione.</translation>
+        <translation>Il contenuto della gettoniera %s non è noto (non è stata letta qui): si può scrivere solo l&apos;intera configurazione.</translation>
     </message>
-<message>
+    <message>
         <source>Plug the next validator</source>
         <translation>Collegare la gettoniera successiva</translation>
     </message>
@@ -1744,7 +1744,7 @@
     </message>
     <message>
         <source>%s is of another family: unplug it</source>
-        <translation>%s è di un'altra famiglia: scollegarla</translation>
+        <translation>%s è di un&apos;altra famiglia: scollegarla</translation>
     </message>
     <message>
         <source>Batch finished: %d verified, %d failed, %d skipped.</source>
@@ -1802,7 +1802,7 @@
         <source>The configuration sheet could not be written: %s</source>
         <translation>La scheda di configurazione non ha potuto essere scritta: %s</translation>
     </message>
-<message>
+    <message>
         <source>The history could not be kept: %s</source>
         <translation>Non è stato possibile conservare lo storico: %s</translation>
     </message>
@@ -1836,7 +1836,7 @@
         <source>No history notes the validator saved as %s: its history is known once it is saved after a read or a write</source>
         <translation>Nessuno storico indica la gettoniera salvata come %s: il suo storico è noto una volta salvata dopo una lettura o una scrittura</translation>
     </message>
-<message>
+    <message>
         <source>The server %s cannot be reached: nothing was stored.</source>
         <translation>Il server %s non è raggiungibile: non è stato salvato nulla.</translation>
     </message>
@@ -1933,7 +1933,7 @@
     </message>
     <message>
         <source>Adapter bursts every (ms) :</source>
-        <translation>Pacchetti dell'adattatore ogni (ms) :</translation>
+        <translation>Pacchetti dell&apos;adattatore ogni (ms) :</translation>
     </message>
     <message>
         <source>Pause in replies after byte, for (ms) :</source>
@@ -1955,7 +1955,7 @@
         <source>Pause in replies (ms)</source>
         <translation>Pausa nelle risposte (ms)</translation>
     </message>
-<message>
+    <message>
         <source>Unplug</source>
         <translation>Scollega</translation>
     </message>
@@ -2149,7 +2149,7 @@
         <translation>&amp;Timeout della porta...</translation>
     </message>
     <message>
-        <source>How long to wait for the validator's first byte: raise it for Bluetooth or radio serial adapters</source>
+        <source>How long to wait for the validator&apos;s first byte: raise it for Bluetooth or radio serial adapters</source>
         <translation>Quanto attendere il primo byte della gettoniera: aumentarlo per adattatori seriali Bluetooth o radio</translation>
     </message>
     <message>
@@ -2157,8 +2157,8 @@
         <translation>Timeout della porta</translation>
     </message>
     <message>
-        <source>Wait for a count echo or a reply's first byte, in milliseconds (%1 by default):</source>
-        <translation>Attesa dell'eco del conteggio o del primo byte di una risposta, in millisecondi (%1 predefinito):</translation>
+        <source>Wait for a count echo or a reply&apos;s first byte, in milliseconds (%1 by default):</source>
+        <translation>Attesa dell&apos;eco del conteggio o del primo byte di una risposta, in millisecondi (%1 predefinito):</translation>
     </message>
     <message>
         <source>&amp;Back up before cloning</source>
@@ -2169,14 +2169,14 @@
         <translation>Legge la gettoniera su cui scrive una clonazione e conserva prima la sua configurazione tra i backup</translation>
     </message>
     <message>
-        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel's change to the validator at once and checks it</source>
+        <source>Only for calibration: leaving a window, value, substitute or enable box of a channel writes that channel&apos;s change to the validator at once and checks it</source>
         <translation>Solo per la taratura: lasciare una casella di finestra, valore, sostituto o abilitazione di un canale scrive subito la modifica di quel canale nella gettoniera e la verifica</translation>
     </message>
-<message>
+    <message>
         <source>Only for calibration</source>
         <translation>Solo per la calibrazione</translation>
     </message>
-    </context>
+</context>
 <context>
     <name>TFormProfilC</name>
     <message>
@@ -2456,7 +2456,7 @@
     </message>
     <message>
         <source>%1: the reading of the last coin</source>
-        <translation>%1: la lettura dell'ultima moneta</translation>
+        <translation>%1: la lettura dell&apos;ultima moneta</translation>
     </message>
     <message>
         <source>%1: the width of the window (maximum - minimum)</source>
@@ -2464,19 +2464,19 @@
     </message>
     <message>
         <source>%1: the last reading minus the minimum (below 0: under the window)</source>
-        <translation>%1: l'ultima lettura meno il minimo (sotto 0: sotto la finestra)</translation>
+        <translation>%1: l&apos;ultima lettura meno il minimo (sotto 0: sotto la finestra)</translation>
     </message>
     <message>
         <source>%1: the last reading minus the maximum (above 0: over the window)</source>
-        <translation>%1: l'ultima lettura meno il massimo (sopra 0: sopra la finestra)</translation>
+        <translation>%1: l&apos;ultima lettura meno il massimo (sopra 0: sopra la finestra)</translation>
     </message>
     <message>
         <source>%1: the last reading, and the window as a band</source>
-        <translation>%1: l'ultima lettura, e la finestra come banda</translation>
+        <translation>%1: l&apos;ultima lettura, e la finestra come banda</translation>
     </message>
     <message>
         <source>The first stored channel whose windows hold the last coin</source>
-        <translation>Il primo canale memorizzato le cui finestre contengono l'ultima moneta</translation>
+        <translation>Il primo canale memorizzato le cui finestre contengono l&apos;ultima moneta</translation>
     </message>
     <message>
         <source>Coins counted for the chosen channel</source>
