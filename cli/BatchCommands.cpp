@@ -71,30 +71,6 @@ struct BatchArguments
     int idleSeconds = 0;
 };
 
-bool parseGroups(const QString &list, CloneGroups &groups, QString &error)
-{
-    groups = CloneGroups{false, false, false, false, false};
-    for (const QString &name : list.split(u',', Qt::SkipEmptyParts)) {
-        if (name == QLatin1String("channels"))
-            groups.channels = true;
-        else if (name == QLatin1String("values"))
-            groups.values = true;
-        else if (name == QLatin1String("prices"))
-            groups.prices = true;
-        else if (name == QLatin1String("config"))
-            groups.config = true;
-        else if (name == QLatin1String("enable"))
-            groups.enable = true;
-        else {
-            error = QStringLiteral("unknown group ") + name;
-            return false;
-        }
-    }
-    if (!groups.any())
-        error = QStringLiteral("choose at least one group");
-    return groups.any();
-}
-
 bool parse(const QStringList &args, BatchArguments &a, QString &error)
 {
     auto number = [&](int i, int max, int &out) {
@@ -108,7 +84,7 @@ bool parse(const QStringList &args, BatchArguments &a, QString &error)
         const QString &arg = args[i];
         const bool hasValue = i + 1 < args.size();
         if (arg == QLatin1String("--groups") && hasValue) {
-            if (!parseGroups(args[++i], a.settings.groups, error))
+            if (!parseCloneGroups(args[++i], a.settings.groups, error))
                 return false;
             a.groupsGiven = true;
         } else if (arg == QLatin1String("--full")) {

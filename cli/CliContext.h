@@ -136,6 +136,10 @@ enum class WriteOutcome;
 // did not give the validator everything: exit 1, with or without the read-back.
 int afterWrite(CliContext &cli, TMonnayeur &link, WriteOutcome outcome, bool verify,
                const SentBlocks &sent, const WrittenState &written, bool keep = true);
+struct CloneGroups;
+// The clone's groups from a comma list of channels, values, prices, config and enable; false with
+// the reason for an unknown name or none at all.
+bool parseCloneGroups(const QString &list, CloneGroups &groups, QString &error);
 // One difference as diff --json gives it.
 class QJsonObject;
 struct ConfigChange;

@@ -58,6 +58,30 @@ int verifyCommandWrite(CliContext &cli, TMonnayeur &link, const SentBlocks &sent
 
 } // namespace
 
+bool parseCloneGroups(const QString &list, CloneGroups &groups, QString &error)
+{
+    groups = CloneGroups{false, false, false, false, false};
+    for (const QString &name : list.split(u',', Qt::SkipEmptyParts)) {
+        if (name == QLatin1String("channels"))
+            groups.channels = true;
+        else if (name == QLatin1String("values"))
+            groups.values = true;
+        else if (name == QLatin1String("prices"))
+            groups.prices = true;
+        else if (name == QLatin1String("config"))
+            groups.config = true;
+        else if (name == QLatin1String("enable"))
+            groups.enable = true;
+        else {
+            error = QStringLiteral("unknown group ") + name;
+            return false;
+        }
+    }
+    if (!groups.any())
+        error = QStringLiteral("choose at least one group");
+    return groups.any();
+}
+
 int afterWrite(CliContext &cli, TMonnayeur &link, WriteOutcome outcome, bool verify,
                const SentBlocks &sent, const WrittenState &written, bool keep)
 {
@@ -263,26 +287,9 @@ int cloneCommand(CliContext &cli, const QStringList &args)
         } else if (args[i] == QLatin1String("--no-backup")) {
             backup = false;
         } else if (args[i] == QLatin1String("--groups") && i + 1 < args.size()) {
-            groups = CloneGroups{false, false, false, false, false};
-            const QStringList names = args[++i].split(u',', Qt::SkipEmptyParts);
-            for (const QString &name : names) {
-                if (name == QLatin1String("channels"))
-                    groups.channels = true;
-                else if (name == QLatin1String("values"))
-                    groups.values = true;
-                else if (name == QLatin1String("prices"))
-                    groups.prices = true;
-                else if (name == QLatin1String("config"))
-                    groups.config = true;
-                else if (name == QLatin1String("enable"))
-                    groups.enable = true;
-                else {
-                    cli.err() << "tarvik-cli: unknown group " << name << Qt::endl;
-                    return kExitUsage;
-                }
-            }
-            if (!groups.any()) {
-                cli.err() << "tarvik-cli: choose at least one group" << Qt::endl;
+            QString error;
+            if (!parseCloneGroups(args[++i], groups, error)) {
+                cli.err() << "tarvik-cli: " << error << Qt::endl;
                 return kExitUsage;
             }
         } else if (file.isEmpty() && !args[i].startsWith(u'-')) {

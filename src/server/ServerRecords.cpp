@@ -5,6 +5,7 @@
 #include "ServerSchema.h"
 #include "UserPrompt.h"
 
+#include <QSqlError>
 #include <QSqlQuery>
 #include <cmath>
 
@@ -54,6 +55,8 @@ QString placeholders(int n)
 }
 
 // INSERT ... ON CONFLICT (key) DO UPDATE: a replaced row keeps its place.
+// Inserts the row of key, or replaces it; every write takes the next revision number, by which
+// another bench sees that the row changed since it was shown.
 QString upsert(const QString &table, const QString &key, const QStringList &columns)
 {
     QStringList updates;
@@ -61,7 +64,9 @@ QString upsert(const QString &table, const QString &key, const QStringList &colu
         if (c != key)
             updates.append(c + QStringLiteral(" = EXCLUDED.") + c);
     }
-    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3) ON CONFLICT (%4) DO UPDATE SET %5")
+    updates.append(QStringLiteral("revision = EXCLUDED.revision"));
+    return QStringLiteral("INSERT INTO %1 (%2,revision) VALUES (%3,nextval('tarvik_revision')) "
+                          "ON CONFLICT (%4) DO UPDATE SET %5")
         .arg(table, columns.join(u','), placeholders(int(columns.size())), key, updates.join(u','));
 }
 
@@ -84,7 +89,17 @@ QString ServerRecords::where() const
 bool ServerRecords::read(const Write &work)
 {
     m_error.clear();
-    return m_server.transaction(work, &m_error, false) == ServerConnection::Result::Done;
+    // Every statement of a read sees the same moment: a validator's row and its channels are
+    // from one store, whoever commits in between.
+    const auto snapshot = [&work](QSqlDatabase &db, QString *error) {
+        QSqlQuery q(db);
+        if (!q.exec(QStringLiteral("SET TRANSACTION ISOLATION LEVEL REPEATABLE READ READ ONLY"))) {
+            *error = q.lastError().text();
+            return false;
+        }
+        return work(db, error);
+    };
+    return m_server.transaction(snapshot, &m_error, false) == ServerConnection::Result::Done;
 }
 
 ServerRecords::Change ServerRecords::saveRow(const QString &table, const QString &keyColumn,
@@ -221,12 +236,8 @@ ValidatorStore::Outcome ServerRecords::storeValidator(const ConfigImage &image,
                 columns.append(QStringLiteral("prix%1").arg(i));
                 values.append(int(image.prices[std::size_t(i)]));
             }
-            columns.append(QStringLiteral("revision"));
-            QString sql =
+            const QString sql =
                 upsert(QStringLiteral("validators"), QStringLiteral("ident_key"), columns);
-            sql.replace(QStringLiteral("VALUES (%1)").arg(placeholders(int(values.size()) + 1)),
-                        QStringLiteral("VALUES (%1,nextval('tarvik_revision'))")
-                            .arg(placeholders(int(values.size()))));
             if (!runSql(q, sql, values, error) ||
                 !runSql(q, QStringLiteral("DELETE FROM channels WHERE ident_key = ?"),
                         {ident.toLower()}, error))
@@ -398,26 +409,23 @@ ProfileStore::Outcome ServerRecords::saveProfile(const ProfileRecord &profile)
     const QString key = profile.name.trimmed();
     if (key.isEmpty())
         return ProfileStore::Outcome::EmptyName;
-    const Change change = saveRow(
-        QStringLiteral("profiles"), QStringLiteral("nom_key"), key,
-        [&](QSqlDatabase &db, QString *error) {
-            QStringList columns = {QStringLiteral("nom_key"),  QStringLiteral("nom"),
-                                   QStringLiteral("descript"), QStringLiteral("sub"),
-                                   QStringLiteral("enable"),   QStringLiteral("valeur")};
-            columns += ServerSchema::toleranceColumns();
-            QVariantList values = {key.toLower(),       key,
-                                   profile.description, profile.substitute,
-                                   profile.enabled,     intOrNull(profile.value)};
-            for (const std::optional<int> &t : profile.tolerances)
-                values.append(intOrNull(t));
-            columns.append(QStringLiteral("revision"));
-            QString sql = upsert(QStringLiteral("profiles"), QStringLiteral("nom_key"), columns);
-            sql.replace(QStringLiteral("VALUES (%1)").arg(placeholders(int(values.size()) + 1)),
-                        QStringLiteral("VALUES (%1,nextval('tarvik_revision'))")
-                            .arg(placeholders(int(values.size()))));
-            QSqlQuery q(db);
-            return runSql(q, sql, values, error);
-        });
+    const Change change =
+        saveRow(QStringLiteral("profiles"), QStringLiteral("nom_key"), key,
+                [&](QSqlDatabase &db, QString *error) {
+                    QStringList columns = {QStringLiteral("nom_key"),  QStringLiteral("nom"),
+                                           QStringLiteral("descript"), QStringLiteral("sub"),
+                                           QStringLiteral("enable"),   QStringLiteral("valeur")};
+                    columns += ServerSchema::toleranceColumns();
+                    QVariantList values = {key.toLower(),       key,
+                                           profile.description, profile.substitute,
+                                           profile.enabled,     intOrNull(profile.value)};
+                    for (const std::optional<int> &t : profile.tolerances)
+                        values.append(intOrNull(t));
+                    const QString sql =
+                        upsert(QStringLiteral("profiles"), QStringLiteral("nom_key"), columns);
+                    QSqlQuery q(db);
+                    return runSql(q, sql, values, error);
+                });
     switch (change) {
     case Change::Declined:
         return ProfileStore::Outcome::NotOverwritten;
@@ -534,12 +542,8 @@ ValueTableStore::Outcome ServerRecords::saveValueTable(const ValueBlock &block, 
                                   ? QVariant(qint64(block[std::size_t(Val::Channel0 + c - 1)]))
                                   : nullInt());
             }
-            columns.append(QStringLiteral("revision"));
-            QString sql =
+            const QString sql =
                 upsert(QStringLiteral("value_tables"), QStringLiteral("identi_key"), columns);
-            sql.replace(QStringLiteral("VALUES (%1)").arg(placeholders(int(values.size()) + 1)),
-                        QStringLiteral("VALUES (%1,nextval('tarvik_revision'))")
-                            .arg(placeholders(int(values.size()))));
             QSqlQuery q(db);
             return runSql(q, sql, values, error);
         });
