@@ -58,8 +58,10 @@ constexpr Place kPlaces[] = {
     {"BtnSaved", Area::Tools},
     {"BtnBatch", Area::Tools},
     {"BtnHistory", Area::Tools},
-    {"BtnPrint", Area::Tools},
-    {"BtnPdf", Area::Tools},
+    // The configuration sheet is printed or saved from beside Close, where a form's output
+    // ends: the second bar then fits the screen in every language.
+    {"BtnPrint", Area::Closing},
+    {"BtnPdf", Area::Closing},
 };
 
 // The deepest nesting of layouts in the form: a line of a group inside a group.
