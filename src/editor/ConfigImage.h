@@ -53,6 +53,22 @@ inline constexpr int Channel0 = 4;
 inline constexpr int Conversion = 64;
 } // namespace Val
 
+// A number of count bytes of a value block from at, most significant byte first (the bases,
+// the ratio), as the tables and the server keep it.
+inline quint32 bigEndian(const ValueBlock &block, int at, int count)
+{
+    quint32 v = 0;
+    for (int i = 0; i < count; ++i)
+        v = v << 8 | block[std::size_t(at + i)];
+    return v;
+}
+
+inline void putBigEndian(ValueBlock &block, int at, int count, quint32 v)
+{
+    for (int i = count - 1; i >= 0; --i, v >>= 8)
+        block[std::size_t(at + i)] = quint8(v);
+}
+
 struct ConfigImage
 {
     VersionBlock version{};  // command 10: family byte first

@@ -25,20 +25,6 @@ int channelsOf(bool light)
     return light ? kLightChannels : kChannels;
 }
 
-quint32 bigEndian(const ValueBlock &block, int at, int count)
-{
-    quint32 v = 0;
-    for (int i = 0; i < count; ++i)
-        v = v << 8 | block[std::size_t(at + i)];
-    return v;
-}
-
-void putBigEndian(ValueBlock &block, int at, int count, quint32 v)
-{
-    for (int i = count - 1; i >= 0; --i, v >>= 8)
-        block[std::size_t(at + i)] = quint8(v);
-}
-
 // A field's text as an integer: nothing for a blank field or text that is not a whole number.
 std::optional<qint64> integer(const QString &text)
 {

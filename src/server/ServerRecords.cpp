@@ -32,20 +32,6 @@ QVariant intOrNull(const std::optional<int> &v)
     return v ? QVariant(*v) : QVariant(QMetaType::fromType<int>());
 }
 
-quint32 bigEndian(const ValueBlock &block, int at, int count)
-{
-    quint32 v = 0;
-    for (int i = 0; i < count; ++i)
-        v = v << 8 | block[std::size_t(at + i)];
-    return v;
-}
-
-void putBigEndian(ValueBlock &block, int at, int count, quint32 v)
-{
-    for (int i = count - 1; i >= 0; --i, v >>= 8)
-        block[std::size_t(at + i)] = quint8(v);
-}
-
 QString placeholders(int n)
 {
     QStringList marks;
